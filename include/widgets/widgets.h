@@ -1,0 +1,1402 @@
+/**
+ * widgets.h - everything a host of widgets.dll needs, for C11 and C++17.
+ *
+ * Conventions that hold unless a docstring says otherwise:
+ * - All texts are zero-terminated and single-byte, in the ANSI code page.
+ * - Sizes of buffers are in bytes and count the terminating zero.
+ * - Colours are COLORREF values; positions and sizes on the screen are pixels.
+ * - The library is for the thread that owns the controls: nothing is locked.
+ * - Failure is told by the result alone (null, 0 or -1), nothing is raised and nothing is logged.
+ * - Records are made and freed by the functions named with them; whoever makes a record owns it.
+ */
+#ifndef WIDGETS_WIDGETS_H
+#define WIDGETS_WIDGETS_H
+
+#include <windows.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Library and diagnostics */
+
+/**
+ * Prepares the library: common controls, cursors, international settings, window classes.
+ *
+ * The DLL calls it when a process loads it, so a host need not. Only the first call does anything.
+ */
+void WINAPI WidgetsInit(void);
+
+/**
+ * Registers a window class from the fields of a WNDCLASS, given in the order of that structure.
+ *
+ * @param style, wndProc, clsExtra, wndExtra, instance, icon, cursor, background, menuName, className  As in WNDCLASS.
+ * @return The class atom, or 0 if RegisterClassA refused.
+ */
+int WINAPI RegisterControl(UINT style, WNDPROC wndProc, int clsExtra, int wndExtra, HINSTANCE instance, HICON icon,
+                           HCURSOR cursor, HBRUSH background, const char* menuName, const char* className);
+
+/**
+ * Puts a window procedure in place of the window's own.
+ *
+ * @param hwnd     The window.
+ * @param wndProc  The new procedure.
+ * @return The procedure that was there before; null if it is wndProc already (nothing changes then).
+ */
+WNDPROC WINAPI SubclassWW(HWND hwnd, WNDPROC wndProc);
+
+/** Gives the name of the library's help file: the constant text "Widgets.hlp". */
+const char* WINAPI GetHelpName(void);
+
+/**
+ * Formats a line and hands it to the debugger (OutputDebugStringA), without adding a line end.
+ *
+ * @param format  A format of wvsprintfA; the arguments follow. Text past 255 characters is cut.
+ */
+void __cdecl WriteDebug(const char* format, ...);
+
+/** Ends the process through abort(). It prints nothing and does not return. */
+void WINAPI AssertFailedLine(void);
+
+/* Memory shells and growable arrays */
+
+/** An empty shell kept for old hosts. @return Always null. */
+void* WINAPI HMAlloc(DWORD flags, DWORD size);
+/** An empty shell kept for old hosts. @return Always null. */
+void* WINAPI HMFree(void* block);
+/** An empty shell kept for old hosts. @return Always null. */
+void* WINAPI HMReAlloc(void* block, DWORD size);
+
+/** A growable array of elements of one size. Hosts read the fields; the functions below change them. */
+typedef struct HArray {
+    DWORD cAlloc;  /**< Elements for which room exists. */
+    DWORD cGrow;   /**< Growth step that was asked for (32 for 0). Kept only: growth goes by 32 elements. */
+    DWORD cUsed;   /**< Elements in use. */
+    DWORD cbItem;  /**< Bytes of one element. */
+    DWORD fShared; /**< 1: the blocks are allocated with GMEM_SHARE. */
+    BYTE* pItems;  /**< The elements, or null. */
+} HArray;
+
+/**
+ * Makes an array.
+ *
+ * @param cbItem    Bytes of one element, not 0.
+ * @param cInitial  Elements to make room for at once; may be 0.
+ * @param cGrow     Growth step, kept for information; 0 reads as 32.
+ * @param shared    Non-zero: the blocks carry GMEM_SHARE.
+ * @return The array, to be freed with HAFree; null for cbItem 0 or without memory.
+ */
+HArray* WINAPI HANew(DWORD cbItem, DWORD cInitial, DWORD cGrow, int shared);
+/** Sets up an array record of the caller's; arguments as HANew. @return 0, or -1 for cbItem 0 or without memory. */
+int WINAPI HAInit(HArray* array, DWORD cbItem, DWORD cInitial, DWORD cGrow, int shared);
+/** Frees the elements; the record stays usable. @return 0, also for null. */
+int WINAPI HAEmpty(HArray* array);
+/** Frees the elements and the record that HANew made. @return 0, also for null. */
+int WINAPI HAFree(HArray* array);
+/** Copies the element at index to out. @return 0, or -1 if index is not in use. */
+int WINAPI HAGet(HArray* array, DWORD index, void* out);
+/** @return The element at index in place, until the array grows; null if index is not in use. */
+void* WINAPI HAGetPtr(HArray* array, DWORD index);
+/**
+ * Stores an element at any index, growing the array; elements that come between are zero.
+ *
+ * @param item  The bytes of the element; null stores zeros.
+ * @return 0, or -1 if the room cannot be made.
+ */
+int WINAPI HASet(HArray* array, DWORD index, const void* item);
+/**
+ * Opens a gap at index and stores an element there; an index not in use acts as HASet.
+ *
+ * @param item  The bytes of the element; null stores zeros.
+ * @return 0, or -1 if the room cannot be made.
+ * @note Keep room ahead (cInitial): an insertion that has to grow the array leaves the elements where they were
+ *       and the last place zero.
+ */
+int WINAPI HAInsert(HArray* array, DWORD index, const void* item);
+/** Appends an element. @param item Its bytes, not null. @return The new element in place; null without memory. */
+void* WINAPI HAPush(HArray* array, const void* item);
+/** Takes the last element off. @return Its bytes, valid until overwritten; null for an empty array. */
+void* WINAPI HAPop(HArray* array);
+/** @return The last element in place; null for an empty array. */
+void* WINAPI HAPopRef(HArray* array);
+/** Removes the element at index and closes the gap. @return 0, or -1 if index is not in use. */
+int WINAPI HARemove(HArray* array, DWORD index);
+
+/* Strings */
+
+/**
+ * Copies a text into a buffer of a known size and terminates it.
+ *
+ * @param dest  The buffer.
+ * @param src   The text; null counts as empty.
+ * @param size  Bytes of dest. 0 writes nothing; a negative size means no limit.
+ * @return The number of characters copied, at most size - 1.
+ */
+int WINAPI _fstrnzcpy(char* dest, const char* src, int size);
+/** Copies a text into a new block. @return The block, to be freed with GlobalFree; null for null or without memory. */
+char* WINAPI hstrdup(const char* text);
+/** Frees *slot if it is not null and stores hstrdup(text) there. @return The new pointer. */
+char* WINAPI hstrdup2(char** slot, const char* text);
+
+/* Item lists */
+
+/** The list is kept in order by HLListAdd. A bit of HLList.wFlags. */
+#define HLL_SORTED 0x0001
+/** The list has no node. A bit of HLList.wFlags. */
+#define HLL_EMPTY 0x0002
+
+typedef struct HLList HLList;
+
+/** Makes a node from an item. @return A block that begins with a pointer-sized link, or null. */
+typedef void*(CALLBACK* HLLALLOC)(HLList* list, const void* item);
+/** Orders a key against a node. @return Negative, 0 or positive. */
+typedef int(CALLBACK* HLLCOMPARE)(HLList* list, const void* key, void* node);
+/** Frees a node. @return 1 if freed, else 0. */
+typedef int(CALLBACK* HLLFREE)(HLList* list, void* node);
+/** Gives the item of a node, as the HLLALLOC of another list takes it. @return The item, or null. */
+typedef void*(CALLBACK* HLLITEM)(HLList* list, void* node);
+/** Orders two payloads. @return Negative, 0 or positive. */
+typedef int(CALLBACK* HLLDATACOMPARE)(const void* a, const void* b);
+
+/** A singly linked ring of nodes with a remembered cursor; its callbacks say what a node is. */
+struct HLList {
+    int            cbItem;         /**< Payload bytes of a node; -1: zero-terminated texts; 0: the callbacks know. */
+    int            cItems;         /**< Number of nodes. */
+    int            iCursor;        /**< Index of the node at pCursor. */
+    HLLALLOC       pfnAlloc;       /**< Makes a node. */
+    HLLCOMPARE     pfnCompare;     /**< Orders a key and a node. */
+    HLLFREE        pfnFree;        /**< Frees a node. */
+    HLLITEM        pfnItem;        /**< The item of a node. */
+    HLLDATACOMPARE pfnDataCompare; /**< Order of payloads for the default pfnCompare; may be null. */
+    DWORD          dwUser;         /**< A word for the owner. */
+    WORD           wFlags;         /**< HLL_ bits. */
+    void*          pHead;          /**< First node, or null. */
+    void*          pTail;          /**< Last node, or null; its link leads to the head. */
+    void*          pCursor;        /**< The node at iCursor, or null. */
+};
+
+/**
+ * Makes a list.
+ *
+ * @param cbItem  Payload bytes of a node; -1 for texts, each node as long as its text; below -1 is refused.
+ * @param pfnAlloc, pfnCompare, pfnFree, pfnItem  Callbacks, or null for the defaults: a node is the link and a copy
+ *                of the item's bytes, ordered by pfnDataCompare, else as texts without case, else as bytes.
+ * @param pfnDataCompare  Order of payloads, or null.
+ * @param sorted  Bit 0: HLListAdd keeps the order.
+ * @return The list, to be freed with HLListDestroy; null for a bad cbItem or without memory.
+ */
+HLList* WINAPI HLListCreate(int cbItem, HLLALLOC pfnAlloc, HLLCOMPARE pfnCompare, HLLDATACOMPARE pfnDataCompare,
+                            HLLFREE pfnFree, HLLITEM pfnItem, int sorted);
+/** Makes a list with the same settings and copies of the items. @param list Not null. @return The list, or null. */
+HLList* WINAPI HLListDup(HLList* list);
+/** Frees all nodes and the list. @return 1; 0 for null. */
+int WINAPI HLListDestroy(HLList* list);
+/** Frees all nodes. @return 1; 0 for null. */
+int WINAPI HLListEmpty(HLList* list);
+/** Adds an item: in its place in a sorted list, at the end otherwise. @return Its index, or -1. */
+int WINAPI HLListAdd(HLList* list, const void* item);
+/** Appends an item. @return Number of nodes - 1 after the step (also where no node could be made); -1 for null. */
+int WINAPI HLListAppend(HLList* list, const void* item);
+/**
+ * Inserts an item before the node at index; an index out of range appends.
+ *
+ * @return The index at which the item stands; -1 for a null list or without memory.
+ */
+int WINAPI HLListInsert(HLList* list, int index, const void* item);
+/** Unlinks and frees the node at index. @return 1; 0 for a null list or an index out of range. */
+int WINAPI HLListRemove(HLList* list, int index);
+/** @return The node at index (-1: the last), until it is removed; null out of range. Ascending walks are cheap. */
+void* WINAPI HLListGetItem(HLList* list, int index);
+/**
+ * Finds the node that compares equal to a key.
+ *
+ * @param key       What pfnCompare takes; null finds nothing.
+ * @param start     Index to begin at, taken modulo the count; the search wraps.
+ * @param outIndex  Receives the index, 0 when nothing was found; may be null.
+ * @return The node, or null.
+ */
+void* WINAPI HLListFind(HLList* list, const void* key, int start, int* outIndex);
+/** @return The index at which item belongs in a sorted list, before its equals. */
+int WINAPI HLListFindPlace(HLList* list, const void* item);
+/** Appends all items of src to dest, which decides by its pfnItem what is copied. @return 1, or 0 for a null list. */
+int WINAPI HLListCopy(HLList* dest, HLList* src);
+/** Moves a node. @return to, or -1 for equal or bad indexes. */
+int WINAPI HLListMove(HLList* list, int from, int to);
+/** Orders two lists node by node with a's pfnCompare, then by count. @return Negative, 0 or positive. */
+int WINAPI HLListCompare(HLList* a, HLList* b);
+
+/* Typed values
+ *
+ * Two letters type every value: the class says how it behaves (a date with time, b boolean, c and n number, d date,
+ * h character, k clock, m masked text, s text, t time, z calculator number), the type how it is stored. They stand
+ * in descriptors such as "%dl" at the head of a window text. */
+
+/** A date and time, broken down; also the stored form of type D. Ten bytes. */
+typedef struct DateTimeRec {
+    short year;   /**< Calendar year; 0: none; negative years have no year 0. */
+    BYTE  month;  /**< 1 to 12; 0: none. */
+    BYTE  day;    /**< 1 to 31; 0: none. */
+    BYTE  hour;   /**< 0 to 23. */
+    BYTE  minute; /**< 0 to 59. */
+    BYTE  second; /**< 0 to 59. */
+    BYTE  filler; /**< 0. */
+    WORD  msec;   /**< 0 to 999. */
+} DateTimeRec;
+
+/**
+ * Reads the descriptor at the head of a text: "%", class, type, and perhaps a second pair at once behind it.
+ *
+ * @param text       Not null.
+ * @param outClass   Receives the class, 's' without a valid descriptor. May be null, as all out-arguments.
+ * @param outType    Receives the type, 's' without a valid descriptor.
+ * @param outClass2  Receives the second class, or 0.
+ * @param outType2   Receives the second type; keeps its old value when there is none.
+ * @return The first character behind the descriptor; text itself without one.
+ */
+char* WINAPI GetDataTypes(const char* text, char* outClass, char* outType, char* outClass2, char* outType2);
+/** @return 1 if the letter is a data class, else 0. */
+int WINAPI ValidClass(char dataClass);
+/** @return 1 if the pair is valid, else 0. */
+int WINAPI ValidType(char dataClass, char dataType);
+/** @return Bytes of a stored value; -1 for the text classes m and s; 0 for an unknown pair. */
+int WINAPI GetDataSize(char dataClass, char dataType);
+/**
+ * Writes the text of a stored value.
+ *
+ * @param data         The stored value.
+ * @param dataClass, dataType  Its pair.
+ * @param format       Picture of the class; null or empty means the default.
+ * @param out          Receives the text, terminated.
+ * @param outSize      Bytes of out, at least 2.
+ * @param outNegative  Receives 1 if the value shows in its negative colour, else 0; may be null.
+ * @param editForm     Non-zero: the form for editing (dates and numbers differ from the display form).
+ * @return Length of the text, or 0 on failure. A number too wide for out fills it with '#' and gives 0.
+ */
+int WINAPI FormatData(const void* data, char dataClass, char dataType, const char* format, char* out, int outSize,
+                      int* outNegative, int editForm);
+/**
+ * Reads a text into a stored value.
+ *
+ * @param data     Receives the value: GetDataSize bytes, for texts the length of text plus 1.
+ * @param dataClass, dataType  The pair.
+ * @param format   Picture of the class; null or empty means the default.
+ * @param text     The text; null stores nothing and gives 0.
+ * @param noCheck  Non-zero: dates and times aren't checked against calendar and clock.
+ * @return 0 on success. Non-zero for a date or time that had to be repaired (the repaired value is stored), for a
+ *         value that the type cannot hold, and for an unknown class.
+ */
+int WINAPI ParseData(void* data, char dataClass, char dataType, const char* format, const char* text, int noCheck);
+
+/** Breaks a stored date or time down; fields that the type lacks are 0. @return 1, or 0 if it can't be converted. */
+int WINAPI DataToDateTime(DateTimeRec* rec, const void* data, char dataType);
+/** Stores a broken-down date and time as a type. @return 1, or 0 if it can't be converted. */
+int WINAPI DateTimeToData(const DateTimeRec* rec, void* data, char dataType);
+/**
+ * Checks a date.
+ *
+ * @param rec     The record.
+ * @param repair  Non-zero: a failing field is mended, and two-digit years get their century.
+ * @param checkYear, checkMonth, checkDay  Which fields count. Without the day but with year and month, the day
+ *                becomes 1 whatever repair says.
+ * @return 1 if it passes as it stood, else 0.
+ */
+int WINAPI ValidDate(DateTimeRec* rec, int repair, int checkYear, int checkMonth, int checkDay);
+/**
+ * Checks a time.
+ *
+ * @param repair      Non-zero: a failing field is mended.
+ * @param twelveHour  Non-zero: hours run from 1 to 12, else from 0 to 23.
+ * @param checkHour, checkMinute, checkSecond  Which fields count.
+ * @return 1 if it passes as it stood, else 0.
+ */
+int WINAPI ValidTime(DateTimeRec* rec, int repair, int twelveHour, int checkHour, int checkMinute, int checkSecond);
+
+/** Stores a number as a type, cut towards zero; out of the 32-bit range stores 0. @return 1, or 0 for no such type. */
+int WINAPI DoubleToNum(void* data, char dataType, double value);
+/** @return The stored number as a double; 0.0 for null or a type that is no number. */
+double WINAPI NumToDouble(const void* data, char dataType);
+/**
+ * Prints a number through a picture such as "#,##0.00;(#,##0.00)".
+ *
+ * @param picture   Null or empty means "*0.*".
+ * @param out       Receives the text.
+ * @param outSize   Bytes of out, at least 2.
+ * @param editForm  Non-zero: without literals and grouping, the minus sign always printed.
+ * @return Length of the text; 0 if it did not fit, with out full of '#'.
+ */
+int WINAPI DoubleToString(double value, const char* picture, char* out, int outSize, int editForm);
+/** Reads digits, the decimal separator and '-'; drops all else. @return The number; 0.0 for null. */
+double WINAPI StringToDouble(const char* text);
+
+/**
+ * Lays a text out over a mask, or takes it out of one.
+ *
+ * @param text     The bare text, or the masked text with strip.
+ * @param mask     '@' letter, '#' digit, '!' punctuation, '&' letter or digit, '*' any; others are literals.
+ * @param outSize  Bytes of out, at least 1.
+ * @param strip    Non-zero: keep only what the placeholders hold.
+ * @return Length of the result; 0 for null arguments or no room.
+ */
+int WINAPI MaskToString(const char* text, const char* mask, char* out, int outSize, int strip);
+/** Writes the true or false text of a picture "true;false" ("TRUE;FALSE" for null). @return Its length. */
+int WINAPI BoolToString(int value, const char* format, char* out, int outSize);
+/** Reads a colour word or up to three decimal numbers, '[' before them allowed. @return 1 if stored, else 0. */
+int WINAPI StringToColor(const char* text, COLORREF* outColor);
+/**
+ * Copies one field of a text into a buffer of the library, 255 characters at the most.
+ *
+ * @param delimiter  Ends a field.
+ * @param escape     The character behind it is copied as it stands.
+ * @param skip       Dropped, or replaced if replace is not 0. May be 0.
+ * @param outNext    Receives the place behind the delimiter, or the end of the text; may be null.
+ * @return The buffer; the next call overwrites it.
+ */
+char* WINAPI StringParse(const char* text, char delimiter, char escape, char skip, char replace, char** outNext);
+/**
+ * Gives the default description text of a button kind.
+ *
+ * @param kind     0, 1 push; 2 check; 4 three-state; others give 0.
+ * @param size     Bytes of buffer, for the library's own strings; caption is appended whole.
+ * @param caption  Stands in for the default caption; may be null.
+ * @return Length of the text.
+ */
+int WINAPI LoadDefTypeText(int kind, char* buffer, int size, const char* caption);
+
+/** Separators and default formats of the whole library. */
+typedef struct IntlSettings {
+    char  szDateFormat[16]; /**< Default date format, starts as "d/m/yyyy". */
+    char  szTimeFormat[16]; /**< Default time format, starts as "h:mm:ss". */
+    char  chTimeSep;        /**< Time separator, starts as ':'. */
+    char  chDateSep;        /**< Date separator, starts as '.'. */
+    char  chThousandSep;    /**< Thousands separator of the locale, 0 for none. */
+    char  chDecimalSep;     /**< Decimal separator of the locale. */
+    DWORD dwFlags;          /**< 0. */
+    char  szExtra1[4];      /**< Empty. */
+    char  szExtra2[4];      /**< Empty. */
+    char  szCurrency[16];   /**< Currency text. */
+} IntlSettings;
+
+/** Fills the settings from the locale and the start values. The library calls it once at start. */
+void WINAPI GetIntlSettings(void);
+/** @return The settings, alive as long as the library; a host may read and write them. */
+IntlSettings* WINAPI WWGetIntlInfo(void);
+/** Sets the date separator. @return 1; 0 for a letter, a digit or a character from 128 up. */
+int WINAPI SetDateSep(char ch);
+/** Sets the time separator. @return As SetDateSep. */
+int WINAPI SetTimeSep(char ch);
+/** Sets the decimal separator. @return As SetDateSep. */
+int WINAPI SetDecimalSep(char ch);
+/** Sets the thousands separator. @return As SetDateSep. */
+int WINAPI SetThousandsSep(char ch);
+/** Sets the default date format, 15 characters at the most, in lower case. @return 1; 0 without d, m and y in it. */
+int WINAPI SetDefDateFormat(const char* format);
+/** Sets the default time format, 15 characters at the most, in lower case. @return 1; 0 without h and m in it. */
+int WINAPI SetDefTimeFormat(const char* format);
+
+/* Control frame */
+
+/** Set around changes of the control's own; nothing in the library tests it. A bit of wFlags. */
+#define CF_UPDATING 0x0800
+/** The veto of a notification. A bit of wFlags. */
+#define CF_CANCEL 0x1000
+/** The user has changed the value since the parent cleared the bit. A bit of wFlags. */
+#define CF_CHANGED 0x2000
+/* A header of the platform, which this one includes or not, knows another CF_NULL (0) that no Windows control uses. */
+#undef CF_NULL
+/** The value is null. A bit of wFlags (a grid uses the bit otherwise). */
+#define CF_NULL 0x4000
+
+/* Control records, grid records and row nodes lie on two-byte boundaries on every architecture. */
+#pragma pack(push, 2)
+
+/** The fields with which every control record begins. A host reaches the record by WWM_GETSTATE. */
+typedef struct ControlHeader {
+    HWND  hWnd;    /**< The control's window. */
+    HWND  hParent; /**< Gets the notifications; may differ from GetParent. */
+    DWORD wId;     /**< Control id; the low 16 bits count. */
+    HFONT hFont;   /**< Current font; null: the default. */
+    WORD  wFlags;  /**< CF_ bits and the control's own. */
+    DWORD dwStyle; /**< Copy of the window style; a grid lays its own fields over it. */
+} ControlHeader;
+
+/** Message handler of a control: sets *pDefault to non-zero to ask for the default processing. */
+typedef LRESULT(CALLBACK* WWHANDLER)(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault,
+                                     void* record);
+
+/** Gives 1 if CF_CHANGED is set, else 0. */
+#define WWM_GETCHANGED 1137
+/** wParam: non-zero sets CF_CHANGED, 0 clears it. Gives 1. */
+#define WWM_SETCHANGED 1138
+/** wParam: non-zero sets CF_UPDATING, 0 clears it. Gives 1. */
+#define WWM_SETUPDATING 1143
+/** Gives 1 if CF_UPDATING is set, else 0. */
+#define WWM_GETUPDATING 1144
+/** From a child control to its owner: the child has got the focus. */
+#define WWM_CHILDFOCUS 1145
+/** From a child control to its owner: the child has lost the focus. */
+#define WWM_CHILDBLUR 1146
+/** Gives the control's record, or 0. */
+#define WWM_GETSTATE 1147
+/** lParam: the record to keep. Gives 0. For the controls' own use. */
+#define WWM_SETSTATE 1148
+/** Gives hParent, the window that gets the notifications. */
+#define WWM_GETPARENT 1149
+/** wParam: the window that is to get the notifications. Gives the old one. */
+#define WWM_SETPARENT 1150
+/** Gives the style word. */
+#define WWM_GETSTYLE 1151
+/** lParam: the new style word, stored in the record and in GWL_STYLE. Gives 1. */
+#define WWM_SETSTYLE 1152
+/** Vetoes the notification that is being sent. Gives 1. */
+#define WWM_CANCEL 1155
+/** Gives 1 if CF_NULL is set, else 0. */
+#define WWM_ISNULL 1156
+
+/**
+ * The body of a control's window procedure: fetches the record and runs the handler, then the defaults.
+ *
+ * @param handler  Runs if the window has a record, and for WM_NCCREATE.
+ * @param offset   Place of the record in the window's extra bytes.
+ * @return The handler's result, or that of the default processing if it asked for it.
+ */
+LRESULT WINAPI HandleMsg(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, WWHANDLER handler, int offset);
+/**
+ * Answers the messages that all controls have in common (WWM_*, WM_SETFONT, WM_GETFONT).
+ *
+ * @param record     The control's record.
+ * @param outResult  Receives the message's result.
+ * @return 1 if it answered, else 0.
+ */
+int WINAPI IsStdMessage(void* record, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* outResult);
+/**
+ * Sends a notification (WM_COMMAND) to the control's hParent. Host code runs inside.
+ *
+ * @param record  The control's record.
+ * @param code    The notification, cut to 16 bits.
+ * @return 1 if the parent vetoed (WWM_CANCEL), 0 if not or without a parent; code if the window is gone, and then
+ *         the record is gone too.
+ */
+int WINAPI Notify(void* record, int code);
+/** Sends WM_COMMAND with the window's id and code to its parent. Host code runs inside. @return Its answer. */
+LRESULT WINAPI NotifyParent(HWND hwnd, int code);
+/**
+ * Asks the parent for a background brush.
+ *
+ * @param kind  1 edit, 2 list, 3 button, 6 static, 21 a grid's cell control.
+ * @return The parent's answer; the white stock brush for another kind.
+ */
+HBRUSH WINAPI FireCtlColorMsg(void* record, int kind, HDC hdc);
+/** @return 2834 or 2609 by the class of the top-level window ("RWSWnd...", "DlgEdit..."), else 0. */
+int WINAPI GetParentMod(HWND hwnd);
+/** @return Average character width (low word) and height (high word) of a font in pixels; null: the system font. */
+DWORD WINAPI GetBaseUnits(HFONT hFont);
+/** EnumChildWindows callback that takes siblings out of a clip region. data: DC, window, screen RECT. @return 1. */
+BOOL CALLBACK ClipSibs(HWND hwnd, LPARAM data);
+/**
+ * Scrolls a control while the mouse is dragged outside it; pumps messages until the button comes up.
+ *
+ * @param horizontal  Non-zero: distance to the left and right counts too.
+ * @note Any message may be dispatched inside. CF_CANCEL in the record ends it.
+ */
+void WINAPI TimedScroll(void* record, int horizontal);
+/** @return The overwrite mode of all edit controls. */
+int WINAPI GetOverwriteMode(void);
+/** Sets the overwrite mode of all edit controls. @return The old mode. */
+int WINAPI SetOverwriteMode(int mode);
+
+/* Drawing */
+
+/** Text in COLOR_GRAYTEXT. */
+#define DPB_DISABLED 0x0001
+/** A dark frame around the face. */
+#define DPB_DEFAULT 0x0002
+/** Pressed face. */
+#define DPB_PRESSED 0x0004
+/** Text left-aligned. */
+#define DPB_LEFT 0x0008
+/** Text right-aligned; wins over DPB_LEFT. */
+#define DPB_RIGHT 0x0010
+/** Text embossed in white. */
+#define DPB_EMBOSS 0x0020
+/** On return the rectangle is the inner face. */
+#define DPB_INNERRECT 0x0080
+/** Flat header face. */
+#define DPB_HEADER 0x0100
+/** Upward sort mark at the right end. */
+#define DPB_SORTUP 0x0200
+/** Downward sort mark at the right end. */
+#define DPB_SORTDOWN 0x0400
+/** Face in the library's select brush. */
+#define DPB_SELECTED 0x0800
+/** Face in the library's face brush, if there is one. */
+#define DPB_LIBFACE 0x1000
+
+/**
+ * Draws a 3-D frame.
+ *
+ * @param rect  The outside; becomes the inside.
+ * @param kind  0 plain line, 1 raised, 2 ridge, 3 sunken, 4 raised by two pixels; others draw nothing.
+ * @param fill  Non-zero: the inside is filled with the brush in dc.
+ */
+void WINAPI Draw3DBorder(HDC dc, RECT* rect, int kind, int fill);
+/** Paints a control's non-client frame: a ridge with fBorder, else sunken. */
+void WINAPI HNCPaint(HWND hwnd, int fBorder);
+/**
+ * Draws a push-button or header face with a text, a bitmap or an image of the library, without flicker.
+ *
+ * @param hwnd, unused  Not read.
+ * @param rect       The face; under DPB_INNERRECT it becomes the inner face.
+ * @param flags      DPB_ bits.
+ * @param text       Caption; '^' breaks the line. May be null.
+ * @param font       Font of the text; null: that of dc.
+ * @param bitmap     Drawn instead of the text, pure green being transparent. May be null.
+ * @param textColor  Colour of the text.
+ * @param image      Index in the library's image strip, drawn instead of all else; -1 for none.
+ */
+void WINAPI DrawPushButton(HWND hwnd, HDC dc, RECT* rect, int unused, WORD flags, const char* text, HFONT font,
+                           HBITMAP bitmap, COLORREF textColor, int image);
+
+/* Grid definitions */
+
+/** Read-only grid: no editor is ever shown. Style bit. */
+#define HGS_READONLY 0x0001
+/** No grid lines. Style bit. */
+#define HGS_NOLINES 0x0002
+/** Cells on the face brush. Style bit. */
+#define HGS_FACEBACK 0x0004
+/** Every second row on the stripe brush. Style bit. */
+#define HGS_STRIPED 0x0008
+/** The last row is the blank new-record row. Style bit. */
+#define HGS_NEWROW 0x0010
+/** Row height and header height can be dragged. Style bit. */
+#define HGS_ROWSIZE 0x0020
+/** Column widths can be dragged. Style bit. */
+#define HGS_COLSIZE 0x0040
+/** A row-header strip stands at the left. Style bit. */
+#define HGS_ROWHEADERS 0x0080
+/** A column-header strip stands at the top. Style bit. */
+#define HGS_COLHEADERS 0x0100
+/** VK_DELETE deletes the selected rows while the row header is current. Style bit. */
+#define HGS_ROWDELETE 0x0200
+/** The dialog keeps Tab. Style bit. */
+#define HGS_NOTAB 0x0400
+/** Selection and editor stay up without the focus. Style bit. */
+#define HGS_KEEPSEL 0x0800
+/** The grid has a column order map; columns can be moved by their header. Style bit. */
+#define HGS_COLMAP 0x1000
+/** Selection by whole rows. Style bit. */
+#define HGS_ROWSELECT 0x2000
+/** The selection never extends. Style bit. */
+#define HGS_NOEXTEND 0x4000
+/** Without WS_VSCROLL, a navigator stands at the right. Style bit. */
+#define HGS_NAVIGATOR 0x8000
+
+/** Unit mode in the low two bits of dwStyle2: all sizes are dialog units. */
+#define HGX_DLGUNITS 0x0001
+/** Bit of dwStyle2: a fourth navigator button. */
+#define HGX_EXTRABUTTON 0x0004
+
+/** The column takes no space. Bit of HGField.wFlags. */
+#define HFF_HIDDEN 0x0001
+/** The column cannot be edited. Bit of HGField.wFlags. */
+#define HFF_READONLY 0x0004
+/** The cell stores the code (second pair) of a list, not the data. Bit of HGField.wFlags. */
+#define HFF_CODE 0x0008
+
+/** A cell of the row was written since the row was last handed to the row source. Bit of a row's flags. */
+#define HGR_DIRTY 0x0001
+/** The row was appended and is not known to the row source yet. Bit of a row's flags. */
+#define HGR_NEW 0x0002
+/** The row belongs to a scattered selection. Bit of a row's flags. */
+#define HGR_SELECTED 0x0008
+
+/** A grid definition with its rows. Made by HGridCreate, owned by the window that it is attached to. */
+typedef struct HGridData {
+    WORD    wVersion;      /**< 18506 for a new grid, or the version of its file. */
+    DWORD   dwStyle;       /**< WS_ bits in the high word, HGS_ bits in the low. */
+    DWORD   dwStyle2;      /**< HGX_ bits. */
+    short   cFixedCols;    /**< Leading columns that do not scroll. */
+    short   nRowHeight;    /**< Height of a row. */
+    short   nMinRowHeight; /**< Lowest row height in pixels; 0 until the grid was scaled to a font. */
+    short   nHdrWidth;     /**< Width of the row headers. */
+    short   nHdrHeight;    /**< Height of one band of the column header. */
+    WORD    cMinRows;      /**< Rows that the grid has at least when it is attached. */
+    char*   pszTitle;      /**< Window text; owned; may be null. */
+    HLList* pFields;       /**< Columns in their order: HGField pointers. */
+    HLList* pRows;         /**< Rows; cbItem is the size of a row's data. */
+    HLList* pFieldMap;     /**< Storage order of the columns, or null. */
+    BYTE    fEndStop;      /**< Set by HGM_SETENDSTOP. */
+    short   nHdrHeightDef; /**< Header height to which HGM_RESETSIZES returns. */
+    short   nRowHeightDef; /**< Row height to which HGM_RESETSIZES returns. */
+} HGridData;
+
+/** One column. Made by HGFieldCreate, owned by the grid that it is added to. */
+typedef struct HGField {
+    WORD           wFlags;     /**< HFF_ bits; others are kept for the host. */
+    short          nWidth;     /**< Width, at least 2. */
+    short          nHeight;    /**< Height of the drop part of a combo or list cell. */
+    short          cbSize;     /**< Bytes of the value in a row; 0: no value. */
+    char           cClass;     /**< Data class. */
+    char           cType;      /**< Data type. */
+    char           cClass2;    /**< Data class of the code, or 0. */
+    char           cType2;     /**< Data type of the code, or 0. */
+    char           cKind;      /**< Cell control: e edit, l list, c combo, d combo list, k check, q drawn by the host. */
+    DWORD          dwCtlStyle; /**< Window style of the cell control. */
+    char*          pszTitle;   /**< Caption; owned; may be null. */
+    char*          pszFormat;  /**< Format; owned; never null. */
+    short          nOffset;    /**< Offset of the value in the row data. */
+    ControlHeader* pCtl;       /**< Record of the cell control, or null. */
+    signed char    nBand;      /**< Band on which the column lies, from 0. */
+    BYTE           fBold;      /**< 1 after HGM_SETFIELDBOLD. */
+    char*          pszName;    /**< The caption as given at creation; owned. */
+} HGField;
+
+/** A definition in the stash. */
+typedef struct HGStash {
+    void*      pLink;      /**< Next record. */
+    DWORD      dwKey;      /**< First part of the key. */
+    DWORD      dwReserved; /**< 0. */
+    HGridData* pGrid;      /**< The definition; owned. */
+    char       szName[13]; /**< Second part of the key, 12 characters at the most. */
+    char       chFiller;   /**< 0. */
+    BYTE       ofs[136];   /**< The caller's OFSTRUCT, or zeros. */
+} HGStash;
+
+/**
+ * Makes a grid definition without columns.
+ *
+ * @param title       Window text; may be null.
+ * @param style       WS_ and HGS_ bits.
+ * @param style2      HGX_ bits.
+ * @param fixedCols   Leading columns that do not scroll.
+ * @param rowHeight, hdrWidth, hdrHeight  Pixels, or dialog units under HGX_DLGUNITS; negative: the defaults 20, 45, 20.
+ * @param minRows     Rows that the grid has at least when it is attached to a window.
+ * @return The definition, or null without memory.
+ */
+HGridData* WINAPI HGridCreate(const char* title, DWORD style, DWORD style2, WORD fixedCols, short rowHeight,
+                              short hdrWidth, short hdrHeight, WORD minRows);
+/** Frees a definition, its columns and their cell controls, and its rows. @return 1; 0 for null. */
+int WINAPI HGridDestroy(HGridData* grid);
+/** Removes all rows. @return 1; 0 for null. */
+int WINAPI HGridEmpty(HGridData* grid);
+/** Appends the columns and rows of src to dest and takes over its settings. @return 1; 0 if either is null. */
+int WINAPI HGridCopy(HGridData* dest, HGridData* src);
+/** @return A copy of a definition with its rows, or null. */
+HGridData* WINAPI HGridDup(HGridData* src);
+/** Compares two definitions (not their rows, dwStyle2 and bands). @return 1 if they differ, else 0. */
+int WINAPI HGridChanged(HGridData* a, HGridData* b);
+/**
+ * Scales all sizes of a definition from the base units of one font to those of another.
+ *
+ * @param fromFont, toFont  Fonts; null: the system font; (HFONT)-1: dialog units, 4 by 8.
+ * @return 1; 0 without base units, with nothing changed.
+ */
+int WINAPI HGridScale(HGridData* grid, HFONT fromFont, HFONT toFont);
+/**
+ * Makes a column.
+ *
+ * @param title      Caption; may be null.
+ * @param flags      HFF_ bits.
+ * @param width      Width in design units, at least 2.
+ * @param height     Height of the drop part.
+ * @param dataClass, dataType    The value's pair.
+ * @param dataClass2, dataType2  The code's pair, or 0.
+ * @param size       Bytes of a text value with its terminator; other classes know their size.
+ * @param kind       Letter of the cell control, see HGField.cKind.
+ * @param ctlStyle   Window style of the cell control.
+ * @param format     Format; null: empty.
+ * @param band       Band, from 0.
+ * @return The column, or null without memory.
+ */
+HGField* WINAPI HGFieldCreate(const char* title, WORD flags, short width, WORD height, char dataClass, char dataType,
+                              char dataClass2, char dataType2, WORD size, char kind, DWORD ctlStyle,
+                              const char* format, BYTE band);
+/** Frees a column that no grid owns. @return 1; 0 for null. */
+int WINAPI HGFieldDestroy(HGField* field);
+/** @return A copy of a column (its width passes the DPI scaling once more), or null. */
+HGField* WINAPI HGFldDup(HGField* field);
+/** Inserts a column; rows keep their values. @return Its index, or -1. A position past the end appends. */
+int WINAPI HGInsertFld(HGridData* grid, HGField* field, short position);
+/** Computes the offsets of all columns and the row size anew. */
+void WINAPI HGFixOffsets(HGridData* grid);
+/** Gives a grid a column order map. @return 1; 0 if it has one. */
+int WINAPI HGCreateFldMap(HGridData* grid);
+
+/* Cells. Columns and rows count from 0; rows are the loaded ones. */
+
+typedef struct HGridCtl HGridCtl;
+
+/**
+ * Copies a cell's value.
+ *
+ * @param out  Receives the value: the column's cbSize bytes, zeros for a null cell.
+ * @return 1 if the cell holds a value; 0 if it is null or doesn't exist.
+ */
+int WINAPI HGGetCellData(HWND hwnd, int col, int row, void* out);
+/**
+ * Writes a cell as a user's entry would, and shows it if the cell is current. Host code runs inside.
+ *
+ * @param value  The value, cbSize bytes or a text; null makes the cell null.
+ * @return 1 if the write went through; 0 if it was refused or the cell doesn't exist.
+ */
+int WINAPI HGSetCellData(HWND hwnd, int col, int row, const void* value);
+/** Writes the text of a cell. @return Its length; 0 for a cell that doesn't exist. */
+int WINAPI HGGetCellText(HWND hwnd, int col, int row, char* out, int outSize);
+/** Parses a text by the column's type and writes it. Host code runs inside. @return As HGSetCellData. */
+int WINAPI HGSetCellText(HWND hwnd, int col, int row, const char* text);
+/** As HGSetCellData, without showing the value in the editor of the current cell. */
+int WINAPI HGSetCellString(HWND hwnd, int col, int row, const void* value);
+/** Copies a cell's value to another row; a rowFrom out of range makes the target null. @return As HGSetCellData. */
+int WINAPI HGCopyCellData(HWND hwnd, int col, int rowFrom, int rowTo);
+/** @return 1 if the cell is null, else 0. */
+int WINAPI HGIsCellNull(HWND hwnd, int col, int row);
+/** @return 1 if the cell is null. @param ctl The grid's record. col and row must be valid. */
+int WINAPI IsCellNull(HGridCtl* ctl, int col, int row);
+/** @return Place of a column's value in a row's data; null if there is none. */
+void* WINAPI HGOffsetPtr(HWND hwnd, int col, void* rowData);
+
+/* Stash */
+
+/** Makes the library's stash list; a host calls it once. @return The list. */
+HLList* WINAPI HGCreateStash(void);
+/** @return The stash list, or null. */
+HLList* WINAPI HGGetStash(void);
+/**
+ * Puts a definition into the stash, which owns it from then on.
+ *
+ * @param key, name  The key; the first 12 characters of name count, without case.
+ * @param ofs        An OFSTRUCT to keep, or null.
+ * @return The entry's index, or -1 without a stash.
+ */
+int WINAPI StashGrid(HGridData* grid, DWORD key, const char* name, const OFSTRUCT* ofs);
+/** Finds an entry. @param outIndex Receives its index, else 0; may be null. @return The record, or null. */
+HGStash* WINAPI GetStashed(DWORD key, const char* name, int* outIndex);
+/** Removes an entry and destroys its definition. @return 1; 0 if there is none. */
+int WINAPI RemoveStashed(DWORD key, const char* name);
+/** Keeps a word for the host. @return The word. */
+DWORD WINAPI HGStashFld(DWORD value);
+/** @return The word that HGStashFld keeps. */
+DWORD WINAPI HGGetFldStash(void);
+
+/* Grid files */
+
+/** Reads or writes count bytes. @return 0 on success. */
+typedef int(CALLBACK* HGTRANSFER)(void* context, void* buffer, int count);
+
+/**
+ * Writes a definition (not its rows) through a function.
+ *
+ * @param write    Gets the bytes, with context.
+ * @param version  0x4847 to 0x484A; 0x484A is the present one.
+ * @return 1; 0 for another version or a failed write.
+ */
+int WINAPI HGSave(HGTRANSFER write, void* context, int version, HGridData* grid);
+/** Reads a definition through a function. @return The grid, with the columns read so far; null if it isn't one. */
+HGridData* WINAPI HGLoad(HGTRANSFER read, void* context);
+/**
+ * Reads a definition from a file.
+ *
+ * @param name  File name, below 115 characters; without a point in it, ".GRS" is appended.
+ * @param ofs   Receives what OpenFile tells, zeros on failure; may be null.
+ * @return The grid, or null.
+ */
+HGridData* WINAPI HGridLoad(const char* name, OFSTRUCT* ofs);
+
+/* Grid window */
+
+/* Operations of a row source */
+/** Fill buffer with a record. 0: there is no such record. */
+#define HGSRC_FETCH 0
+/** A changed row leaves the block. */
+#define HGSRC_WRITEBACK 1
+/** A row is to be inserted as this record. 0 refuses. */
+#define HGSRC_INSERT 2
+/** The record is to be deleted. 0 refuses. */
+#define HGSRC_DELETE 3
+/** The record has changed. Non-zero: stored. */
+#define HGSRC_UPDATE 4
+/** A cell is to be written: record has the column in its low word, the loaded row in its high word. Non-zero refuses. */
+#define HGSRC_CELL 5
+/** A record is to be appended. Non-zero: stored. */
+#define HGSRC_APPEND 6
+/** How many records are there? */
+#define HGSRC_COUNT 7
+
+/** Supplies the records of a grid whose rows are a block of a larger set. buffer is a row's data. */
+typedef int(CALLBACK* HGROWSOURCE)(HWND hwnd, int operation, int record, void* buffer);
+/** Paints a part of the library's buttons. @return Non-zero if it has painted. */
+typedef int(CALLBACK* HGDRAWPART)(int part, HDC hdc, RECT* rect, int enabled, int pressed, int reserved);
+
+/** A mouse button is down. Bit of HGridCtl.wFlags. */
+#define HGC_MOUSEDOWN 0x0001
+/** The current cell is shown. Bit of HGridCtl.wFlags. */
+#define HGC_CELLSHOWN 0x0002
+/** The bottom row of the page is partly visible. Bit of HGridCtl.wFlags. */
+#define HGC_PARTIALROW 0x0004
+/** A guide line is on the screen. Bit of HGridCtl.wFlags. */
+#define HGC_XORLINE 0x0008
+/** A column drag is under way. Bit of HGridCtl.wFlags. */
+#define HGC_COLDRAG 0x0010
+/** The editor is shown over the current cell. Bit of HGridCtl.wFlags. */
+#define HGC_EDITORSHOWN 0x0020
+/** The focus is in the editor. Bit of HGridCtl.wFlags. */
+#define HGC_INEDIT 0x0040
+/** The selection is a range. Bit of HGridCtl.wFlags. */
+#define HGC_RANGE 0x0080
+/** The grid has a row source. Bit of HGridCtl.wFlags. */
+#define HGC_VIRTUAL 0x0400
+/** The next scroll sends no scroll notifications. Bit of HGridCtl.wFlags. */
+#define HGC_QUIETSCROLL 0x4000
+/** Rows of the range being dragged read as selected. Bit of HGridCtl.wFlags. */
+#define HGC_SELECTING 0x8000
+
+/** Record of a grid window, from WWM_GETSTATE. A host reads it and changes it by messages. */
+struct HGridCtl {
+    HWND        hWnd;         /**< The grid's window. */
+    HWND        hParent;      /**< Gets the notifications. */
+    DWORD       wId;          /**< Control id. */
+    HFONT       hFont;        /**< Font; null: the default. */
+    WORD        wFlags;       /**< HGC_ and CF_ bits. */
+    HBRUSH      hBkBrush;     /**< Brush where no cell is; null: the library's. */
+    WORD        nFirstCol;    /**< First column of the scrolling zone. */
+    short       nTopRow;      /**< Top visible row among the loaded ones. */
+    LONG        lRowBase;     /**< Record number of loaded row 0. */
+    short       cPageRows;    /**< Rows that fit, at least 1. */
+    WORD        nPropCol;     /**< Column proposed by the move under way. */
+    WORD        nPropRow;     /**< Row proposed by the move under way, or concerned by a row notification. */
+    short       nAnchorCol;   /**< Column of the selection anchor, -1 for all. */
+    short       nAnchorRow;   /**< Row of the selection anchor, -1 for all. */
+    WORD        nCurCol;      /**< Current column, 0xFFFF for the row header. */
+    WORD        nCurRow;      /**< Current row, 0xFFFF for the column header. */
+    HWND        hEditor;      /**< Cell control of the current column while it may be edited, or null. */
+    void*       pRowMirror;   /**< Caller's copy of the current row's data, or null. */
+    HGridData*  pData;        /**< Columns and rows. */
+    short       cHeldRows;    /**< With a row source, rows that should stay loaded; else the row count. */
+    LONG        nVScale;      /**< Records per unit of the vertical scroll bar. */
+    DWORD       nVScrollPos;  /**< Vertical scroll position, in scroll units. */
+    LONG        nHScrollPos;  /**< Horizontal scroll position in pixels. */
+    LONG        nHScrollMax;  /**< Widest band in pixels, or 0 when all fits. */
+    DWORD       nHPage;       /**< Width of the scrolling zone in pixels. */
+    LONG        lTotalRows;   /**< Number of records. */
+    BYTE        fTotalKnown;  /**< 1 once the owner has told lTotalRows. */
+    HGROWSOURCE pfnRowSource; /**< The row source, or null. */
+    HFONT       hBoldFont;    /**< Bold copy of hFont. */
+    signed char cBands;       /**< Bands of a record, 1 to 5. */
+    HWND        hNavScroll;   /**< Scroll bar of the navigator, or null. */
+    HWND        hNavFirst;    /**< Navigator button 4188. */
+    HWND        hNavLast;     /**< Navigator button 4189. */
+    HWND        hNavNew;      /**< Navigator button 4190. */
+    HWND        hNavExtra;    /**< Navigator button 4191. */
+    HWND        hTips;        /**< Tip window, or null. */
+    WORD        nSortCol;     /**< Column whose header shows the first sort mark, 0xFFFF for none. */
+    WORD        nSortCol2;    /**< Column whose header shows the second sort mark, 0xFFFF for none. */
+    HBRUSH      hNoEditBrush; /**< Brush for cells of read-only columns. */
+};
+
+/** What a subclass of the grid gets to draw a cell of kind q: WM_SETFONT with this record in wParam. */
+typedef struct HGDrawItem {
+    const char* pszName; /**< The field's pszName. */
+    const void* pValue;  /**< The cell's value, or null. */
+    RECT        rc;      /**< The cell. */
+    HDC         hDC;     /**< Where to paint. */
+    COLORREF    crText;  /**< Text colour of the cell. */
+} HGDrawItem;
+
+#pragma pack(pop)
+
+/** Window procedure of the class "HGrid". */
+LRESULT CALLBACK HGridWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+/** Message handler of the class "HGrid", for use with HandleMsg at offset 0. */
+LRESULT CALLBACK HGridMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record);
+/** Repaints a range of cells; -1 names a header or all. @return 1. */
+int WINAPI HGridInvalidateRange(HWND hwnd, int col1, int row1, int col2, int row2);
+/** Repaints one cell; -1 names a header. @return 1, also for a cell out of view. */
+int WINAPI HGridInvalidateCell(HWND hwnd, int col, int row);
+/** Sets face brush and second brush of all grids; 0xFFFFFFFF: none. Shows at the next paint. */
+int WINAPI SetGridBckgndColor(COLORREF colorA, COLORREF colorB);
+/** As SetGridBckgndColor, and sets the third brush; 0xFFFFFFFF: none. @return 1. */
+int WINAPI SetGridBckgndColors(COLORREF colorA, COLORREF colorB, COLORREF colorC);
+/** Sets the brush of the headers of the current row and column; 0xFFFFFFFF: none, they are drawn raised. */
+int WINAPI SetGridSelectColor(COLORREF color);
+/** Sets the function that paints the library's buttons; null: they paint themselves. */
+int WINAPI SetGridDrawPartFnc(HGDRAWPART function);
+/** Switches the scaling of column widths by the screen's resolution on (non-zero) or off. */
+int WINAPI SetGridAppDPIScaling(int flag);
+/** Makes the library read the screen's resolution again at the next use. */
+int WINAPI SetGridAppDPIChanged(void);
+/** Sets the field brush of buttons, edits and lists; null: none. It stays the caller's. */
+int WINAPI SetBkgndFocusBrush(HBRUSH brush);
+
+/*
+ * Grid messages. c is a column index, r a row among the loaded ones, a packed cell has the column in its low word and
+ * the row in its high word. "Default" means that the message goes on to DefWindowProcA, which gives 0.
+ */
+
+/** Gives hBkBrush. */
+#define HGM_GETBKBRUSH 1124
+/** wParam: brush, kept by the caller. lParam: non-zero repaints. Passed on to the cell controls. Gives the old brush. */
+#define HGM_SETBKBRUSH 1125
+/** Gives the number of bands. */
+#define HGM_GETBANDS 1250
+/** lParam: bands, 1 to 5. Columns beyond move to the last band. Gives 1, or 0 for a bad number. No repaint. */
+#define HGM_SETBANDS 1251
+/** wParam: position. Gives the column's band; 0 without such a column. */
+#define HGM_GETFIELDBAND 1252
+/** wParam: position. lParam: band. Gives 1; 0 for a band that the grid hasn't. */
+#define HGM_SETFIELDBAND 1253
+/** wParam: non-zero refreshes. lParam: HGridData, owned by the grid from then on. Gives 1; 0 for a bad record. */
+#define HGM_SETDATA 1324
+/** Gives the HGridData, which stays the grid's. */
+#define HGM_GETDATA 1325
+/** Empties the grid. wParam: non-zero refreshes. Default. */
+#define HGM_RESET 1326
+/** Takes a change of data over into layout, scroll bars and current cell. wParam: non-zero erases. Default. */
+#define HGM_REFRESH 1329
+/** Gives the height of one header band. */
+#define HGM_GETHEADERHEIGHT 1334
+/** wParam: height in pixels, negative becomes 0. lParam: non-zero refreshes. Default. */
+#define HGM_SETHEADERHEIGHT 1335
+/** Gives the width of the row headers. */
+#define HGM_GETROWHDRWIDTH 1336
+/** wParam: width in pixels, negative becomes 0. lParam: non-zero refreshes. Default. */
+#define HGM_SETROWHDRWIDTH 1337
+/** Gives the row height. */
+#define HGM_GETROWHEIGHT 1338
+/** wParam: height in pixels, bounded to 2 .. 2000. lParam: non-zero refreshes. Default. */
+#define HGM_SETROWHEIGHT 1339
+/** Gives the number of columns. */
+#define HGM_GETCOLCOUNT 1340
+/** Gives the number of loaded rows. */
+#define HGM_GETROWCOUNT 1341
+/** Gives the first column of the scrolling zone. */
+#define HGM_GETFIRSTCOL 1342
+/** wParam: x. Scrolls without notifications by x less the position less the fixed columns. Gives nFirstCol. */
+#define HGM_SETFIRSTCOL 1343
+/** Gives the record number of the top row. */
+#define HGM_GETTOPRECORD 1344
+/** wParam, lParam: the higher of both is the record. Scrolls to it without notifications. Gives the new top record. */
+#define HGM_SETTOPRECORD 1345
+/** Gives the number of fixed columns. */
+#define HGM_GETFIXEDCOLS 1346
+/** wParam: fixed columns, at most all. Refreshes. Default. */
+#define HGM_SETFIXEDCOLS 1347
+/** lParam: pointer to a DWORD, or 0. Gives the packed anchor of the selection. */
+#define HGM_GETANCHOR 1348
+/** lParam: packed cell that becomes the anchor; the current cell stays. Default. */
+#define HGM_SETANCHOR 1349
+/** lParam: pointer to a DWORD, or 0. Gives the packed current cell. */
+#define HGM_GETCURSOR 1350
+/** wParam: non-zero extends the selection. lParam: packed cell to move to; host code runs inside. Default. */
+#define HGM_SETCURSOR 1351
+/** Gives wFlags. */
+#define HGM_GETFLAGS 1352
+/** wParam: 0 clears, else sets. lParam: mask on wFlags. Default. */
+#define HGM_SETFLAGS 1353
+/** wParam: size. lParam: buffer. Copies the grid's title. Gives the count copied. */
+#define HGM_GETTITLE 1354
+/** lParam: text, copied; null gives 0. Default. */
+#define HGM_SETTITLE 1355
+/** lParam: HGField, owned by the grid from then on. Gives the index at which it stands, or -1. */
+#define HGM_ADDFIELD 1356
+/** wParam: c. Gives 1; 0 for a bad column. */
+#define HGM_DELETEFIELD 1357
+/** wParam: c. lParam: HGField, owned by the grid from then on. Gives its index, or -1. */
+#define HGM_INSERTFIELD 1358
+/** wParam: from. lParam: to. Gives the new index, or -1. */
+#define HGM_MOVEFIELD 1359
+/** wParam: non-zero marks the row new. lParam: row data, or 0. Gives the row index + 1; below 1 on failure. */
+#define HGM_ADDROW 1360
+/** wParam: r. Deletes without notification. Gives 1, or 0. */
+#define HGM_DELETEROW 1361
+/** wParam: r. lParam: row data, or 0. Gives the new index, or -1. */
+#define HGM_INSERTROW 1362
+/** wParam: from. lParam: to. Moves a row in the list. Gives the new index, or -1. */
+#define HGM_MOVEROW 1363
+/** Gives the record number of loaded row 0. */
+#define HGM_GETROWBASE 1364
+/** wParam, lParam: the higher of both becomes the row base. Default. */
+#define HGM_SETROWBASE 1365
+/** lParam: buffer for the current row's data. Gives 1; 0 without a buffer or a current row. */
+#define HGM_READCURROW 1368
+/** lParam: column title. Gives its index, or -1. */
+#define HGM_FINDFIELD 1370
+/** lParam: array of int, one for each column. Gives 1; 0 without HGS_COLMAP. */
+#define HGM_GETCOLORDER 1371
+/** lParam: array of int, one for each column. Reorders the columns. Gives 1; 0 without HGS_COLMAP. */
+#define HGM_SETCOLORDER 1372
+/** Gives the row source, or 0. */
+#define HGM_GETROWSOURCE 1373
+/** lParam: HGROWSOURCE, or 0. Empties the grid and loads from the source. Gives the old function. */
+#define HGM_SETROWSOURCE 1374
+/** Gives the number of records. */
+#define HGM_GETTOTAL 1375
+/** lParam: number of records; 0: unknown. Gives 1; 0 without a row source. */
+#define HGM_SETTOTAL 1376
+/** Gives the number of rows that should stay loaded. */
+#define HGM_GETHELD 1377
+/** lParam: rows that should stay loaded. Gives the number in force; 0 without a row source. */
+#define HGM_SETHELD 1378
+/** wParam: 0 clears, else sets. lParam: mask on the stored style word; GWL_STYLE stays. Gives 1. */
+#define HGM_SETSTYLEBITS 1380
+/** wParam: c. Gives its place in the storage order, or -1. */
+#define HGM_COLTOPOS 1381
+/** wParam: position. Gives the column there, or -1. */
+#define HGM_POSTOCOL 1382
+/** lParam: record. Gives its loaded row, or -1. */
+#define HGM_RECORDTOROW 1383
+/** Gives the packed proposed cell. */
+#define HGM_GETPROPOSED 1384
+/** lParam: packed cell, bounded to the grid. Redirects the move of HGN_MOVING and HGN_EXTENDING. Gives 1. */
+#define HGM_SETPROPOSED 1385
+/** Gives the horizontal scroll position in pixels. */
+#define HGM_GETHPOS 1386
+/** Gives the vertical scroll position in scroll units. */
+#define HGM_GETVPOS 1387
+/** wParam: x in pixels. Scrolls without notifications. Gives the new position. */
+#define HGM_SETHPOS 1388
+/** wParam: position in scroll units. Scrolls without notifications. Gives the new position. */
+#define HGM_SETVPOS 1389
+/** Gives the highest vertical position in scroll units. */
+#define HGM_GETVMAX 1390
+/** Gives the widest band in pixels, or 0 when all fits. */
+#define HGM_GETHMAX 1391
+/** wParam: places in the array. lParam: array of int for the selected rows, ascending. Gives how many were stored. */
+#define HGM_GETSELROWS 1392
+/** Gives the number of selected rows. */
+#define HGM_GETSELCOUNT 1393
+/** wParam: r. Toggles the row's selection as a Ctrl-click does. Gives the new state. */
+#define HGM_TOGGLEROW 1394
+/** Acts as Ctrl+Home. Default. */
+#define HGM_KEYFIRST 1395
+/** Acts as Ctrl+End. Default. */
+#define HGM_KEYLAST 1396
+/** Acts as Insert. Default. */
+#define HGM_KEYNEW 1397
+/** Acts as Up. Default. */
+#define HGM_KEYUP 1398
+/** Acts as Down. Default. */
+#define HGM_KEYDOWN 1399
+/** wParam: r. Gives the row's flags (HGR_); default for a bad row. */
+#define HGM_GETROWFLAGS 1404
+/** wParam: r. lParam: low word 0 clears, else sets; high word mask. Gives the new flags; default for a bad row. */
+#define HGM_SETROWFLAGS 1405
+/** wParam: r. lParam: buffer for the row's data. Gives 1; 0 for a bad row or no buffer. */
+#define HGM_READROW 1406
+/** wParam: r. lParam: row data. Gives 1; 0 for a bad row or no data. */
+#define HGM_WRITEROW 1407
+/** Gives the buffer that HGM_SETROWMIRROR set. */
+#define HGM_GETROWMIRROR 1408
+/** lParam: buffer that follows the current row's data, or 0; kept by the caller. */
+#define HGM_SETROWMIRROR 1409
+/** Gives the bytes of a row's data. */
+#define HGM_GETROWSIZE 1410
+/** wParam: r. Gives 1 if the row is selected, else 0. */
+#define HGM_ISROWSELECTED 1411
+/** wParam: c that shows the first sort mark; 0xFFFF for none. Gives 1. */
+#define HGM_SETSORTCOL 1412
+/** wParam: c that shows the second sort mark; 0xFFFF for none. Gives 1. */
+#define HGM_SETSORTCOL2 1413
+/** lParam: record to move to. Default. */
+#define HGM_GOTORECORD 1414
+/** Computes page, ranges and scroll bars anew. Gives 1. */
+#define HGM_RECALC 1415
+/** wParam: c in the low word; high word 0 descending. lParam: array of DWORD sorted along, or 0. Default. */
+#define HGM_SORT 1422
+/** lParam: r in the high word. Gives the address of the row's data, or 0. */
+#define HGM_GETROWPTR 1423
+
+/* Columns by position: wParam is the position. Without such a column they give 0. */
+
+/** Gives the window of the cell control, or 0. */
+#define HGM_GETFIELDCHILD 1424
+/** Gives the style of the cell control. */
+#define HGM_GETFIELDSTYLE 1425
+/** Gives the letter of the cell control. */
+#define HGM_GETFIELDKIND 1426
+/** Gives the second data class. */
+#define HGM_GETFIELDCLASS2 1427
+/** Gives the second data type. */
+#define HGM_GETFIELDTYPE2 1428
+/** Gives the data class. */
+#define HGM_GETFIELDCLASS 1429
+/** Gives the bytes of a value. */
+#define HGM_GETFIELDSIZE 1430
+/** Gives the data type. */
+#define HGM_GETFIELDTYPE 1431
+/** lParam: buffer of at least HGM_GETFIELDFORMATLEN + 1 bytes. Gives 1. */
+#define HGM_GETFIELDFORMAT 1432
+/** lParam: format, copied and passed on to the cell control; null changes nothing. Gives 1. */
+#define HGM_SETFIELDFORMAT 1433
+/** Gives the length of the format. */
+#define HGM_GETFIELDFORMATLEN 1434
+/** lParam: buffer of at least HGM_GETFIELDTITLELEN + 1 bytes. Gives 1. */
+#define HGM_GETFIELDTITLE 1435
+/** Gives the length of the title. */
+#define HGM_GETFIELDTITLELEN 1436
+/** lParam: title, copied. Gives 1. */
+#define HGM_SETFIELDTITLE 1437
+/** Gives the width in design units. */
+#define HGM_GETFIELDWIDTH 1438
+/** lParam: width in design units, bounded to 2 .. 2000. Gives 1. */
+#define HGM_SETFIELDWIDTH 1439
+/** Gives the drop height. */
+#define HGM_GETFIELDDROP 1440
+/** lParam: drop height. Gives 1. */
+#define HGM_SETFIELDDROP 1441
+/** Gives the flags (HFF_). */
+#define HGM_GETFIELDFLAGS 1442
+/** lParam: low word 0 clears, else sets; high word mask. Gives 1. */
+#define HGM_SETFIELDFLAGS 1443
+/** Gives the offset of the value in a row's data. */
+#define HGM_GETFIELDOFFSET 1446
+/** Gives 0. */
+#define HGM_GETFIELDRESERVED 1447
+
+/** wParam: HDC. Asks the grid's parent for the background of a cell control. Gives its brush. */
+#define HGM_CTLCOLOR 1448
+/** wParam: position. Shows the column's cell control in bold. Gives 1; 0 without a bold font. */
+#define HGM_SETFIELDBOLD 1449
+/** wParam: low byte non-zero: moves down stop at the last record. Default. */
+#define HGM_SETENDSTOP 1450
+/** Row and header height go back to their defaults. lParam: non-zero refreshes. Default. */
+#define HGM_RESETSIZES 1451
+/** wParam: position. lParam: buffer of at least HGM_GETFIELDNAMELEN + 1 bytes. Gives 1. */
+#define HGM_GETFIELDNAME 1452
+/** wParam: position. Gives the length of the name. */
+#define HGM_GETFIELDNAMELEN 1453
+/** wParam: packed cell. lParam: buffer of 256 bytes. Gives the length of the text. */
+#define HGM_GETCELLTEXT 1454
+/** wParam: first column to look at. lParam: title. Gives the next visible column of that title, or -1. */
+#define HGM_FINDFIELDFROM 1455
+
+/*
+ * Grid notifications: WM_COMMAND to hParent, with the grid's id in the low word of wParam, the code in the high word,
+ * and the grid's window in lParam.
+ */
+
+/** The grid has got the focus. */
+#define HGN_SETFOCUS 1
+/** The focus has left the grid and its cell controls. */
+#define HGN_KILLFOCUS 2
+/** The current cell has changed. */
+#define HGN_MOVED 3
+/** A double click, after the move. */
+#define HGN_DBLCLK 4
+/** The grid is being destroyed; its rows are still there. */
+#define HGN_DESTROY 5
+/** The right button went down. */
+#define HGN_RBUTTONDOWN 6
+/** A scroll asks for rows above record 0. */
+#define HGN_ABOVETOP 15
+/** A scroll asks for rows beyond the end; the parent may add some. */
+#define HGN_BELOWEND 16
+/** A new-record row has come into being: the proposed row. */
+#define HGN_NEWROW 17
+/** The current row has changed, after HGN_MOVED. */
+#define HGN_ROWCHANGED 18
+/** The proposed cell was written. A veto keeps the value but makes the write fail. */
+#define HGN_CELLCHANGED 19
+/** The proposed row is about to be deleted by the user. */
+#define HGN_ROWDELETING 20
+/** Columns were moved by dragging. */
+#define HGN_COLSMOVED 21
+/** Row height or header height was dragged. */
+#define HGN_HEIGHTCHANGED 22
+/** A width was dragged. */
+#define HGN_WIDTHCHANGED 23
+/** Before a move to the proposed cell, which HGM_SETPROPOSED may change. */
+#define HGN_MOVING 24
+/** Before a move that extends the selection; as HGN_MOVING. */
+#define HGN_EXTENDING 25
+/** The grid has scrolled across. */
+#define HGN_HSCROLLED 32
+/** The grid has scrolled down or up. */
+#define HGN_VSCROLLED 33
+/** The width to scroll over was set. */
+#define HGN_HRANGE 34
+/** Page and totals are fresh. */
+#define HGN_LAYOUT 35
+/** The cell control has handed its value over. */
+#define HGN_EDITDONE 36
+/** The cell control has got the focus. */
+#define HGN_EDITFOCUS 37
+/** Sent to GetParent before a navigator or vertical scroll step; a non-zero answer cancels it. */
+#define HGN_NAVIGATE 38
+/** The fourth navigator button was pressed. */
+#define HGN_NAVEXTRA 39
+/** The cell control has lost the focus. */
+#define HGN_EDITBLUR 41
+/** The drop window of the cell control has opened. */
+#define HGN_DROPOPEN 42
+/** The drop window of the cell control has closed. */
+#define HGN_DROPCLOSE 43
+/** An item of the drop window was picked. */
+#define HGN_DROPPICK 44
+/** The value of the cell control has changed. */
+#define HGN_CHILDCHANGE 45
+
+/* Edit control: the classes "HEdit" and "HEdit_SS" */
+
+/** Display form centred. Style bit. */
+#define HES_CENTER 0x0001
+/** Display form right-aligned. Style bit. */
+#define HES_RIGHT 0x0002
+/** Typed characters become upper case. Style bit. */
+#define HES_UPPERCASE 0x0008
+/** Typed characters become lower case. Style bit. */
+#define HES_LOWERCASE 0x0010
+/** Every character shows as the password character; no cut, no copy. Style bit. */
+#define HES_PASSWORD 0x0020
+/** The text may be wider than the field. Style bit. */
+#define HES_AUTOHSCROLL 0x0080
+/** The selection shows without the focus. Style bit. */
+#define HES_KEEPSEL 0x0100
+/** The control paints a frame of its own. Style bit. */
+#define HES_FRAME 0x0200
+/** A brush of its own while focused. Style bit. */
+#define HES_FOCUSBRUSH 0x0400
+/** Edit form right-aligned. Style bit. */
+#define HES_EDITRIGHT 0x0800
+/** WM_GETDLGCODE asks for all keys. Style bit. */
+#define HES_ALLKEYS 0x1000
+/** No typing, cut or paste. Style bit. */
+#define HES_READONLY 0x2000
+/** Deleting all text makes the value null. Style bit. */
+#define HES_CLEARALL 0x4000
+/** Neither caret nor selection. Style bit. */
+#define HES_STATIC 0x8000
+
+/** Checks a value of an edit control. @return 0 to accept it. */
+typedef int(CALLBACK* HEVALIDATE)(HWND hwnd, int id, void* data);
+
+/** wParam: size. lParam: buffer. Commits, then copies the value. Gives the bytes copied; 0 for the null value. */
+#define HEM_GETDATA 1064
+/** lParam: value, or 0 for null. Gives 1; -5 without memory. */
+#define HEM_SETDATA 1065
+/** lParam: RECT that receives the text area. Gives 1; -2 for null. */
+#define HEM_GETRECT 1066
+/** wParam: non-zero repaints. lParam: RECT of the text area, or 0 for the client area. Gives 1. */
+#define HEM_SETRECT 1067
+/** Gives the most characters of the text. */
+#define HEM_GETLIMIT 1068
+/** Gives the overwrite mode. */
+#define HEM_GETOVERWRITE 1069
+/** wParam: overwrite mode of all edit controls. Gives 1. */
+#define HEM_SETOVERWRITE 1070
+/** Gives the password character. */
+#define HEM_GETPASSWORDCHAR 1071
+/** wParam: password character. Gives 1; -3 for 0. */
+#define HEM_SETPASSWORDCHAR 1072
+/** Gives the characters scrolled off. */
+#define HEM_GETSCROLL 1073
+/** wParam: characters to scroll off. Gives 1. */
+#define HEM_SETSCROLL 1074
+/** wParam: non-zero commits. lParam: with wParam, 0 keeps the text as it is. Gives 0 for success with wParam. */
+#define HEM_COMMIT 1077
+/** Gives the HEVALIDATE, or 0. */
+#define HEM_GETVALIDATOR 1078
+/** lParam: HEVALIDATE, or 0. Gives 1. */
+#define HEM_SETVALIDATOR 1079
+/** Gives the validator's answer; -1 without one. */
+#define HEM_VALIDATE 1080
+/** wParam: size. lParam: buffer for the selected text. Gives 1. */
+#define HEM_GETSELTEXT 1081
+/** lParam: value that receives the upper bound. Gives 1; 0 if the class has no bounds. */
+#define HEM_GETMAX 1083
+/** lParam: upper bound as a value, or 0 for none. Gives 0. */
+#define HEM_SETMAX 1084
+/** lParam: value that receives the lower bound. Gives 1; 0 if the class has no bounds. */
+#define HEM_GETMIN 1085
+/** lParam: lower bound as a value, or 0 for none. Gives 0. */
+#define HEM_SETMIN 1086
+/** Takes the focus away and gives it back. Gives 1. */
+#define HEM_REFOCUS 1087
+/** wParam: 0 editable, 1 read-only, 2 static. Gives 1. */
+#define HEM_SETREADONLY 1088
+/** Gives the background brush. */
+#define HEM_GETBRUSH 1124
+/** wParam: background brush, kept by the caller. Gives the old one. */
+#define HEM_SETBRUSH 1125
+/** wParam: size. lParam: buffer for the format. Gives the count copied. */
+#define HEM_GETFORMAT 1126
+/** wParam: non-zero repaints. lParam: format. Gives 1; -2 for null; 0 for class s. */
+#define HEM_SETFORMAT 1127
+/** Gives the brush used while focused. */
+#define HEM_GETFOCUSBRUSH 1128
+/** wParam: brush used while focused. Gives the old one. */
+#define HEM_SETFOCUSBRUSH 1129
+/** wParam: 0 text colour, else colour of negative values. Gives it. */
+#define HEM_GETCOLOR 1130
+/** wParam: 0 text colour, else colour of negative values. lParam: COLORREF. Gives 1. */
+#define HEM_SETCOLOR 1131
+/** Gives the data class. */
+#define HEM_GETCLASS 1132
+/** Gives the bytes of the value. */
+#define HEM_GETDATASIZE 1133
+/** Gives the data type. */
+#define HEM_GETTYPE 1134
+/** wParam: non-zero loads from the buffer. lParam: buffer that follows the value, or 0; kept by the caller. */
+#define HEM_LINKDATA 1136
+/** Gives wFlags. */
+#define HEM_GETFLAGS 1141
+/** wParam: mask. lParam: non-zero sets, 0 clears. Gives 1. */
+#define HEM_SETFLAGS 1142
+/** Gives the address of the text. */
+#define HEM_GETTEXTPTR 1153
+/** Gives the address of the format. */
+#define HEM_GETFORMATPTR 1154
+
+/** The control has got the focus. */
+#define HEN_SETFOCUS 0x100
+/** Enter. */
+#define HEN_RETURN 0x101
+/** Esc, and after HEN_HELP. */
+#define HEN_ESCAPE 0x102
+/** Tab. */
+#define HEN_TAB 0x107
+/** Shift+Tab. */
+#define HEN_BACKTAB 0x108
+/** A double click. */
+#define HEN_DBLCLK 0x10C
+/** F1. */
+#define HEN_HELP 0x10D
+/** The focus has left. */
+#define HEN_KILLFOCUS 0x200
+/** The text has changed. */
+#define HEN_CHANGE 0x300
+/** The text is about to be shown changed. */
+#define HEN_UPDATE 0x400
+/** A text of limited length is full. */
+#define HEN_MAXTEXT 0x501
+/** The text has scrolled. */
+#define HEN_HSCROLL 0x601
+/** The text did not parse or validate. A veto restores the old value. */
+#define HEN_BADINPUT 0x602
+/** The value is below the lower bound. A veto keeps it. */
+#define HEN_BELOWMIN 0x603
+/** The value is above the upper bound. A veto keeps it. */
+#define HEN_ABOVEMAX 0x604
+
+/** Window procedure of the classes "HEdit" and "HEdit_SS". */
+LRESULT CALLBACK HEditWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+/** Message handler of the edit classes, for use with HandleMsg at offset 0. */
+LRESULT CALLBACK HEditMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record);
+/** Installs a value in an edit control. @param data A value of its type, or null. @return 1; -2 for null ctl; -5. */
+int WINAPI HEditSetData(void* ctl, const void* data);
+/** Reads a window text into an edit control's record. @return Non-zero if its buffers could be had. */
+int WINAPI HEParseWinText(void* ctl, const char* text);
+/**
+ * Reads a bounds group "|minimum;maximum;third|" at *pText, which moves behind it. The text is modified.
+ *
+ * @param pMin, pMax, pThird  Receive the values; may be null.
+ * @return 1 for a minimum, 2 for a maximum, 4 for a third value, added up; 0 without a group.
+ */
+int WINAPI HEFindMinMaxInfo(char** pText, double* pMin, double* pMax, double* pThird, char dataClass, char dataType);
+/** Holds an edit control's value between its bounds. */
+void WINAPI BoundMinMax(void* ctl);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

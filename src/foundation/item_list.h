@@ -1,0 +1,27 @@
+// What owners of item lists with nodes of their own need besides widgets.h.
+#pragma once
+
+#include <widgets/widgets.h>
+
+// The link word that every node begins with.
+inline void* HNodeLink(const void* node)
+{
+    return *static_cast<void* const*>(node);
+}
+
+inline void HSetNodeLink(void* node, void* next)
+{
+    *static_cast<void**>(node) = next;
+}
+
+// The payload of a default node.
+inline void* HNodePayload(void* node)
+{
+    return static_cast<char*>(node) + sizeof(void*);
+}
+
+// Counts of lists: 0 for null.
+inline int HLListCount(const HLList* list)
+{
+    return list ? list->cItems : 0;
+}

@@ -1,0 +1,177 @@
+// What the sources of the grid window call of each other.
+// Records, messages and exports are in widgets.h; the row model is in griddata.
+#pragma once
+
+#include "griddata/cell_access.h"
+#include "griddata/grid_model.h"
+#include "griddata/grid_services.h"
+
+#include <widgets/widgets.h>
+
+#include <cstddef>
+
+static_assert(sizeof(void*) != 4 || (offsetof(HGridCtl, hBkBrush) == 18 && offsetof(HGridCtl, pData) == 52));
+
+// A cell: -1 names a header, or the whole row or column in a move.
+struct Cell {
+    int col;
+    int row;
+};
+
+inline bool operator==(Cell a, Cell b)
+{
+    return a.col == b.col && a.row == b.row;
+}
+
+// Packed cells have the column in the low word and the row in the high word, both signed 16-bit.
+inline DWORD PackCell(int col, int row)
+{
+    return static_cast<DWORD>((col & 0xFFFF) | (static_cast<unsigned>(row & 0xFFFF) << 16));
+}
+inline Cell UnpackCell(DWORD packed)
+{
+    return { static_cast<short>(packed & 0xFFFF), static_cast<short>(packed >> 16) };
+}
+
+// Current cell, anchor and proposed cell, with -1 for headers.
+inline Cell CurrentCell(const HGridCtl* ctl)
+{
+    return { static_cast<short>(ctl->nCurCol), static_cast<short>(ctl->nCurRow) };
+}
+inline Cell AnchorCell(const HGridCtl* ctl)
+{
+    return { ctl->nAnchorCol, ctl->nAnchorRow };
+}
+
+inline bool HasStyle(const HGridCtl* ctl, DWORD bits)
+{
+    return (ctl->pData->dwStyle & bits) != 0;
+}
+inline bool HasFlag(const HGridCtl* ctl, WORD bits)
+{
+    return (ctl->wFlags & bits) != 0;
+}
+inline void SetFlag(HGridCtl* ctl, WORD bits, bool on)
+{
+    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
+}
+inline int PartialRow(const HGridCtl* ctl)
+{
+    return HasFlag(ctl, HGC_PARTIALROW) ? 1 : 0;
+}
+inline int RecordHeight(const HGridCtl* ctl)
+{
+    return ctl->cBands * ctl->pData->nRowHeight;
+}
+inline int LastCol(const HGridCtl* ctl)
+{
+    return HGColCount(ctl->pData) - 1;
+}
+inline int LastRow(const HGridCtl* ctl)
+{
+    return HGRowCount(ctl->pData) - 1;
+}
+
+// The record of a grid's window, or null.
+HGridCtl* HGFromWindow(HWND hwnd);
+
+// Rectangles, in client pixels with right and bottom outside (grid_layout.cpp, pure arithmetic)
+void HGClientRect(HGridCtl* ctl, RECT* rect);
+void HGDataRect(HGridCtl* ctl, RECT* rect);
+void HGBelowHeaders(HGridCtl* ctl, RECT* rect);
+void HGScrollRect(HGridCtl* ctl, RECT* rect);
+void HGContentRect(HGridCtl* ctl, RECT* rect);
+int  HGColumnRect(HGridCtl* ctl, RECT* rect, int col, int row);
+int  HGRowRect(HGridCtl* ctl, RECT* rect, int row, int col, int band);
+int  HGCellRect(HGridCtl* ctl, RECT* rect, int col, int row, bool clip);
+void HGColExtent(HGridCtl* ctl, RECT* rect, int col);
+void HGRowExtent(HGridCtl* ctl, RECT* rect, int row);
+void HGBoundRight(HGridCtl* ctl, RECT* rect);
+void HGBoundBottom(HGridCtl* ctl, RECT* rect);
+void HGBoundRect(RECT* out, const RECT* a, const RECT* b);
+void HGUnionRect(RECT* out, const RECT* a, const RECT* b);
+
+// Columns and hits
+HGField* HGNextColumn(HGridCtl* ctl, bool forward, int* col, int band); // null: no more
+void     HGStepColumn(HGridData* data, bool forward, int* col);
+void     HGAddFixedWidths(HGridCtl* ctl, RECT* rect, int limit);
+void     HGAddLeftWidths(HGridCtl* ctl, RECT* rect, int col);
+int      HGWidestBand(HGridCtl* ctl); // highest sum of the visible widths of a band
+int      HGHitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band);
+int      HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band); // for painting
+
+// Ranges and scrolling
+void    HGRecalc(HGridCtl* ctl);
+void    HGRefresh(HGridCtl* ctl, bool erase);
+int     HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord);
+void    HGScrollBy(HGridCtl* ctl, int dx, int dy, bool moveEditor);
+int     HGSetTop(HGridCtl* ctl, LONG record); // rows moved
+int     HGEnsureVisible(HGridCtl* ctl, int col, int row); // the index that the row has now
+LONG    HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw); // bar 0 across, 1 down; the old value
+LRESULT HGOnHScroll(HGridCtl* ctl, WPARAM wParam);
+LRESULT HGOnVScroll(HGridCtl* ctl, WPARAM wParam);
+LRESULT HGOnMouseWheel(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault);
+void    HGPlaceNavigator(HGridCtl* ctl);
+
+// The block of a grid with a row source
+int  HGFillBlock(HGridCtl* ctl, bool atFront); // change in the row count
+void HGShiftBlock(HGridCtl* ctl, LONG record);
+void HGFetchTotal(HGridCtl* ctl);
+int  HGCallSource(HGridCtl* ctl, int operation, LONG record, void* buffer);
+
+// Rows
+int HGInsertRow(HGridCtl* ctl, const void* data, int row, bool markNew); // the index, or -1
+int HGDeleteRow(HGridCtl* ctl, int row, bool notify);
+int HGRemoveRow(HGridCtl* ctl, int row);
+int HGAppendRow(HGridCtl* ctl, const void* data); // index + 1
+
+// Moves and selection
+int  HGMoveTo(HGridCtl* ctl, int col, int row, bool extend, bool scroll);
+int  HGMoveBy(HGridCtl* ctl, int dCol, int dRow, bool extend);
+int  HGKeyNavigate(HGridCtl* ctl, UINT vk, bool shift, bool ctrl);
+void HGSelectRow(HGridCtl* ctl, int col, int row, bool shift, bool ctrl);
+void HGMarkRows(HGridCtl* ctl, int rowA, int rowB, bool state);
+bool HGSelRange(HGridCtl* ctl, int* lo, int* hi);
+bool HGIsRowSelected(HGridCtl* ctl, int row);
+
+// Keys and mouse
+LRESULT HGOnKeyDown(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault);
+LRESULT HGOnSysKeyUp(HGridCtl* ctl, WPARAM wParam, int* pDefault);
+LRESULT HGOnChar(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault);
+void    HGMouseDown(HGridCtl* ctl, LPARAM lParam);
+void    HGMouseMove(HGridCtl* ctl, LPARAM lParam);
+void    HGMouseUp(HGridCtl* ctl, LPARAM lParam);
+void    HGMouseDblClk(HGridCtl* ctl, LPARAM lParam);
+extern int gSizeZone;  // what the mouse is over: 0 nothing, see the size zones
+extern int gGuideLine; // where the guide line stands, as x or y
+
+// Editing
+int  HGReadEditor(HGridCtl* ctl);
+int  HGShowEditor(HGridCtl* ctl);
+int  HGHideEditor(HGridCtl* ctl);
+int  HGCommitEdit(HGridCtl* ctl); // 0 when the value couldn't be stored
+void HGCancelEdit(HGridCtl* ctl);
+void HGEndEdit(HGridCtl* ctl, bool commit);
+void HGFocusLost(HGridCtl* ctl);
+LRESULT HGOnSetFocus(HGridCtl* ctl, WPARAM wParam, int* pDefault);
+LRESULT HGOnKillFocus(HGridCtl* ctl, WPARAM wParam, int* pDefault);
+void    HGOnChildFocus(HGridCtl* ctl);
+void    HGOnChildBlur(HGridCtl* ctl);
+LRESULT HGOnCommand(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault);
+
+// Painting
+void    HGPaint(HGridCtl* ctl);
+LRESULT HGEraseBackground(HGridCtl* ctl, HDC hdc);
+int     HGDrawCell(HGridCtl* ctl, HDC hdc, int col, int row);
+void    HGDrawSelection(HGridCtl* ctl, HDC hdc, const DWORD* oldAnchor, const DWORD* oldCur);
+int     HGSelectionRect(HGridCtl* ctl, RECT* rect, DWORD anchor, DWORD cur, HDC hdc);
+void    HGInvertRect(HGridCtl* ctl, HDC hdc, const RECT* rect);
+void    HGFrameRect(HGridCtl* ctl, HDC hdc, const RECT* rect);
+void    HGInvertRow(HGridCtl* ctl, HDC hdc, int row); // hdc null: the window's own
+
+// Life of the window and of its cell controls
+int  HGAttachData(HGridCtl* ctl, HGridData* data);
+void HGReset(HGridCtl* ctl, bool refresh);
+int  HGCreateCellCtl(HGridCtl* ctl, HGridData* grid, HGField* field);
+int  HGCellCtlIndex(char kind); // -1 for a kind without cell control
+bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
