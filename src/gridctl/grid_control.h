@@ -75,6 +75,13 @@ inline int LastRow(const HGridCtl* ctl)
 // The record of a grid's window, or null.
 HGridCtl* HGFromWindow(HWND hwnd);
 
+// Sends a notification. False if the window went with it, and its record too: the caller returns at once then.
+inline bool HGNotify(HGridCtl* ctl, int code)
+{
+    const HWND hwnd = ctl->hWnd;
+    return Notify(ctl, code) == 0 || IsWindow(hwnd);
+}
+
 // Rectangles, in client pixels with right and bottom outside (grid_layout.cpp, pure arithmetic)
 void HGClientRect(HGridCtl* ctl, RECT* rect);
 void HGDataRect(HGridCtl* ctl, RECT* rect);

@@ -1,0 +1,204 @@
+// The editor of the current cell: one child control a column, loaded, placed, read back and put away here.
+// What the child does with the value is its own matter; the focus steps are in grid_focus.cpp.
+#include "gridctl/grid_control.h"
+
+#include "griddata/child_messages.h"
+
+#include <cstring>
+
+namespace {
+
+// How a cell control takes and gives its value, by kind. A code message of 0: the kind has no codes of its own.
+struct ValueMessages {
+    char   kind;
+    UINT   read;
+    UINT   readCode;
+    bool   readSized; // the read message takes the size in wParam
+    UINT   write;
+    UINT   writeCode;
+    WPARAM writeParam;
+};
+
+// clang-format off
+constexpr ValueMessages valueMessages[] = {
+    { 'e', HEM_GETDATA,    0,              true,  HEM_SETDATA,    0,              0 },
+    { 'q', HEM_GETDATA,    0,              true,  HEM_SETDATA,    0,              0 },
+    { 'c', HEM_GETDATA,    HLM_GETCURCODE, true,  HEM_SETDATA,    0,              0 },
+    { 'd', HLM_GETCURDATA, HLM_GETCURCODE, true,  HLM_SELECTDATA, HLM_SELECTCODE, 1 },
+    { 'l', HLM_GETCURDATA, HLM_GETCURCODE, true,  HLM_SELECTDATA, HLM_SELECTCODE, 1 },
+    { 'k', HBM_GETVALUE,   0,              false, HBM_SETVALUE,   0,              0 },
+};
+// clang-format on
+
+const ValueMessages* MessagesOf(char kind)
+{
+    for (const ValueMessages& entry : valueMessages) {
+        if (entry.kind == kind) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+HGField* CurrentField(HGridCtl* ctl)
+{
+    return HGGetField(ctl->pData, CurrentCell(ctl).col);
+}
+
+// A combo with an edit face shows the text of its code's item, as far as its first tab.
+LRESULT LoadCodeText(HWND editor, const void* code)
+{
+    const LRESULT index = SendMessageA(editor, HLM_FINDCODE, 0, reinterpret_cast<LPARAM>(code));
+    SendMessageA(editor, HEM_SETDATA, 0, reinterpret_cast<LPARAM>(""));
+    if (static_cast<int>(index) == -1) {
+        return 0;
+    }
+    char item[itemBufferSize] = {};
+    if (!SendMessageA(editor, HLM_GETDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item))) {
+        return 0;
+    }
+    item[itemBufferSize - 1] = 0;
+    item[std::strcspn(item, "\t")] = 0;
+    return SendMessageA(editor, HEM_SETDATA, 0, reinterpret_cast<LPARAM>(item));
+}
+
+// Fills buffer from the editor; false if the editor reports the null value.
+bool ReadValue(HWND editor, const HGField* field, char* buffer)
+{
+    const ValueMessages* const messages = MessagesOf(field->cKind);
+    if (!messages) {
+        return true;
+    }
+    const bool code = (field->wFlags & HFF_CODE) && messages->readCode;
+    const WPARAM size = messages->readSized ? static_cast<WPARAM>(field->cbSize) : 0;
+    return SendMessageA(editor, code ? messages->readCode : messages->read, size,
+                        reinterpret_cast<LPARAM>(buffer)) != 0;
+}
+
+} // namespace
+
+int HGLoadEditor(HGridCtl* ctl)
+{
+    const HGField* const field = ctl->hEditor ? CurrentField(ctl) : nullptr;
+    const Cell cell = CurrentCell(ctl);
+    const BYTE* const bytes = field && field->cbSize >= 1 ? HGCellPtr(ctl->pData, cell.col, cell.row) : nullptr;
+    const ValueMessages* const messages = bytes ? MessagesOf(field->cKind) : nullptr;
+    if (!messages) {
+        return 0;
+    }
+    const void* const value = IsCellNull(ctl, cell.col, cell.row) ? nullptr : bytes;
+    const bool code = (field->wFlags & HFF_CODE) != 0;
+    if (code && field->cKind == 'c') {
+        return static_cast<int>(LoadCodeText(ctl->hEditor, value));
+    }
+    const UINT message = code && messages->writeCode ? messages->writeCode : messages->write;
+    return static_cast<int>(
+        SendMessageA(ctl->hEditor, message, messages->writeParam, reinterpret_cast<LPARAM>(value)));
+}
+
+int HGReadEditor(HGridCtl* ctl)
+{
+    const HWND editor = ctl->hEditor;
+    const HGField* const field = editor ? CurrentField(ctl) : nullptr;
+    if (!field || !SendMessageA(editor, WWM_GETCHANGED, 0, 0) || field->cbSize < 1) {
+        return 1;
+    }
+    char* const buffer = static_cast<char*>(HBlockAlloc(static_cast<size_t>(field->cbSize) + 1));
+    if (!buffer) {
+        return 1;
+    }
+    const HWND hwnd = ctl->hWnd;
+    const Cell cell = CurrentCell(ctl);
+    const bool hasValue = ReadValue(editor, field, buffer);
+    const int written = IsWindow(hwnd) ? HGWriteCell(ctl, cell.col, cell.row, hasValue ? buffer : nullptr) : 0;
+    HBlockFree(buffer);
+    return written;
+}
+
+int HGShowEditor(HGridCtl* ctl)
+{
+    const Cell cell = CurrentCell(ctl);
+    if (cell.row < 0 || cell.row >= HGRowCount(ctl->pData) || !IsWindow(ctl->hEditor)) {
+        return 0;
+    }
+    RECT rect;
+    RECT zone;
+    HGCellRect(ctl, &rect, cell.col, cell.row, true);
+    HGScrollRect(ctl, &zone);
+    // Settled: bounded by the scrolling zone, an editor in a fixed column gets no width and isn't seen.
+    HGBoundRect(&rect, &rect, &zone);
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    const HWND editor = ctl->hEditor;
+    MoveWindow(editor, rect.left, rect.top, width, height, TRUE);
+    SendMessageA(editor, WM_SIZE, SIZE_RESTORED, MAKELPARAM(width, height));
+    ctl->wFlags |= HGC_EDITORSHOWN;
+    ShowWindow(editor, SW_SHOWNA);
+    return 1;
+}
+
+int HGHideEditor(HGridCtl* ctl)
+{
+    if (IsWindow(ctl->hEditor)) {
+        SetFlag(ctl, HGC_EDITORSHOWN, false);
+        ShowWindow(ctl->hEditor, SW_HIDE);
+    }
+    return 1;
+}
+
+int HGCommitEdit(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    const bool inEdit = HasFlag(ctl, HGC_INEDIT);
+    const HWND focus = GetFocus();
+    if (focus && IsChild(hwnd, focus)) {
+        SetFocus(hwnd);
+    }
+    if (!inEdit || !IsWindow(hwnd)) {
+        return inEdit ? 0 : 1;
+    }
+    const int stored = HGReadEditor(ctl);
+    if (!IsWindow(hwnd)) {
+        return 0;
+    }
+    HGInvalidateCell(ctl, CurrentCell(ctl).col, CurrentCell(ctl).row);
+    return stored;
+}
+
+void HGCancelEdit(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (GetFocus() != hwnd) {
+        SetFocus(hwnd);
+    }
+    if (IsWindow(hwnd)) {
+        HGLoadEditor(ctl);
+    }
+}
+
+void HGEndEdit(HGridCtl* ctl, bool commit)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (commit) {
+        HGCommitEdit(ctl);
+    } else {
+        HGCancelEdit(ctl);
+    }
+    if (IsWindow(hwnd)) {
+        SetFlag(ctl, HGC_INEDIT, false);
+    }
+}
+
+int HGDetachEditor(HGridCtl* ctl)
+{
+    if (!ctl->hEditor) {
+        return 0;
+    }
+    const HWND hwnd = ctl->hWnd;
+    HGEndEdit(ctl, true);
+    if (IsWindow(hwnd)) {
+        HGHideEditor(ctl);
+        ctl->hEditor = nullptr;
+    }
+    return 1;
+}
