@@ -1092,9 +1092,9 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGM_GETROWSIZE 1410
 /** wParam: r. Gives 1 if the row is selected, else 0. */
 #define HGM_ISROWSELECTED 1411
-/** wParam: c that shows the first sort mark; 0xFFFF for none. Gives 1. */
+/** lParam: c that shows the first sort mark; 0xFFFF for none. Gives 1. */
 #define HGM_SETSORTCOL 1412
-/** wParam: c that shows the second sort mark; 0xFFFF for none. Gives 1. */
+/** lParam: c that shows the second sort mark; 0xFFFF for none. Gives 1. */
 #define HGM_SETSORTCOL2 1413
 /** lParam: record to move to. Default. */
 #define HGM_GOTORECORD 1414

@@ -1,0 +1,235 @@
+// Own messages of a grid that concern rows, their data, and the record set behind them.
+#include "gridctl/grid_handlers.h"
+
+#include <algorithm>
+
+namespace {
+
+int RowOf(const MsgArgs& args)
+{
+    return static_cast<int>(args.wParam);
+}
+
+// The new row takes over what the caller hands in. Blank rows are made first, since row data hold no cell flags.
+void FillRow(HGridCtl* ctl, int row, const MsgArgs& args)
+{
+    if (args.lParam && IsWindow(args.hwnd)) {
+        HGCopyRow(ctl->pData, row, reinterpret_cast<void*>(args.lParam), true);
+    }
+}
+
+LRESULT OnAddRow(HGridCtl* ctl, const MsgArgs& args)
+{
+    const int added = HGAddRow(ctl, nullptr, args.wParam != 0);
+    if (added >= 1) {
+        FillRow(ctl, added - 1, args);
+    }
+    return added;
+}
+
+LRESULT OnDeleteRow(HGridCtl* ctl, const MsgArgs& args)
+{
+    return HGDeleteRow(ctl, RowOf(args), false);
+}
+
+LRESULT OnInsertRow(HGridCtl* ctl, const MsgArgs& args)
+{
+    const int index = HGInsertRow(ctl, nullptr, RowOf(args), false);
+    if (index >= 0) {
+        FillRow(ctl, index, args);
+    }
+    return index;
+}
+
+LRESULT OnMoveRow(HGridCtl* ctl, const MsgArgs& args)
+{
+    return HGMoveRow(ctl->pData, RowOf(args), static_cast<int>(args.lParam));
+}
+
+LRESULT OnGetRowBase(HGridCtl* ctl, const MsgArgs&)
+{
+    return ctl->lRowBase;
+}
+
+LRESULT OnSetRowBase(HGridCtl* ctl, const MsgArgs& args)
+{
+    ctl->lRowBase = std::max(static_cast<LONG>(args.wParam), static_cast<LONG>(args.lParam));
+    return AskDefault(args);
+}
+
+LRESULT CopyRow(HGridCtl* ctl, int row, const MsgArgs& args, bool toRow)
+{
+    void* const buffer = reinterpret_cast<void*>(args.lParam);
+    return buffer ? HGCopyRow(ctl->pData, row, buffer, toRow) : 0;
+}
+
+LRESULT OnReadCurRow(HGridCtl* ctl, const MsgArgs& args)
+{
+    return CopyRow(ctl, CurrentCell(ctl).row, args, false);
+}
+
+LRESULT OnReadRow(HGridCtl* ctl, const MsgArgs& args)
+{
+    return CopyRow(ctl, RowOf(args), args, false);
+}
+
+LRESULT OnWriteRow(HGridCtl* ctl, const MsgArgs& args)
+{
+    return CopyRow(ctl, RowOf(args), args, true);
+}
+
+LRESULT OnGetRowMirror(HGridCtl* ctl, const MsgArgs&)
+{
+    return reinterpret_cast<LRESULT>(ctl->pRowMirror);
+}
+
+LRESULT OnSetRowMirror(HGridCtl* ctl, const MsgArgs& args)
+{
+    ctl->pRowMirror = reinterpret_cast<void*>(args.lParam);
+    return CopyRow(ctl, CurrentCell(ctl).row, args, false);
+}
+
+LRESULT OnGetRowSize(HGridCtl* ctl, const MsgArgs&)
+{
+    return ctl->pData->pRows->cbItem - 2 * HGColCount(ctl->pData);
+}
+
+LRESULT OnGetRowFlags(HGridCtl* ctl, const MsgArgs& args)
+{
+    const void* const node = HGRowNode(ctl->pData, RowOf(args));
+    return node ? HGNodeFlags(node) : AskDefault(args);
+}
+
+LRESULT OnSetRowFlags(HGridCtl* ctl, const MsgArgs& args)
+{
+    void* const node = HGRowNode(ctl->pData, RowOf(args));
+    if (!node) {
+        return AskDefault(args);
+    }
+    const WORD mask = HIWORD(args.lParam);
+    const bool set = LOWORD(args.lParam) != 0;
+    HGChangeNodeFlags(node, set ? WORD{ 0 } : mask, set ? mask : WORD{ 0 });
+    return HGNodeFlags(node);
+}
+
+LRESULT OnGetRowPtr(HGridCtl* ctl, const MsgArgs& args)
+{
+    return reinterpret_cast<LRESULT>(HGRowData(ctl->pData, static_cast<short>(HIWORD(args.lParam))));
+}
+
+LRESULT OnRecordToRow(HGridCtl* ctl, const MsgArgs& args)
+{
+    const LONGLONG row = static_cast<LONGLONG>(static_cast<LONG>(args.lParam)) - ctl->lRowBase;
+    return row >= 0 && row <= LastRow(ctl) ? static_cast<LRESULT>(row) : -1;
+}
+
+LRESULT OnGetRowSource(HGridCtl* ctl, const MsgArgs&)
+{
+    return reinterpret_cast<LRESULT>(ctl->pfnRowSource);
+}
+
+LRESULT OnSetRowSource(HGridCtl* ctl, const MsgArgs& args)
+{
+    const HGROWSOURCE old = ctl->pfnRowSource;
+    HGReset(ctl, false);
+    if (!IsWindow(args.hwnd)) {
+        return 0;
+    }
+    ctl->pfnRowSource = reinterpret_cast<HGROWSOURCE>(args.lParam);
+    SetFlag(ctl, HGC_VIRTUAL, args.lParam != 0);
+    HGReset(ctl, true);
+    return reinterpret_cast<LRESULT>(old);
+}
+
+LRESULT OnGetTotal(HGridCtl* ctl, const MsgArgs&)
+{
+    return ctl->lTotalRows;
+}
+
+LRESULT OnSetTotal(HGridCtl* ctl, const MsgArgs& args)
+{
+    const LONG count = static_cast<LONG>(args.lParam);
+    if (!HasFlag(ctl, HGC_VIRTUAL)) {
+        return 0;
+    }
+    if (count != 0) {
+        ctl->fTotalKnown = 1;
+        ctl->lTotalRows = count < 0x7FFFFFFF ? count + 1 : count;
+    } else {
+        ctl->lTotalRows = HGRowCount(ctl->pData);
+    }
+    ctl->cHeldRows = static_cast<short>(std::min<LONG>(ctl->cHeldRows, ctl->lTotalRows));
+    HGRecalc(ctl);
+    return 1;
+}
+
+LRESULT OnGetHeld(HGridCtl* ctl, const MsgArgs&)
+{
+    return ctl->cHeldRows;
+}
+
+LRESULT OnSetHeld(HGridCtl* ctl, const MsgArgs& args)
+{
+    if (!HasFlag(ctl, HGC_VIRTUAL)) {
+        return 0;
+    }
+    ctl->cHeldRows = static_cast<short>(args.lParam);
+    HGRecalc(ctl);
+    return IsWindow(args.hwnd) ? ctl->cHeldRows : 0;
+}
+
+LRESULT OnSetSortCol(HGridCtl* ctl, const MsgArgs& args)
+{
+    ctl->nSortCol = LOWORD(args.lParam);
+    return 1;
+}
+
+LRESULT OnSetSortCol2(HGridCtl* ctl, const MsgArgs& args)
+{
+    ctl->nSortCol2 = LOWORD(args.lParam);
+    return 1;
+}
+
+LRESULT OnSort(HGridCtl* ctl, const MsgArgs& args)
+{
+    HGSortRows(ctl->pData, LOWORD(args.wParam), HIWORD(args.wParam) != 0, reinterpret_cast<DWORD*>(args.lParam));
+    return AskDefault(args);
+}
+
+// clang-format off
+constexpr MessageEntry<GridHandler> messages[] = {
+    { HGM_ADDROW,       OnAddRow },
+    { HGM_DELETEROW,    OnDeleteRow },
+    { HGM_INSERTROW,    OnInsertRow },
+    { HGM_MOVEROW,      OnMoveRow },
+    { HGM_GETROWBASE,   OnGetRowBase },
+    { HGM_SETROWBASE,   OnSetRowBase },
+    { HGM_READCURROW,   OnReadCurRow },
+    { HGM_GETROWSOURCE, OnGetRowSource },
+    { HGM_SETROWSOURCE, OnSetRowSource },
+    { HGM_GETTOTAL,     OnGetTotal },
+    { HGM_SETTOTAL,     OnSetTotal },
+    { HGM_GETHELD,      OnGetHeld },
+    { HGM_SETHELD,      OnSetHeld },
+    { HGM_RECORDTOROW,  OnRecordToRow },
+    { HGM_GETROWFLAGS,  OnGetRowFlags },
+    { HGM_SETROWFLAGS,  OnSetRowFlags },
+    { HGM_READROW,      OnReadRow },
+    { HGM_WRITEROW,     OnWriteRow },
+    { HGM_GETROWMIRROR, OnGetRowMirror },
+    { HGM_SETROWMIRROR, OnSetRowMirror },
+    { HGM_GETROWSIZE,   OnGetRowSize },
+    { HGM_SETSORTCOL,   OnSetSortCol },
+    { HGM_SETSORTCOL2,  OnSetSortCol2 },
+    { HGM_SORT,         OnSort },
+    { HGM_GETROWPTR,    OnGetRowPtr },
+};
+// clang-format on
+constexpr auto handlers = ByNumber<firstGridMessage, lastGridMessage>(messages);
+
+} // namespace
+
+GridHandler HGFindRowHandler(UINT message)
+{
+    return FindHandler<firstGridMessage>(handlers, message);
+}
