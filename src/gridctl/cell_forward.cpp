@@ -1,0 +1,108 @@
+// The wrapping of a cell control's window procedure: the grid sees what concerns navigation, the control keeps what
+// concerns its value.
+#include "gridctl/cell_controls.h"
+
+namespace {
+
+// Who keeps a key while Ctrl is up.
+enum class KeyRule {
+    ToGrid,       // nobody: the grid always gets it
+    Own,          // every control keeps it
+    DropsKeep,    // lists and combos keep it
+    EditorsKeep,  // edits and combos with an edit keep it, with Ctrl too
+};
+
+struct KeyEntry {
+    UINT    vk;
+    KeyRule rule;
+};
+
+// clang-format off
+constexpr KeyEntry keyTable[] = {
+    { VK_TAB,    KeyRule::ToGrid },
+    { VK_RETURN, KeyRule::ToGrid },
+    { VK_ESCAPE, KeyRule::ToGrid },
+    { VK_HOME,   KeyRule::Own },
+    { VK_END,    KeyRule::Own },
+    { VK_PRIOR,  KeyRule::DropsKeep },
+    { VK_NEXT,   KeyRule::DropsKeep },
+    { VK_UP,     KeyRule::DropsKeep },
+    { VK_DOWN,   KeyRule::DropsKeep },
+    { VK_LEFT,   KeyRule::EditorsKeep },
+    { VK_RIGHT,  KeyRule::EditorsKeep },
+};
+// clang-format on
+
+bool IsForGrid(KeyRule rule, int kind, bool ctrl)
+{
+    switch (rule) {
+    case KeyRule::ToGrid:      return true;
+    case KeyRule::Own:         return ctrl;
+    case KeyRule::DropsKeep:   return ctrl || (kind != cellCodeList && kind != cellCodeCombo);
+    case KeyRule::EditorsKeep: return kind != cellCodeEdit && kind != cellCodeCombo;
+    }
+    return false;
+}
+
+bool IsKeyForGrid(UINT vk, int kind)
+{
+    for (const KeyEntry& entry : keyTable) {
+        if (entry.vk == vk) {
+            return IsForGrid(entry.rule, kind, GetKeyState(VK_CONTROL) < 0);
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    *result = 1;
+    HGridCtl* const grid = HGFromWindow(hGrid);
+    if (!grid) {
+        return false;
+    }
+    switch (message) {
+    case WM_SETFOCUS:
+        SendMessageA(hGrid, WWM_CHILDFOCUS, 0, 0);
+        return false;
+    case WM_KILLFOCUS:
+        SendMessageA(hGrid, WWM_CHILDBLUR, 0, 0);
+        return false;
+    case WM_GETDLGCODE:
+        *result = SendMessageA(hGrid, message, wParam, lParam);
+        return true;
+    case WM_KEYDOWN:
+        if (!IsKeyForGrid(static_cast<UINT>(wParam), kind)) {
+            return false;
+        }
+        *result = SendMessageA(hGrid, message, wParam, lParam);
+        return true;
+    case WM_SYSKEYDOWN:
+        *result = SendMessageA(hGrid, message, 0, 0);
+        return *result != 0;
+    case WM_LBUTTONDBLCLK:
+        Notify(grid, HGN_DBLCLK);
+        return true;
+    case WM_RBUTTONDOWN:
+        Notify(grid, HGN_RBUTTONDOWN);
+        return true;
+    default:
+        return false;
+    }
+}
+
+LRESULT CALLBACK HGEditCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WWM_GETSTATE || message == WWM_SETSTATE) {
+        return HEditWnd(hwnd, message, wParam, lParam);
+    }
+    const ControlHeader* const record =
+        reinterpret_cast<const ControlHeader*>(HEditWnd(hwnd, WWM_GETSTATE, 0, 0));
+    LRESULT result = 0;
+    if (record && HGCellForward(cellCodeEdit, record->hParent, message, wParam, lParam, &result)) {
+        return result;
+    }
+    return HEditWnd(hwnd, message, wParam, lParam);
+}
