@@ -9,6 +9,7 @@ extern int nDpiX;       // pixels per inch across
 extern int nDpiY;       // pixels per inch down
 extern int nDpiPercent; // nDpiX as a percentage of 96
 
+void DpiReset(); // back to 96, and not asked yet
 void DpiRead();
 int  DpiX();
 int  DpiY();

@@ -22,6 +22,9 @@ extern HBRUSH     hThirdBrush;  // cells marked with the third background, or nu
 extern HGDRAWPART pfnDrawPart;  // paints parts of buttons, or null
 extern int        fDpiScaling;  // column widths follow the screen's resolution
 
+// Brings brushes, part painter, scaling switch, images and resolution to their start values.
+void LibraryStartState();
+
 // Set the module once, before WidgetsInit, and undo what has to be undone at unload.
 void LibraryAttach(HINSTANCE module);
 void LibraryDetach();

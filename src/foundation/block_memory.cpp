@@ -1,5 +1,4 @@
-// The two functions through which every block of the library comes and goes. They stand alone in this source,
-// because test programs link another pair in their place.
+// The blocks of the library. Test programs link tests/support/guarded_memory.cpp in place of this source.
 #include "foundation/memory.h"
 
 void* HBlockAlloc(size_t size, UINT extraFlags)
