@@ -1,0 +1,21 @@
+# The common part of the mingw-w64 toolchain files: WIDGETS_MINGW is the prefix of the tools, WIDGETS_ARCH ours.
+if(CMAKE_HOST_WIN32)
+    return()
+endif()
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR ${WIDGETS_ARCH})
+
+# GoogleTest needs std::mutex, which only the compilers with POSIX threads have. Debian names them so.
+find_program(WIDGETS_CC NAMES ${WIDGETS_MINGW}-gcc-posix ${WIDGETS_MINGW}-gcc REQUIRED)
+find_program(WIDGETS_CXX NAMES ${WIDGETS_MINGW}-g++-posix ${WIDGETS_MINGW}-g++ REQUIRED)
+set(CMAKE_C_COMPILER ${WIDGETS_CC})
+set(CMAKE_CXX_COMPILER ${WIDGETS_CXX})
+set(CMAKE_RC_COMPILER ${WIDGETS_MINGW}-windres)
+
+set(CMAKE_FIND_ROOT_PATH /usr/${WIDGETS_MINGW})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/wine-${WIDGETS_ARCH})
