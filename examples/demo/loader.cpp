@@ -1,0 +1,176 @@
+// Fills a grid from a file of comma-separated values, each field by the type of its column.
+#include "loader.h"
+
+#include "csv.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+std::string ColumnText(HWND grid, size_t position, UINT lengthMessage, UINT textMessage)
+{
+    const LRESULT length = SendMessageA(grid, lengthMessage, position, 0);
+    std::string   text(static_cast<size_t>(length) + 1, '\0');
+    SendMessageA(grid, textMessage, position, reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<size_t>(length));
+    return text;
+}
+
+bool IsNumber(const Column& column)
+{
+    return std::strchr("cnz", column.dataClass) != nullptr;
+}
+
+bool LooksLikeNumber(const std::string& text)
+{
+    const char decimalSep = WWGetIntlInfo()->chDecimalSep;
+    const size_t start = text[0] == '-' ? 1 : 0;
+    int separators = 0;
+    for (size_t i = start; i < text.size(); ++i) {
+        separators += text[i] == decimalSep ? 1 : 0;
+        if (text[i] != decimalSep && (text[i] < '0' || text[i] > '9')) {
+            return false;
+        }
+    }
+    return separators <= 1 && text.size() > start;
+}
+
+// Why a text can't be a value of the column; empty if it can. The value goes to bytes.
+std::string Parse(const Column& column, const std::string& text, std::vector<char>& bytes)
+{
+    if (IsNumber(column) && !LooksLikeNumber(text)) {
+        return "\"" + text + "\" is not a number";
+    }
+    const int failed = ParseData(bytes.data(), column.dataClass, column.dataType, column.format.c_str(), text.c_str(), 0);
+    if (failed) {
+        return "\"" + text + "\" is not a value of this column";
+    }
+    if (column.dataClass == 's' && static_cast<int>(text.size()) >= column.size) {
+        return "\"" + text + "\" is too long and was cut to " + std::to_string(column.size - 1) + " characters";
+    }
+    return std::string();
+}
+
+// One row of the file on its way into the grid.
+struct RowLoad {
+    HWND                       grid;
+    const std::string&         path;
+    const std::vector<Column>& columns;
+    const CsvRow&              source;
+    int                        row;
+    std::vector<Problem>&      problems;
+};
+
+void Report(const RowLoad& load, const std::string& column, const std::string& message)
+{
+    load.problems.push_back({ load.path, load.source.line, column, message });
+}
+
+void LoadField(const RowLoad& load, size_t index)
+{
+    const Column&      column = load.columns[index];
+    const std::string& text = load.source.fields[index];
+    if (text.empty()) {
+        HGSetCellData(load.grid, static_cast<int>(index), load.row, nullptr);
+        return;
+    }
+    // Room for every fixed type, and for the text of any length.
+    std::vector<char>  bytes(std::max<size_t>(text.size() + 1, 64));
+    const std::string  problem = Parse(column, text, bytes);
+    const bool         cut = column.dataClass == 's';
+    if (!problem.empty()) {
+        Report(load, column.title, problem);
+    }
+    const bool usable = problem.empty() || cut;
+    HGSetCellData(load.grid, static_cast<int>(index), load.row, usable ? bytes.data() : nullptr);
+}
+
+void LoadRow(const RowLoad& load)
+{
+    const size_t expected = load.columns.size();
+    const size_t found = load.source.fields.size();
+    for (size_t i = 0; i < expected; ++i) {
+        if (i < found) {
+            LoadField(load, i);
+        } else {
+            HGSetCellData(load.grid, static_cast<int>(i), load.row, nullptr);
+        }
+    }
+    if (found < expected) {
+        Report(load, load.columns[found].title,
+               "the row ends before this column: " + std::to_string(found) + " fields of " + std::to_string(expected));
+    } else if (found > expected && expected > 0) {
+        Report(load, load.columns.back().title,
+               "the row goes on behind this column: " + std::to_string(found) + " fields for " +
+                   std::to_string(expected) + " columns");
+    }
+}
+
+bool CheckHeader(const std::string& path, const CsvFile& file, size_t columns, std::vector<Problem>& problems)
+{
+    if (!file.error.empty()) {
+        problems.push_back({ path, 0, std::string(), file.error });
+        return false;
+    }
+    if (file.rows.empty()) {
+        problems.push_back({ path, 1, std::string(), "there is no line with the names of the columns" });
+        return false;
+    }
+    const size_t found = file.rows[0].fields.size();
+    if (found != columns) {
+        problems.push_back({ path, file.rows[0].line, file.rows[0].fields[std::min(found - 1, columns)],
+                             "the file has " + std::to_string(found) + " columns, the definition " +
+                                 std::to_string(columns) });
+    }
+    return true;
+}
+
+} // namespace
+
+std::string TextOf(const Problem& problem)
+{
+    std::string text = problem.file;
+    if (problem.line > 0) {
+        text += ", line " + std::to_string(problem.line);
+    }
+    if (!problem.column.empty()) {
+        text += ", column \"" + problem.column + "\"";
+    }
+    return text + ": " + problem.message;
+}
+
+std::vector<Column> ColumnsOf(HWND grid)
+{
+    const size_t        count = static_cast<size_t>(SendMessageA(grid, HGM_GETCOLCOUNT, 0, 0));
+    std::vector<Column> columns(count);
+    for (size_t i = 0; i < count; ++i) {
+        columns[i].title = ColumnText(grid, i, HGM_GETFIELDTITLELEN, HGM_GETFIELDTITLE);
+        columns[i].format = ColumnText(grid, i, HGM_GETFIELDFORMATLEN, HGM_GETFIELDFORMAT);
+        columns[i].dataClass = static_cast<char>(SendMessageA(grid, HGM_GETFIELDCLASS, i, 0));
+        columns[i].dataType = static_cast<char>(SendMessageA(grid, HGM_GETFIELDTYPE, i, 0));
+        columns[i].size = static_cast<int>(SendMessageA(grid, HGM_GETFIELDSIZE, i, 0));
+    }
+    return columns;
+}
+
+int LoadRows(HWND grid, const std::string& path, std::vector<Problem>& problems)
+{
+    const std::vector<Column> columns = ColumnsOf(grid);
+    const CsvFile             file = ReadCsv(path);
+    if (!CheckHeader(path, file, columns.size(), problems)) {
+        return 0;
+    }
+    int added = 0;
+    for (size_t i = 1; i < file.rows.size(); ++i) {
+        const LRESULT place = SendMessageA(grid, HGM_ADDROW, 0, 0);
+        if (place < 1) {
+            problems.push_back({ path, file.rows[i].line, std::string(), "the grid holds no more rows" });
+            break;
+        }
+        LoadRow({ grid, path, columns, file.rows[i], static_cast<int>(place) - 1, problems });
+        ++added;
+    }
+    SendMessageA(grid, HGM_REFRESH, TRUE, 0);
+    return added;
+}

@@ -1,0 +1,17 @@
+// What the command line asks for.
+#pragma once
+
+#include <string>
+
+struct Options {
+    std::string definition = "birdstrikes.grs"; // the columns
+    std::string csv = "birdstrikes.csv";        // the rows
+    int         generated = -1;                 // --virtual N: N generated records in place of the file
+    bool        reportOnly = false;             // --report: load, tell the problems, leave
+    std::string error;                          // what is wrong with the command line, or empty
+};
+
+// File names that the command line doesn't give stand beside the program, in folder.
+Options ReadOptions(int count, char** arguments, const std::string& folder);
+
+extern const char* const usage;
