@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr __time64_t endOfClock = 32535215999; // the last second of the year 3000
+
 NativePlatform gPlatform;
 std::uintptr_t gLastWindow;
 
@@ -490,4 +492,19 @@ int WINAPI SaveDC(HDC)
 HGDIOBJ WINAPI SelectObject(HDC, HGDIOBJ)
 {
     return GetStockObject(SYSTEM_FONT);
+}
+
+struct tm* __cdecl _localtime64(const __time64_t* clock)
+{
+    const time_t native = static_cast<time_t>(*clock);
+    if (*clock < 0 || *clock > endOfClock || native != *clock) {
+        return nullptr;
+    }
+    return localtime(&native);
+}
+
+__time64_t __cdecl _mktime64(struct tm* calendar)
+{
+    const __time64_t clock = mktime(calendar);
+    return clock < 0 || clock > endOfClock ? -1 : clock;
 }

@@ -8,6 +8,7 @@
 #include <stdarg.h>
 #include <stddef.h>
 #include <stdint.h>
+#include <time.h>
 
 #ifdef __cplusplus
 extern "C" {
@@ -380,6 +381,13 @@ int     WINAPI IntersectClipRect(HDC hdc, int left, int top, int right, int bott
 BOOL    WINAPI RestoreDC(HDC hdc, int saved);
 int     WINAPI SaveDC(HDC hdc);
 HGDIOBJ WINAPI SelectObject(HDC hdc, HGDIOBJ object);
+
+/* The C runtime's 64-bit clock: it ends with the year 3000 and refuses times before 1970. */
+
+typedef int64_t __time64_t;
+
+struct tm* __cdecl _localtime64(const __time64_t* clock);
+__time64_t __cdecl _mktime64(struct tm* calendar);
 
 #ifdef __cplusplus
 }
