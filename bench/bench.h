@@ -1,0 +1,37 @@
+// The same work done by the grid and by the platform's list-view: load rows, sort them, repaint the window.
+#pragma once
+
+#include <widgets/widgets.h>
+
+#include <string>
+#include <vector>
+
+constexpr int rowCount = 30000;
+constexpr int columnCount = 8;
+constexpr int sortColumn = 1;
+constexpr int windowWidth = 1000;
+constexpr int windowHeight = 700;
+constexpr int paintCount = 200;
+constexpr int columnWidth = 120;
+
+// Texts of all cells, row after row; the same for both controls, and the same in every run.
+std::vector<std::string> MakeTexts();
+inline const std::string& TextAt(const std::vector<std::string>& texts, int row, int column)
+{
+    return texts[static_cast<size_t>(row) * columnCount + static_cast<size_t>(column)];
+}
+
+// Times in milliseconds. checksum differs if the work wasn't done: it is made from what the control holds.
+struct Timings {
+    double   load = 0;
+    double   sort = 0;
+    double   paint = 0; // one full repaint
+    unsigned checksum = 0;
+};
+
+double Milliseconds(); // a clock that only goes on
+void   PumpMessages();
+unsigned AddToChecksum(unsigned checksum, const char* text);
+
+Timings RunGrid(HWND parent, const std::vector<std::string>& texts);
+Timings RunListView(HWND parent, const std::vector<std::string>& texts);
