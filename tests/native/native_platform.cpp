@@ -213,6 +213,11 @@ LRESULT WINAPI DefWindowProcA(HWND, UINT, WPARAM, LPARAM)
 }
 
 // Measures with DT_CALCRECT; nothing is drawn. Only single lines.
+BOOL WINAPI DestroyWindow(HWND hwnd)
+{
+    return gPlatform.windows.erase(hwnd) != 0;
+}
+
 int WINAPI DrawTextA(HDC, const char* text, int count, RECT* rect, UINT format)
 {
     const int length = count < 0 ? static_cast<int>(std::strlen(text)) : count;
@@ -344,6 +349,12 @@ BOOL WINAPI MessageBeep(UINT)
 BOOL WINAPI OffsetRect(RECT* rect, int dx, int dy)
 {
     *rect = { rect->left + dx, rect->top + dy, rect->right + dx, rect->bottom + dy };
+    return TRUE;
+}
+
+BOOL WINAPI PostMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    gPlatform.posted.push_back({ hwnd, message, wParam, lParam });
     return TRUE;
 }
 

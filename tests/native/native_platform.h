@@ -27,6 +27,13 @@ struct NativeResource {
     std::vector<BYTE> bytes;
 };
 
+struct NativeMessage {
+    HWND   hwnd;
+    UINT   message;
+    WPARAM wParam;
+    LPARAM lParam;
+};
+
 struct NativePlatform {
     // Set by tests
     SYSTEMTIME                  localTime = { 2024, 2, 4, 29, 13, 14, 15, 160 };
@@ -46,6 +53,7 @@ struct NativePlatform {
     std::vector<std::string>     debugOutput; // a text a call of OutputDebugStringA
     int                          screenReads = 0; // calls of GetDeviceCaps for LOGPIXELSX
     int                          openDCs = 0;
+    std::vector<NativeMessage>   posted; // by PostMessageA
     std::map<HWND, NativeWindow> windows;
 };
 

@@ -338,6 +338,7 @@ char*   WINAPI lstrcpynA(char* dest, const char* src, int size);
 /* USER32 */
 
 LRESULT  WINAPI DefWindowProcA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+BOOL     WINAPI DestroyWindow(HWND hwnd);
 int      WINAPI DrawTextA(HDC hdc, const char* text, int count, RECT* rect, UINT format);
 BOOL     WINAPI EqualRect(const RECT* a, const RECT* b);
 HDC      WINAPI BeginPaint(HWND hwnd, PAINTSTRUCT* ps);
@@ -357,6 +358,7 @@ BOOL     WINAPI IsWindow(HWND hwnd);
 BOOL     WINAPI IsWindowVisible(HWND hwnd);
 BOOL     WINAPI MessageBeep(UINT type);
 BOOL     WINAPI OffsetRect(RECT* rect, int dx, int dy);
+BOOL     WINAPI PostMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL     WINAPI PtInRect(const RECT* rect, POINT point);
 int      WINAPI ReleaseDC(HWND hwnd, HDC hdc);
 LRESULT  WINAPI SendMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
