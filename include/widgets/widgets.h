@@ -401,12 +401,12 @@ int WINAPI SetDefTimeFormat(const char* format);
 #define CF_CANCEL 0x1000
 /** The user has changed the value since the parent cleared the bit. A bit of wFlags. */
 #define CF_CHANGED 0x2000
-/* A header of the platform, which this one includes or not, knows another CF_NULL (0) that no Windows control uses. */
+// A header of the platform, which windows.h includes or not, has another CF_NULL (0) that concerns no control.
 #undef CF_NULL
 /** The value is null. A bit of wFlags (a grid uses the bit otherwise). */
 #define CF_NULL 0x4000
 
-/* Control records, grid records and row nodes lie on two-byte boundaries on every architecture. */
+// Control records, grid records and row nodes lie on two-byte boundaries on every architecture.
 #pragma pack(push, 2)
 
 /** The fields with which every control record begins. A host reaches the record by WWM_GETSTATE. */
@@ -722,7 +722,11 @@ void WINAPI HGFixOffsets(HGridData* grid);
 /** Gives a grid a column order map. @return 1; 0 if it has one. */
 int WINAPI HGCreateFldMap(HGridData* grid);
 
-/* Cells. Columns and rows count from 0; rows are the loaded ones. */
+/*
+ * Cells
+ *
+ * Columns and rows count from 0; rows are the loaded ones.
+ */
 
 typedef struct HGridCtl HGridCtl;
 
@@ -804,7 +808,7 @@ HGridData* WINAPI HGridLoad(const char* name, OFSTRUCT* ofs);
 
 /* Grid window */
 
-/* Operations of a row source */
+/* Row sources and part painters */
 /** Fill buffer with a record. 0: there is no such record. */
 #define HGSRC_FETCH 0
 /** A changed row leaves the block. */
@@ -928,7 +932,9 @@ int WINAPI SetGridAppDPIChanged(void);
 int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 
 /*
- * Grid messages. c is a column index, r a row among the loaded ones, a packed cell has the column in its low word and
+ * Grid messages
+ *
+ * c is a column index, r a row among the loaded ones, a packed cell has the column in its low word and
  * the row in its high word. "Default" means that the message goes on to DefWindowProcA, which gives 0.
  */
 
@@ -1105,7 +1111,11 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 /** lParam: r in the high word. Gives the address of the row's data, or 0. */
 #define HGM_GETROWPTR 1423
 
-/* Columns by position: wParam is the position. Without such a column they give 0. */
+/*
+ * Grid messages for columns by position
+ *
+ * wParam is the position. Without such a column they give 0.
+ */
 
 /** Gives the window of the cell control, or 0. */
 #define HGM_GETFIELDCHILD 1424
@@ -1170,8 +1180,10 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGM_FINDFIELDFROM 1455
 
 /*
- * Grid notifications: WM_COMMAND to hParent, with the grid's id in the low word of wParam, the code in the high word,
- * and the grid's window in lParam.
+ * Grid notifications
+ *
+ * WM_COMMAND to hParent, with the grid's id in the low word of wParam, the code in the high word, and the grid's
+ * window in lParam.
  */
 
 /** The grid has got the focus. */
@@ -1235,7 +1247,11 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 /** The value of the cell control has changed. */
 #define HGN_CHILDCHANGE 45
 
-/* Edit control: the classes "HEdit" and "HEdit_SS" */
+/*
+ * Edit control
+ *
+ * The typed single-line edit, of the classes "HEdit" and "HEdit_SS".
+ */
 
 /** Display form centred. Style bit. */
 #define HES_CENTER 0x0001
