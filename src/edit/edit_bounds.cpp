@@ -1,0 +1,86 @@
+// Bounds of an edit control's value: their two forms, and holding the stored value between them.
+#include "edit/edit_internal.h"
+
+namespace {
+
+constexpr WORD lowBound = 1;
+constexpr WORD highBound = 2;
+
+bool IsNumberClass(char dataClass)
+{
+    return dataClass == 'n' || dataClass == 'c';
+}
+bool IsDateClass(char dataClass)
+{
+    return dataClass == 'a' || dataClass == 'd' || dataClass == 't';
+}
+
+} // namespace
+
+// Settled: the texts of bounds of dates are read as day numbers, and this compares them as if they were three words.
+void WINAPI BoundMinMax(void* record)
+{
+    HEditCtl* const ctl = static_cast<HEditCtl*>(record);
+    double value = 0;
+    if (!ctl || !HToCanon(&value, ctl->pData, ctl->cClass, ctl->cType)) {
+        return; // Bounded: nothing is compared with an undefined number.
+    }
+    const double low = ctl->dMin;
+    const double high = ctl->dMax;
+    if ((ctl->wBounds & lowBound) && value < low) {
+        HFromCanon(&low, ctl->pData, ctl->cClass, ctl->cType);
+    } else if ((ctl->wBounds & highBound) && value > high) {
+        HFromCanon(&high, ctl->pData, ctl->cClass, ctl->cType);
+    }
+}
+
+int ReadBound(HEditCtl* ctl, int which, void* data)
+{
+    const double bound = which == lowBound ? ctl->dMin : ctl->dMax;
+    return HFromCanon(&bound, data, ctl->cClass, ctl->cType);
+}
+
+void SetBound(HEditCtl* ctl, int which, const void* data)
+{
+    if (!data) {
+        ctl->wBounds = static_cast<WORD>(ctl->wBounds & ~which);
+        return;
+    }
+    double bound = 0;
+    if (!HToCanon(&bound, data, ctl->cClass, ctl->cType)) {
+        return;
+    }
+    if (which == lowBound) {
+        ctl->dMin = bound;
+    } else {
+        ctl->dMax = bound;
+    }
+    ctl->wBounds = static_cast<WORD>(ctl->wBounds | which);
+    BoundMinMax(ctl);
+}
+
+bool ComparableValue(const HEditCtl* ctl, double* value)
+{
+    if (!ctl->pData) {
+        return false;
+    }
+    if (IsNumberClass(ctl->cClass)) {
+        *value = NumToDouble(ctl->pData, ctl->cType);
+        return true;
+    }
+    DateTimeRec rec = {};
+    return IsDateClass(ctl->cClass) && DataToDateTime(&rec, ctl->pData, ctl->cType) &&
+           DateTimeToData(&rec, value, 'u');
+}
+
+void StoreComparable(HEditCtl* ctl, double value)
+{
+    if (IsNumberClass(ctl->cClass)) {
+        DoubleToNum(ctl->pData, ctl->cType, value);
+        return;
+    }
+    DateTimeRec rec = {};
+    if (DataToDateTime(&rec, &value, 'u')) {
+        DateTimeToData(&rec, ctl->pData, ctl->cType);
+    }
+}

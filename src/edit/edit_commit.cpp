@@ -1,0 +1,228 @@
+// From the text back to the stored value: parsing, bounds, validation and vetoes, and what the focus has to do with it.
+#include "edit/edit_internal.h"
+#include "foundation/memory.h"
+
+#include <algorithm>
+
+namespace {
+
+// The value as it was; null without memory.
+struct OldValue {
+    int   size;
+    void* bytes;
+    explicit OldValue(const HEditCtl* ctl) : size(ctl->cbData), bytes(HBlockAlloc(static_cast<size_t>(size)))
+    {
+        if (bytes && ctl->pData) {
+            std::memcpy(bytes, ctl->pData, static_cast<size_t>(size));
+        }
+    }
+    ~OldValue() { HBlockFree(bytes); }
+    OldValue(const OldValue&) = delete;
+    OldValue& operator=(const OldValue&) = delete;
+    // Whether it still describes the value: host code may have changed the type in between.
+    bool IsOf(const HEditCtl* ctl) const { return bytes && ctl->pData && ctl->cbData >= size; }
+};
+
+// What the checks of a commit came to.
+struct Verdict {
+    int  status;  // 0: accepted
+    bool restore; // the parent asked for the old value
+};
+
+// Bounded: a text longer than the value's block makes it grow, and is cut where no memory is left.
+int ParseString(HEditCtl* ctl, const char* text)
+{
+    const int noCheck = ctl->pfnValidate != nullptr;
+    const int size = static_cast<int>(std::strlen(text)) + 1;
+    if (GrowData(ctl, size)) {
+        return ParseData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, text, noCheck);
+    }
+    char* const cut = hstrdup(text);
+    if (!cut) {
+        return 1;
+    }
+    cut[ctl->cbData - 1] = 0;
+    const int status = ParseData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, cut, noCheck);
+    HBlockFree(cut);
+    return status;
+}
+
+int ParseText(HEditCtl* ctl, const char* text)
+{
+    if (IsStringType(ctl)) {
+        return ParseString(ctl, text);
+    }
+    return ParseData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, text, ctl->pfnValidate != nullptr);
+}
+
+// Whether the bound applies, is passed, and the parent doesn't mind that the value moves to it.
+Told AskToMove(HEditCtl* ctl, double value, int code)
+{
+    const bool above = code == HEN_ABOVEMAX;
+    const bool passed = above ? (ctl->wBounds & 2) && value > ctl->dMax : (ctl->wBounds & 1) && value < ctl->dMin;
+    return passed ? Tell(ctl, code) : Told::Vetoed;
+}
+
+// Holds the value between its bounds, the upper one first. Dates are held to one of them, numbers to both in turn.
+// Nothing is stored unless a bound takes effect, since the way through a double costs milliseconds and part dates.
+// false: the window went.
+bool HoldBounds(HEditCtl* ctl)
+{
+    double value = 0;
+    if (!ctl->wBounds || !ComparableValue(ctl, &value)) {
+        return true;
+    }
+    const bool isDate = ctl->cClass == 'a' || ctl->cClass == 'd' || ctl->cClass == 't';
+    Told told = AskToMove(ctl, value, HEN_ABOVEMAX);
+    if (told == Told::Accepted) {
+        StoreComparable(ctl, ctl->dMax);
+        if (isDate || !ComparableValue(ctl, &value)) {
+            return true;
+        }
+    }
+    if (told != Told::Gone) {
+        told = AskToMove(ctl, value, HEN_BELOWMIN);
+    }
+    if (told == Told::Accepted) {
+        StoreComparable(ctl, ctl->dMin);
+    }
+    return told != Told::Gone;
+}
+
+// The host's validation, or else the parser's own word. false: the window went.
+bool Judge(HEditCtl* ctl, Verdict* verdict)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (ctl->pfnValidate) {
+        verdict->status = ctl->pfnValidate(hwnd, GetDlgCtrlID(hwnd), ctl->pData);
+        if (verdict->status && IsWindow(hwnd)) {
+            SetFocus(hwnd);
+        }
+    }
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    if (!verdict->status) {
+        return true;
+    }
+    const Told told = Tell(ctl, HEN_BADINPUT);
+    if (told == Told::Vetoed) {
+        *verdict = { 0, true };
+    }
+    return told != Told::Gone;
+}
+
+bool Differs(const HEditCtl* ctl, const OldValue& old)
+{
+    if (IsStringType(ctl)) {
+        return std::strcoll(static_cast<const char*>(ctl->pData), static_cast<const char*>(old.bytes)) != 0;
+    }
+    return std::memcmp(ctl->pData, old.bytes, static_cast<size_t>(old.size)) != 0;
+}
+
+// Puts the old value back where it is wanted, else notes whether the value is another one now.
+void Settle(HEditCtl* ctl, const Verdict& verdict, const OldValue& old)
+{
+    if (!old.IsOf(ctl)) {
+        return;
+    }
+    const bool isNull = HasFlag(ctl, CF_NULL);
+    if (verdict.restore || (isNull && verdict.status)) {
+        std::memcpy(ctl->pData, old.bytes, static_cast<size_t>(old.size));
+    } else {
+        SetFlag(ctl, CF_CHANGED, isNull || Differs(ctl, old));
+    }
+}
+
+bool IsNullDate(const HEditCtl* ctl)
+{
+    return HasFlag(ctl, CF_NULL) && (ctl->cClass == 'd' || ctl->cClass == 'a');
+}
+
+void SelectOnFocus(HEditCtl* ctl)
+{
+    const TextRange selection = SelectionOf(ctl);
+    const bool atStart = GetOverwriteMode() && selection.lo == selection.hi && ctl->cClass == 's';
+    SetSelection(ctl, 0, 0, atStart ? 0 : -1);
+}
+
+// The callback has the last word on a value that was left: it may call the focus back.
+void ValidateAfterLeaving(HEditCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    const int refused = ctl->pfnValidate(hwnd, static_cast<int>(ctl->wId), ctl->pData);
+    if (refused && IsWindow(hwnd)) {
+        PostMessageA(hwnd, HEM_REFOCUS, 0, 0);
+    }
+}
+
+} // namespace
+
+int CommitText(HEditCtl* ctl, const char* text)
+{
+    if (!HasFlag(ctl, HEF_DIRTY)) {
+        return 0;
+    }
+    const OldValue old(ctl);
+    const bool isEmpty = !*text;
+    Verdict verdict = { ParseText(ctl, text), false };
+    if (isEmpty && IsNullDate(ctl)) {
+        verdict.status = 0;
+    }
+    if (!HoldBounds(ctl) || !Judge(ctl, &verdict)) {
+        return verdict.status;
+    }
+    Settle(ctl, verdict, old);
+    if (ctl->pLinked && ctl->pData) {
+        CopyValue(ctl, ctl->pLinked, ctl->pData);
+    }
+    if (!verdict.status) {
+        SetFlag(ctl, HEF_DIRTY, false);
+        SetFlag(ctl, CF_NULL, isEmpty && HasFlag(ctl, CF_NULL));
+    }
+    return verdict.status;
+}
+
+bool CommitIfFocused(HEditCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (IsFocused(ctl)) {
+        CommitText(ctl, FieldText(ctl));
+    }
+    return IsWindow(hwnd);
+}
+
+void OnSetFocus(HEditCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    SetFlag(ctl, HEF_FOCUS, true);
+    RefreshText(ctl, true);
+    if (!HasStyle(ctl, HES_STATIC)) {
+        if (!HasStyle(ctl, HES_KEEPSEL)) {
+            SelectOnFocus(ctl);
+        }
+        if (!IsWindow(hwnd)) {
+            return;
+        }
+        BuildCaret(ctl);
+        PlaceCaret(ctl, ctl->nCaret);
+    }
+    Tell(ctl, HEN_SETFOCUS);
+}
+
+void OnKillFocus(HEditCtl* ctl, HWND gaining)
+{
+    const HWND hwnd = ctl->hWnd;
+    SetFlag(ctl, HEF_FOCUS, false);
+    CommitText(ctl, FieldText(ctl));
+    if (!IsWindow(hwnd)) {
+        return;
+    }
+    if (GetFocus() != hwnd) {
+        DestroyCaret();
+        RefreshText(ctl, false);
+    }
+    if (Tell(ctl, HEN_KILLFOCUS) != Told::Gone && IsWindow(gaining) && ctl->pfnValidate) {
+        ValidateAfterLeaving(ctl);
+    }
+}

@@ -1,0 +1,128 @@
+// What the sources of the edit control share: questions about its record, and steps that cross a source.
+#pragma once
+
+#include "dialog/message_table.h"
+#include "edit/edit_control.h"
+#include "edit/edit_math.h"
+#include "foundation/gdi_guards.h"
+
+#include <cstring>
+
+inline bool HasStyle(const HEditCtl* ctl, DWORD bits)
+{
+    return (ctl->dwStyle & bits) != 0;
+}
+inline bool HasFlag(const HEditCtl* ctl, WORD bits)
+{
+    return (ctl->wFlags & bits) != 0;
+}
+inline void SetFlag(HEditCtl* ctl, WORD bits, bool on)
+{
+    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
+}
+inline bool IsFocused(const HEditCtl* ctl)
+{
+    return HasFlag(ctl, HEF_FOCUS);
+}
+inline bool CanScroll(const HEditCtl* ctl)
+{
+    return HasStyle(ctl, WS_HSCROLL | HES_AUTOHSCROLL);
+}
+inline bool IsStringType(const HEditCtl* ctl)
+{
+    return GetDataSize(ctl->cClass, ctl->cType) < 0;
+}
+
+// The text and its length. A record that lost its buffers for want of memory reads as empty.
+inline const char* FieldText(const HEditCtl* ctl)
+{
+    return ctl->pszText ? ctl->pszText : "";
+}
+inline int TextLength(const HEditCtl* ctl)
+{
+    return static_cast<int>(std::strlen(FieldText(ctl)));
+}
+// The selection from its lower to its upper index, within the text.
+inline TextRange SelectionOf(const HEditCtl* ctl)
+{
+    return OrderedRange(ctl->nAnchor, ctl->nCaret, TextLength(ctl));
+}
+
+// What a notification came to. Gone: the window and the record are no more.
+enum class Told { Accepted, Vetoed, Gone };
+
+inline Told Tell(HEditCtl* ctl, int code)
+{
+    const int answer = Notify(ctl, code);
+    if (answer == 0) {
+        return Told::Accepted;
+    }
+    return answer == 1 ? Told::Vetoed : Told::Gone;
+}
+
+// The text as it shows: the password character stands for each character under HES_PASSWORD.
+struct ShownText {
+    char*       block;
+    const char* text;
+    explicit ShownText(const HEditCtl* ctl);
+    ~ShownText();
+    ShownText(const ShownText&) = delete;
+    ShownText& operator=(const ShownText&) = delete;
+};
+
+// A device context of the window with the control's font in it.
+struct FieldDC {
+    WindowDC       window;
+    SelectedObject font;
+    explicit FieldDC(const HEditCtl* ctl) : window(ctl->hWnd), font(window.hdc, ctl->hFont) {}
+    HDC hdc() const { return window.hdc; }
+};
+
+// Window text and bounds (portable)
+const char* DefaultEditFormat(char dataClass, char dataType);
+bool        ReadWinText(HEditCtl* ctl, const char* text); // HEParseWinText but for the scroll range
+int         ReadBound(HEditCtl* ctl, int which, void* data);       // which: 1 dMin, 2 dMax; 1 if converted
+void        SetBound(HEditCtl* ctl, int which, const void* data);  // null: the bound no longer applies
+bool        ComparableValue(const HEditCtl* ctl, double* value);   // as CommitText compares it; false: no bounds
+void        StoreComparable(HEditCtl* ctl, double value);
+
+// Buffers (portable)
+bool ResizeBuffers(HEditCtl* ctl, int size, const void* value); // both buffers; pData gets the text of value
+bool GrowText(HEditCtl* ctl, int size);
+bool GrowData(HEditCtl* ctl, int size);
+void CopyValue(const HEditCtl* ctl, void* dest, const void* src);
+void FreeBuffers(HEditCtl* ctl);
+
+// Value
+int  SetFormat(HEditCtl* ctl, const char* format, bool redraw);
+int  SetText(HEditCtl* ctl, const char* text);
+int  LimitText(HEditCtl* ctl, int limit);
+void UndoTyping(HEditCtl* ctl);
+void ClearValue(HEditCtl* ctl);
+
+// Layout and painting
+void InvalidateRange(HEditCtl* ctl, int start, int end, bool erase);
+void RepaintFrame(HEditCtl* ctl);
+void RebuildCaret(HEditCtl* ctl); // where the window has one
+int  OnPaint(HEditCtl* ctl, const MsgArgs& args);
+int  OnHScroll(HEditCtl* ctl, WPARAM wParam);
+bool IsFieldDisabled(const HEditCtl* ctl); // the window or its parent
+LRESULT OnNcCalcSize(HEditCtl* ctl, const MsgArgs& args);
+LRESULT OnNcPaint(HEditCtl* ctl, const MsgArgs& args);
+
+// Life and focus
+LRESULT OnNcCreate(const MsgArgs& args);
+void    OnNcDestroy(HEditCtl* ctl);
+void    OnSetFocus(HEditCtl* ctl);
+void    OnKillFocus(HEditCtl* ctl, HWND gaining);
+
+// The clock of class k
+void StartClock(HEditCtl* ctl);
+LRESULT OnTimer(HEditCtl* ctl, const MsgArgs& args);
+constexpr UINT_PTR clockTimer = 1;
+
+// Own messages
+using EditHandler = LRESULT (*)(HEditCtl* ctl, const MsgArgs& args);
+EditHandler FindEditHandler(UINT message);
+bool        CommitIfFocused(HEditCtl* ctl);    // false: the window went
+bool        CommitBeforeAsking(HEditCtl* ctl); // before the question whether the value changed; false: the window went

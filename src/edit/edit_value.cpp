@@ -1,0 +1,216 @@
+// The stored value of an edit control and the text made of it: installing, refreshing, formats and limits.
+#include "edit/edit_internal.h"
+#include "foundation/memory.h"
+
+#include <climits>
+
+namespace {
+
+constexpr int textRoom = 32;     // characters by which a text may outgrow its buffer or its mask
+constexpr int defaultLimit = 32; // characters of a text field without a limit
+constexpr int noMemory = -5;
+constexpr int nullArgument = -2;
+
+// Numbers, pictures of truth values: their second section means something else.
+bool HasTwoSections(char dataClass)
+{
+    return dataClass == 'n' || dataClass == 'c' || dataClass == 'b';
+}
+
+// Where the section of the empty text begins in a format: its semicolon, or null.
+const char* FindEmptySection(const char* format, char dataClass)
+{
+    const char* const first = std::strchr(format, ';');
+    return first && HasTwoSections(dataClass) ? std::strchr(first + 1, ';') : first;
+}
+
+// The text for a null value is the section behind that semicolon.
+void InstallEmptyText(HEditCtl* ctl, const char* semicolon)
+{
+    HBlockFree(ctl->pszEmpty);
+    ctl->pszEmpty = nullptr;
+    if (!semicolon) {
+        return;
+    }
+    ctl->pszEmpty = hstrdup(semicolon + 1);
+    char* const end = ctl->pszEmpty ? std::strchr(ctl->pszEmpty, ';') : nullptr;
+    if (end) {
+        *end = 0;
+    }
+}
+
+// The text of a value; what can't be formatted shows as nothing.
+void FormatText(HEditCtl* ctl, bool editForm)
+{
+    int negative = 0;
+    ctl->pszText[0] = 0;
+    FormatData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, ctl->pszText, ctl->cbText, &negative, editForm);
+    SetFlag(ctl, HEF_NEGATIVE, negative != 0);
+}
+
+void SetForm(HEditCtl* ctl, bool editForm)
+{
+    SetFlag(ctl, HEF_DISPLAY, !editForm);
+    SetFlag(ctl, HEF_RIGHT, HasStyle(ctl, editForm ? HES_EDITRIGHT : HES_RIGHT));
+    SetFlag(ctl, HEF_CENTER, !editForm && HasStyle(ctl, HES_CENTER));
+}
+
+// Stores the value, making room for a longer text. null stands for zeros.
+bool StoreValue(HEditCtl* ctl, const void* data)
+{
+    if (!ctl->pData || !ctl->pszText) {
+        return false;
+    }
+    if (!data) {
+        std::memset(ctl->pData, 0, static_cast<size_t>(ctl->cbData));
+        return true;
+    }
+    const size_t length = ctl->cClass == 's' ? std::strlen(static_cast<const char*>(data)) : 0;
+    if (ctl->cClass != 's' || length < static_cast<size_t>(ctl->cbData)) {
+        CopyValue(ctl, ctl->pData, data);
+        return true;
+    }
+    if (!ResizeBuffers(ctl, static_cast<int>(length) + textRoom + 1, data)) {
+        return false;
+    }
+    ctl->cchMax = static_cast<int>(length) + textRoom;
+    return true;
+}
+
+void SelectAfterSet(HEditCtl* ctl)
+{
+    constexpr int toEnd = -1;
+    SetSelection(ctl, 0, 0, IsFocused(ctl) ? toEnd : 0);
+}
+
+} // namespace
+
+void RefreshText(HEditCtl* ctl, bool editForm)
+{
+    SetForm(ctl, editForm);
+    if (!ctl->pData || !ctl->pszText) {
+        return;
+    }
+    if (!editForm && HasFlag(ctl, CF_NULL)) {
+        _fstrnzcpy(ctl->pszText, ctl->pszEmpty, ctl->cbText);
+    } else {
+        if (ctl->pLinked) {
+            CopyValue(ctl, ctl->pData, ctl->pLinked);
+        }
+        FormatText(ctl, editForm);
+    }
+    UpdateScrollRange(ctl);
+    InvalidateRect(ctl->hWnd, nullptr, TRUE);
+}
+
+int WINAPI HEditSetData(void* record, const void* data)
+{
+    HEditCtl* const ctl = static_cast<HEditCtl*>(record);
+    if (!ctl) {
+        return nullArgument;
+    }
+    SetFlag(ctl, CF_NULL, !data);
+    if (!StoreValue(ctl, data)) {
+        return noMemory;
+    }
+    const HWND hwnd = ctl->hWnd;
+    if (ctl->pfnValidate) {
+        ctl->pfnValidate(hwnd, static_cast<int>(ctl->wId), ctl->pData);
+        if (!IsWindow(hwnd)) {
+            return 1;
+        }
+    }
+    if (ctl->pLinked && ctl->pLinked != data) {
+        CopyValue(ctl, ctl->pLinked, ctl->pData);
+    }
+    RefreshText(ctl, IsFocused(ctl));
+    SelectAfterSet(ctl);
+    if (IsWindow(hwnd)) {
+        SetFlag(ctl, HEF_DIRTY | CF_CHANGED, false);
+    }
+    return 1;
+}
+
+// Sections of the format that print nothing stay in it: the converters stop at them by themselves.
+int SetFormat(HEditCtl* ctl, const char* format, bool redraw)
+{
+    if (!format) {
+        return nullArgument;
+    }
+    if (ctl->cClass == 's') {
+        return 0;
+    }
+    const char* const empty = FindEmptySection(format, ctl->cClass);
+    const size_t length = empty ? static_cast<size_t>(empty - format) : std::strlen(format);
+    char* const copy = hstrdup(format);
+    // Bounded: entry steps write at any place of a mask, so the text gets room for all of it.
+    const bool hasRoom = copy && GrowText(ctl, static_cast<int>(std::strlen(format)) + textRoom) &&
+                         (!IsStringType(ctl) || GrowData(ctl, static_cast<int>(length) + 1));
+    if (!hasRoom) {
+        HBlockFree(copy);
+        return noMemory;
+    }
+    if (IsStringType(ctl)) {
+        static_cast<char*>(ctl->pData)[ctl->cbData - 1] = 0;
+    }
+    InstallEmptyText(ctl, empty);
+    HBlockFree(ctl->pszFormat);
+    ctl->pszFormat = copy;
+    if (redraw) {
+        RefreshText(ctl, IsFocused(ctl));
+    }
+    return 1;
+}
+
+int SetText(HEditCtl* ctl, const char* text)
+{
+    if (!text) {
+        return nullArgument;
+    }
+    const HWND hwnd = ctl->hWnd;
+    if (*text == '%') {
+        HEParseWinText(ctl, text);
+    } else if (ctl->cClass == 's') {
+        return HEditSetData(ctl, text);
+    } else {
+        SetFlag(ctl, HEF_DIRTY, true);
+        CommitText(ctl, text);
+    }
+    if (IsWindow(hwnd)) {
+        RefreshText(ctl, IsFocused(ctl));
+    }
+    return 1;
+}
+
+int LimitText(HEditCtl* ctl, int limit)
+{
+    if (ctl->cClass != 's') {
+        return -1;
+    }
+    const int characters = limit > 0 ? limit : defaultLimit;
+    if (characters == INT_MAX || !ctl->pData || !ResizeBuffers(ctl, characters + 1, ctl->pData)) {
+        return noMemory;
+    }
+    SetFlag(ctl, HEF_LIMITED, limit > 0);
+    ctl->cchMax = characters;
+    return 1;
+}
+
+void UndoTyping(HEditCtl* ctl)
+{
+    RefreshText(ctl, IsFocused(ctl));
+    SetSelection(ctl, 0, 0, 0);
+}
+
+void ClearValue(HEditCtl* ctl)
+{
+    if (!ctl->pData) {
+        return;
+    }
+    std::memset(ctl->pData, 0, static_cast<size_t>(ctl->cbData));
+    const HWND hwnd = ctl->hWnd;
+    SetSelection(ctl, 0, 0, -1);
+    if (IsWindow(hwnd)) {
+        RefreshText(ctl, IsFocused(ctl));
+    }
+}
