@@ -1,0 +1,11 @@
+// Message pumping of window tests. Tests wait for a condition, never for a time.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+
+// Dispatches messages until none is waiting.
+void PumpPending();
+// Dispatches messages until condition() holds. False if it didn't within limitMs.
+bool PumpUntil(const std::function<bool()>& condition, DWORD limitMs = 5000);
