@@ -1,0 +1,124 @@
+// The child window of a column.
+#include "gridctl/cell_controls.h"
+#include "gridctl/grid_window.h"
+
+namespace {
+
+class CellControls : public GridWindow {
+protected:
+    HWND ChildOf(int col) { return reinterpret_cast<HWND>(Send(grid, HGM_GETFIELDCHILD, static_cast<WPARAM>(col))); }
+};
+
+TEST(CellCtlIndex, FollowsTheTableOfKinds)
+{
+    const char kinds[] = "elcdkq";
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(i, HGCellCtlIndex(kinds[i])) << kinds[i];
+    }
+    EXPECT_EQ(-1, HGCellCtlIndex('x'));
+    EXPECT_EQ(-1, HGCellCtlIndex(0));
+}
+
+TEST_F(CellControls, UnknownKindGetsNoChild)
+{
+    HGField* const odd = Text();
+    odd->cKind = 'z';
+    MakeGrid(GridOf({ odd }), 1);
+    EXPECT_EQ(0, Send(grid, HGM_GETFIELDCHILD, 0));
+    EXPECT_EQ(0, HGCreateCellCtl(ctl, ctl->pData, HGGetField(ctl->pData, 0)));
+}
+
+TEST_F(CellControls, EditChildCarriesTheTypeAndTheFormat)
+{
+    MakeGrid(GridOf({ Number("N", 0, "0.00") }), 1);
+    const HWND child = ChildOf(0);
+    ASSERT_TRUE(IsWindow(child));
+    EXPECT_EQ(200, GetDlgCtrlID(child));
+    EXPECT_FALSE(IsWindowVisible(child));
+    EXPECT_EQ('n', Send(child, HEM_GETCLASS));
+    EXPECT_EQ('l', Send(child, HEM_GETTYPE));
+    char format[16] = {};
+    SendPtr(child, HEM_GETFORMAT, sizeof format, format);
+    EXPECT_STREQ("0.00", format);
+    char name[16] = {};
+    GetClassNameA(child, name, sizeof name);
+    EXPECT_STREQ("HEdit_SS", name);
+    EXPECT_EQ(reinterpret_cast<LRESULT>(grid), Send(child, WWM_GETPARENT));
+    EXPECT_EQ(reinterpret_cast<void*>(HGGetField(ctl->pData, 0)->pCtl),
+              reinterpret_cast<void*>(Send(child, WWM_GETSTATE)));
+}
+
+TEST_F(CellControls, EditStyleLosesItsBorderAndGainsItsFrame)
+{
+    HGField* const field = HGFieldCreate("F", 0, 80, 0, 's', 's', 0, 0, 8, 'e', WS_BORDER | HES_UPPERCASE, "", 0);
+    MakeGrid(GridOf({ field }), 1);
+    const DWORD style = static_cast<DWORD>(Send(ChildOf(0), WWM_GETSTYLE));
+    EXPECT_EQ(0u, style & WS_BORDER);
+    EXPECT_EQ(DWORD{ WS_CHILD | HES_FRAME | HES_UPPERCASE }, style & (WS_CHILD | HES_FRAME | HES_UPPERCASE));
+}
+
+TEST_F(CellControls, RightAlignedColumnIsEditedRightAlignedToo)
+{
+    MakeGrid(GridOf({ Number(), Text() }), 1);
+    EXPECT_TRUE(HGGetField(ctl->pData, 0)->dwCtlStyle & HES_EDITRIGHT);
+    EXPECT_FALSE(HGGetField(ctl->pData, 1)->dwCtlStyle & HES_EDITRIGHT);
+    EXPECT_TRUE(Send(ChildOf(0), WWM_GETSTYLE) & HES_EDITRIGHT);
+}
+
+TEST_F(CellControls, TextIsLimitedToTheCell)
+{
+    MakeGrid(GridOf({ Text(9) }), 1);
+    EXPECT_EQ(8, Send(ChildOf(0), HEM_GETLIMIT));
+}
+
+TEST_F(CellControls, TextColumnWithoutSizeIsLimitedToZeroNotToMinusOne)
+{
+    MakeGrid(GridOf({ Text(0), Text(1) }), 1);
+    // A limit of 0 takes the limit off; -1 would do so too, but not on each platform alike.
+    EXPECT_EQ(32, Send(ChildOf(0), HEM_GETLIMIT));
+    EXPECT_EQ(32, Send(ChildOf(1), HEM_GETLIMIT));
+}
+
+TEST_F(CellControls, ChildTakesTheFontOfTheGrid)
+{
+    MakeGrid(GridOf({ Text() }), 1);
+    const HFONT font = CreateFontA(-18, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, "Arial");
+    Send(grid, WM_SETFONT, reinterpret_cast<WPARAM>(font));
+    SendPtr(grid, HGM_ADDFIELD, 0, Text());
+    EXPECT_EQ(reinterpret_cast<LRESULT>(font), Send(ChildOf(1), WM_GETFONT));
+    Send(grid, WM_SETFONT, 0);
+    DeleteObject(font);
+}
+
+TEST_F(CellControls, HostDrawnKindHasAnEditWithoutFormatAndWithoutWrapping)
+{
+    HGField* const field = HGFieldCreate("Q", 0, 80, 0, 'n', 'l', 0, 0, 0, 'q', 0, "000", 0);
+    MakeGrid(GridOf({ field, Text() }), 1);
+    const HWND child = ChildOf(0);
+    ASSERT_TRUE(IsWindow(child));
+    EXPECT_EQ(205, GetDlgCtrlID(child));
+    char format[16] = {};
+    SendPtr(child, HEM_GETFORMAT, sizeof format, format);
+    EXPECT_STREQ("*0", format);
+    EXPECT_NE(reinterpret_cast<LONG_PTR>(HGEditCellProc), GetWindowLongPtrA(child, GWLP_WNDPROC));
+    EXPECT_EQ(reinterpret_cast<LONG_PTR>(HGEditCellProc), GetWindowLongPtrA(ChildOf(1), GWLP_WNDPROC));
+}
+
+TEST_F(CellControls, KindsWhoseClassIsNotThereHaveNoChild)
+{
+    const HWND probe = CreateWindowExA(0, "HList", "", WS_CHILD, 0, 0, 1, 1, parent.hwnd(), nullptr, nullptr, nullptr);
+    HGField* const field = HGFieldCreate("L", 0, 80, 0, 's', 's', 0, 0, 8, 'l', 0, "", 0);
+    MakeGrid(GridOf({ field }), 1);
+    EXPECT_EQ(probe != nullptr, IsWindow(ChildOf(0)) != 0);
+}
+
+TEST_F(CellControls, LongFormatsAreCarriedWhole)
+{
+    const std::string format(900, '#');
+    MakeGrid(GridOf({ HGFieldCreate("M", 0, 80, 0, 'm', 's', 0, 0, 0, 'e', 0, format.c_str(), 0) }), 1);
+    std::string kept(1000, '\0');
+    SendPtr(ChildOf(0), HEM_GETFORMAT, kept.size(), kept.data());
+    EXPECT_EQ(format, kept.c_str());
+}
+
+} // namespace

@@ -1,0 +1,111 @@
+// What a wrapped cell control hands to the grid, and what it keeps.
+#include "gridctl/cell_controls.h"
+#include "gridctl/grid_window.h"
+
+namespace {
+
+class CellForward : public GridWindow {
+protected:
+    void SetUp() override { MakeGrid(GridOf({ Text(), Text() }), 3); }
+    void TearDown() override { HoldCtrl(false); }
+
+    void HoldCtrl(bool down)
+    {
+        BYTE keys[256] = {};
+        GetKeyboardState(keys);
+        keys[VK_CONTROL] = static_cast<BYTE>(down ? 0x80 : 0);
+        SetKeyboardState(keys);
+    }
+    bool Forwards(int kind, UINT vk)
+    {
+        LRESULT result = 0;
+        return HGCellForward(kind, grid, WM_KEYDOWN, vk, 0, &result);
+    }
+};
+
+struct KeyCase {
+    UINT vk;
+    bool plain[4]; // for edit, list, check, combo
+    bool ctrl[4];
+};
+
+// clang-format off
+constexpr KeyCase keyCases[] = {
+    { VK_TAB,    { true, true, true, true },     { true, true, true, true } },
+    { VK_RETURN, { true, true, true, true },     { true, true, true, true } },
+    { VK_ESCAPE, { true, true, true, true },     { true, true, true, true } },
+    { VK_HOME,   { false, false, false, false }, { true, true, true, true } },
+    { VK_END,    { false, false, false, false }, { true, true, true, true } },
+    { VK_PRIOR,  { true, false, true, false },   { true, true, true, true } },
+    { VK_NEXT,   { true, false, true, false },   { true, true, true, true } },
+    { VK_UP,     { true, false, true, false },   { true, true, true, true } },
+    { VK_DOWN,   { true, false, true, false },   { true, true, true, true } },
+    { VK_LEFT,   { false, true, true, false },   { false, true, true, false } },
+    { VK_RIGHT,  { false, true, true, false },   { false, true, true, false } },
+    { 'A',       { false, false, false, false }, { false, false, false, false } },
+    { VK_F2,     { false, false, false, false }, { false, false, false, false } },
+};
+// clang-format on
+constexpr int kinds[4] = { cellCodeEdit, cellCodeList, cellCodeCheck, cellCodeCombo };
+
+TEST_F(CellForward, KeysGoByKindAndCtrl)
+{
+    for (const KeyCase& each : keyCases) {
+        for (int i = 0; i < 4; ++i) {
+            HoldCtrl(false);
+            EXPECT_EQ(each.plain[i], Forwards(kinds[i], each.vk)) << each.vk << " kind " << kinds[i];
+            HoldCtrl(true);
+            EXPECT_EQ(each.ctrl[i], Forwards(kinds[i], each.vk)) << each.vk << " with Ctrl, kind " << kinds[i];
+        }
+    }
+}
+
+TEST_F(CellForward, FocusEventsAreToldAndNotConsumed)
+{
+    LRESULT result = 0;
+    EXPECT_FALSE(HGCellForward(cellCodeEdit, grid, WM_SETFOCUS, 0, 0, &result));
+    EXPECT_EQ(1, parent.Count(HGN_EDITFOCUS));
+    EXPECT_FALSE(HGCellForward(cellCodeEdit, grid, WM_KILLFOCUS, 0, 0, &result));
+    EXPECT_EQ(1, parent.Count(HGN_EDITBLUR));
+}
+
+TEST_F(CellForward, DialogCodeIsTheGrids)
+{
+    LRESULT result = 0;
+    EXPECT_TRUE(HGCellForward(cellCodeEdit, grid, WM_GETDLGCODE, 0, 0, &result));
+    EXPECT_EQ(Send(grid, WM_GETDLGCODE), result);
+}
+
+TEST_F(CellForward, DoubleClickAndRightButtonAreNotifications)
+{
+    LRESULT result = 0;
+    EXPECT_TRUE(HGCellForward(cellCodeEdit, grid, WM_LBUTTONDBLCLK, 0, 0, &result));
+    EXPECT_EQ(1, parent.Count(HGN_DBLCLK));
+    EXPECT_TRUE(HGCellForward(cellCodeEdit, grid, WM_RBUTTONDOWN, 0, 0, &result));
+    EXPECT_EQ(1, parent.Count(HGN_RBUTTONDOWN));
+    EXPECT_EQ(1, result);
+}
+
+TEST_F(CellForward, WithoutAGridNothingIsConsumed)
+{
+    LRESULT result = 0;
+    EXPECT_FALSE(HGCellForward(cellCodeEdit, parent.hwnd(), WM_KEYDOWN, VK_TAB, 0, &result));
+    EXPECT_EQ(1, result);
+}
+
+TEST_F(CellForward, TabInTheChildMovesTheGrid)
+{
+    MoveTo(0, 0);
+    const HWND child = reinterpret_cast<HWND>(Send(grid, HGM_GETFIELDCHILD, 0));
+    Send(child, WM_KEYDOWN, VK_TAB, 0);
+    EXPECT_EQ((Cell{ 1, 0 }), Current());
+}
+
+TEST_F(CellForward, OtherMessagesStayWithTheControl)
+{
+    const HWND child = reinterpret_cast<HWND>(Send(grid, HGM_GETFIELDCHILD, 0));
+    SendPtr(child, HEM_SETDATA, 0, "inside");
+    EXPECT_EQ("inside", TextOf(child));
+}
+
+} // namespace
