@@ -84,6 +84,8 @@ int FillGrid(HWND frame, const Options& options)
         AllowSorting(false);
         ShowGenerated(GridOf(frame), options.generated);
         TellStatus(frame, std::to_string(options.generated) + " generated records");
+        std::printf("%ld of %d generated records are loaded\n",
+                    static_cast<long>(SendMessageA(GridOf(frame), HGM_GETROWCOUNT, 0, 0)), options.generated);
         return 0;
     }
     std::vector<Problem> problems;
