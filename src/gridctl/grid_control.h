@@ -8,7 +8,9 @@
 
 #include <widgets/widgets.h>
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 static_assert(sizeof(void*) != 4 || (offsetof(HGridCtl, hBkBrush) == 18 && offsetof(HGridCtl, pData) == 52));
 
@@ -72,6 +74,17 @@ inline int LastRow(const HGridCtl* ctl)
     return HGRowCount(ctl->pData) - 1;
 }
 
+// Sums of record numbers stay in their 32 bits, whatever a host has set as base or total.
+inline LONG BoundRecord(std::int64_t record)
+{
+    constexpr std::int64_t highest = 0x7FFFFFFF;
+    return static_cast<LONG>(std::clamp(record, -highest - 1, highest));
+}
+inline LONG RecordOfRow(const HGridCtl* ctl, int row)
+{
+    return BoundRecord(static_cast<std::int64_t>(ctl->lRowBase) + row);
+}
+
 // The record of a grid's window, or null.
 HGridCtl* HGFromWindow(HWND hwnd);
 
@@ -101,9 +114,12 @@ void HGUnionRect(RECT* out, const RECT* a, const RECT* b);
 // Columns and hits
 HGField* HGNextColumn(HGridCtl* ctl, bool forward, int* col, int band); // null: no more
 void     HGStepColumn(HGridData* data, bool forward, int* col);
+int      HGBandOf(HGridCtl* ctl, int col); // 0 with one band and for a column that doesn't exist
 void     HGAddFixedWidths(HGridCtl* ctl, RECT* rect, int limit);
 void     HGAddLeftWidths(HGridCtl* ctl, RECT* rect, int col);
-int      HGWidestBand(HGridCtl* ctl); // highest sum of the visible widths of a band
+int      HGFixedZone(HGridCtl* ctl);         // width of the fixed columns
+int      HGWidestBand(HGridCtl* ctl);        // highest sum of the visible widths of a band
+int      HGBandsEnd(HGridCtl* ctl);          // where the widest band ends without scrolling, behind the row headers
 int      HGHitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band);
 int      HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band); // for painting
 
@@ -111,10 +127,12 @@ int      HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band); // for 
 void    HGRecalc(HGridCtl* ctl);
 void    HGRefresh(HGridCtl* ctl, bool erase);
 int     HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord);
+void    HGRestoreTop(HGridCtl* ctl, LONG record);
 void    HGScrollBy(HGridCtl* ctl, int dx, int dy, bool moveEditor);
 int     HGSetTop(HGridCtl* ctl, LONG record); // rows moved
 int     HGEnsureVisible(HGridCtl* ctl, int col, int row); // the index that the row has now
 LONG    HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw); // bar 0 across, 1 down; the old value
+bool    HGAskNavigate(HGridCtl* ctl); // false if the parent refuses the step, or the window went
 LRESULT HGOnHScroll(HGridCtl* ctl, WPARAM wParam);
 LRESULT HGOnVScroll(HGridCtl* ctl, WPARAM wParam);
 LRESULT HGOnMouseWheel(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault);
@@ -130,7 +148,9 @@ int  HGCallSource(HGridCtl* ctl, int operation, LONG record, void* buffer);
 int HGInsertRow(HGridCtl* ctl, const void* data, int row, bool markNew); // the index, or -1
 int HGDeleteRow(HGridCtl* ctl, int row, bool notify);
 int HGRemoveRow(HGridCtl* ctl, int row);
+int HGRemoveFirstRow(HGridCtl* ctl);              // of the block, which begins one record on then
 int HGAppendRow(HGridCtl* ctl, const void* data); // index + 1
+bool HGAnnounceNewRow(HGridCtl* ctl, int row);    // marks it new and tells the parent; false if the window went
 
 // Moves and selection
 int  HGMoveTo(HGridCtl* ctl, int col, int row, bool extend, bool scroll);
@@ -142,6 +162,7 @@ bool HGSelRange(HGridCtl* ctl, int* lo, int* hi);
 bool HGIsRowSelected(HGridCtl* ctl, int row);
 
 // Keys and mouse
+bool    HGIsKeyDown(int vk);
 LRESULT HGOnKeyDown(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault);
 LRESULT HGOnSysKeyUp(HGridCtl* ctl, WPARAM wParam, int* pDefault);
 LRESULT HGOnChar(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault);

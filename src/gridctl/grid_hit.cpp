@@ -1,0 +1,104 @@
+// Which cell a point is in. Points beyond the last row or column count as the last one.
+#include "gridctl/grid_control.h"
+
+namespace {
+
+struct Point {
+    int x;
+    int y;
+};
+
+Point UnpackPoint(LPARAM lParam)
+{
+    return { static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)) };
+}
+
+bool IsInHeader(const HGridCtl* ctl, int y)
+{
+    return y <= ctl->cBands * ctl->pData->nHdrHeight;
+}
+
+// The band of a point above the rows, by the header's bands. Bounded: a header without height has no band to give.
+int HeaderBand(const HGridCtl* ctl, int y, int band)
+{
+    return IsInHeader(ctl, y) && ctl->pData->nHdrHeight > 0 ? y / ctl->pData->nHdrHeight : band;
+}
+
+// Painting takes the whole header for band 0.
+int PaintBand(const HGridCtl* ctl, int y, int band)
+{
+    return IsInHeader(ctl, y) ? 0 : band;
+}
+
+using BandAbove = int (*)(const HGridCtl* ctl, int y, int band);
+
+int RowAbove(const HGridCtl* ctl)
+{
+    return HasStyle(ctl, HGS_COLHEADERS) || ctl->lRowBase != 0 ? -1 : 0;
+}
+
+void HitRow(HGridCtl* ctl, const RECT& data, int y, Cell* cell, int* band, BandAbove bandAbove)
+{
+    const int lineHeight = std::max<int>(1, ctl->pData->nRowHeight);
+    const int height = std::max(1, RecordHeight(ctl));
+    const int fromTop = y - static_cast<int>(data.top);
+    cell->row = static_cast<short>((fromTop + height) / height - 1 + ctl->nTopRow);
+    if (cell->row < ctl->nTopRow) {
+        cell->row = RowAbove(ctl);
+        *band = bandAbove(ctl, y, *band);
+        return;
+    }
+    if (cell->row >= HGRowCount(ctl->pData)) {
+        cell->row = LastRow(ctl);
+        return;
+    }
+    if (*band < 0) {
+        *band = (fromTop - (cell->row - ctl->nTopRow) * height) / lineHeight;
+    }
+}
+
+int HitColumn(HGridCtl* ctl, const RECT& data, int x, int band)
+{
+    const int fixed = ctl->pData->cFixedCols;
+    // Settled: fixed columns are walked from the same start, so over them a hit shifts with the scroll position.
+    const int start = static_cast<int>(data.left - ctl->nHScrollPos);
+    const int zone = start + HGFixedZone(ctl);
+    int right = start;
+    int col = -1;
+    while (right < x) {
+        int next = col;
+        const HGField* const field = HGNextColumn(ctl, true, &next, band);
+        const bool entersZone = col < fixed && next >= fixed;
+        if (!field || (entersZone && zone >= x)) {
+            break;
+        }
+        right = (entersZone ? std::max(right, zone) : right) + field->nWidth;
+        col = next;
+    }
+    return col;
+}
+
+int HitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band, BandAbove bandAbove)
+{
+    const Point point = UnpackPoint(lParam);
+    RECT data;
+    HGDataRect(ctl, &data);
+    HitRow(ctl, data, point.y, cell, band, bandAbove);
+    cell->col = HitColumn(ctl, data, point.x, *band);
+    if (cell->col < 0 && !HasStyle(ctl, HGS_ROWHEADERS)) {
+        cell->col = 0;
+    }
+    return 1;
+}
+
+} // namespace
+
+int HGHitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band)
+{
+    return HitCell(ctl, lParam, cell, band, HeaderBand);
+}
+
+int HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band)
+{
+    return HitCell(ctl, lParam, cell, band, PaintBand);
+}

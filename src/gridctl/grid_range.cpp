@@ -1,0 +1,206 @@
+// Page, totals and scroll bars of a grid, computed anew after every change of size or data.
+#include "gridctl/grid_control.h"
+
+namespace {
+
+// Most units of a scroll bar: longer record sets are scaled.
+constexpr LONG scrollUnits = 32766;
+
+int RectHeight(const RECT& rect)
+{
+    return static_cast<int>(rect.bottom - rect.top);
+}
+
+// Steps 1 to 3: how many rows fit.
+void MeasurePage(HGridCtl* ctl)
+{
+    RECT data;
+    HGDataRect(ctl, &data);
+    const int height = RectHeight(data);
+    const int record = std::max(1, RecordHeight(ctl));
+    // Settled: the low bit of the remainder, so an even remainder counts as no partial row.
+    SetFlag(ctl, HGC_PARTIALROW, ((height % record) & 1) != 0);
+    ctl->cPageRows = static_cast<short>(std::clamp(height / record + PartialRow(ctl), 1, 0x7FFF));
+}
+
+// A block that was cut or a page that has grown may leave records of the page unloaded that the source has.
+bool IsPageUnloaded(const HGridCtl* ctl)
+{
+    const int rows = HGRowCount(ctl->pData);
+    const int pageEnd = ctl->nTopRow + ctl->cPageRows - PartialRow(ctl);
+    return ctl->nTopRow > 1 && pageEnd > rows && RecordOfRow(ctl, rows) < ctl->lTotalRows;
+}
+
+// Loads what should be loaded. False if the window went.
+bool LoadBlock(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    ctl->cHeldRows = static_cast<short>(std::clamp<int>(ctl->cHeldRows, std::min(2 * ctl->cPageRows, rowLimit), rowLimit));
+    HGFillBlock(ctl, false);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    if (IsPageUnloaded(ctl)) {
+        HGShiftBlock(ctl, RecordOfRow(ctl, ctl->nTopRow - 1));
+    }
+    return IsWindow(hwnd) != 0;
+}
+
+// Steps 4 to 6. False if the window went.
+bool CountRows(HGridCtl* ctl)
+{
+    if (!HasFlag(ctl, HGC_VIRTUAL)) {
+        ctl->cHeldRows = static_cast<short>(HGRowCount(ctl->pData));
+        ctl->lTotalRows = ctl->cHeldRows;
+    } else {
+        if (!LoadBlock(ctl)) {
+            return false;
+        }
+        ctl->lTotalRows = std::max(ctl->lTotalRows, RecordOfRow(ctl, HGRowCount(ctl->pData)));
+    }
+    ctl->nVScale = (std::max<LONG>(ctl->lTotalRows, 1) - 1) / scrollUnits + 1;
+    return true;
+}
+
+void SetVerticalRange(HGridCtl* ctl)
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    info.nMax = ctl->lTotalRows / ctl->nVScale;
+    info.nPage = static_cast<UINT>(ctl->cPageRows - PartialRow(ctl) + 1);
+    if (ctl->hNavScroll) {
+        SetScrollInfo(ctl->hNavScroll, SB_CTL, &info, FALSE);
+    } else {
+        SetScrollInfo(ctl->hWnd, SB_VERT, &info, FALSE);
+    }
+}
+
+// Step 9. False if the window went.
+bool LowerTop(HGridCtl* ctl)
+{
+    const std::int64_t highest = std::max<std::int64_t>(static_cast<std::int64_t>(ctl->lTotalRows) - ctl->lRowBase, 0);
+    if (ctl->nTopRow <= highest) {
+        return true;
+    }
+    const HWND hwnd = ctl->hWnd;
+    ctl->nTopRow = static_cast<short>(highest);
+    HGShowEditor(ctl);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    InvalidateRect(hwnd, nullptr, TRUE);
+    return true;
+}
+
+// Steps 8 to 10. Showing or hiding a scroll bar changes the size, and with it comes the parent's turn.
+bool SetVerticalBar(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (HasStyle(ctl, WS_VSCROLL)) {
+        SetVerticalRange(ctl);
+    }
+    if (!IsWindow(hwnd) || !LowerTop(ctl)) {
+        return false;
+    }
+    HGSetScrollPos(ctl, 1, RecordOfRow(ctl, ctl->nTopRow) / ctl->nVScale, true);
+    return IsWindow(hwnd) != 0;
+}
+
+// Step 12, for a content wider than the zone. False if the window went.
+bool SetWidth(HGridCtl* ctl, int widest)
+{
+    const HWND hwnd = ctl->hWnd;
+    ctl->nHScrollMax = widest;
+    if (!HGNotify(ctl, HGN_HRANGE)) {
+        return false;
+    }
+    if (ctl->nHScrollPos > ctl->nHScrollMax) {
+        HGScrollBy(ctl, static_cast<int>(ctl->nHScrollMax - ctl->nHScrollPos), 0, true);
+    }
+    return IsWindow(hwnd) != 0;
+}
+
+void SetHorizontalBar(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_PAGE;
+    info.nPage = ctl->nHPage;
+    SetScrollInfo(hwnd, SB_HORZ, &info, FALSE);
+    if (IsWindow(hwnd)) {
+        SetScrollRange(hwnd, SB_HORZ, 0, static_cast<int>(ctl->nHScrollMax), TRUE);
+    }
+}
+
+// Steps 11 to 14.
+void MeasureWidths(HGridCtl* ctl)
+{
+    RECT zone;
+    HGScrollRect(ctl, &zone);
+    // Fixed columns may be wider than the client area; the zone isn't narrower than nothing.
+    const LONG width = std::max<LONG>(zone.right - zone.left, 0);
+    const int widest = HGWidestBand(ctl);
+    if (widest >= width) {
+        if (!SetWidth(ctl, widest)) {
+            return;
+        }
+    } else {
+        ctl->nHScrollPos = 0;
+        ctl->nHScrollMax = 0;
+    }
+    ctl->nHPage = static_cast<DWORD>(width);
+    if (HasStyle(ctl, WS_HSCROLL)) {
+        SetHorizontalBar(ctl);
+    }
+}
+
+} // namespace
+
+void HGRecalc(HGridCtl* ctl)
+{
+    MeasurePage(ctl);
+    if (!CountRows(ctl) || !HGNotify(ctl, HGN_LAYOUT) || !SetVerticalBar(ctl)) {
+        return;
+    }
+    MeasureWidths(ctl);
+}
+
+void HGRefresh(HGridCtl* ctl, bool erase)
+{
+    const HWND hwnd = ctl->hWnd;
+    HGRecalc(ctl);
+    if (!IsWindow(hwnd)) {
+        return;
+    }
+    HGRestoreTop(ctl, RecordOfRow(ctl, ctl->nTopRow));
+    // Settled: anchor and current row are handed over crosswise, so a refresh exchanges the ends of the selection.
+    HGClampCell(ctl, RecordOfRow(ctl, CurrentCell(ctl).row), RecordOfRow(ctl, ctl->nAnchorRow));
+    if (!IsWindow(hwnd)) {
+        return;
+    }
+    RECT client;
+    HGClientRect(ctl, &client);
+    InvalidateRect(hwnd, &client, erase);
+    HGMoveTo(ctl, CurrentCell(ctl).col, CurrentCell(ctl).row, true, false);
+}
+
+LONG HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw)
+{
+    if (bar == SB_HORZ) {
+        const LONG old = ctl->nHScrollPos;
+        ctl->nHScrollPos = pos;
+        if (HasStyle(ctl, WS_HSCROLL)) {
+            SetScrollPos(ctl->hWnd, SB_HORZ, static_cast<int>(pos), redraw);
+        }
+        return old;
+    }
+    const LONG old = static_cast<LONG>(ctl->nVScrollPos);
+    ctl->nVScrollPos = static_cast<DWORD>(pos);
+    if (HasStyle(ctl, WS_VSCROLL)) {
+        const HWND window = ctl->hNavScroll ? ctl->hNavScroll : ctl->hWnd;
+        SetScrollPos(window, ctl->hNavScroll ? SB_CTL : SB_VERT, static_cast<int>(pos), redraw);
+    }
+    return old;
+}

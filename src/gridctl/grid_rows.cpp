@@ -1,0 +1,263 @@
+// Adds and deletes rows, and keeps current cell and anchor right while rows go.
+#include "gridctl/grid_control.h"
+
+namespace {
+
+bool HasRoom(const HGridCtl* ctl)
+{
+    return ctl->pData && HGRowCount(ctl->pData) < rowLimit;
+}
+
+// Index of the new row. Bounded: a row without memory isn't the one that was last before.
+int AppendNode(HGridCtl* ctl, const void* data)
+{
+    const int before = HGRowCount(ctl->pData);
+    HLListAdd(ctl->pData->pRows, data);
+    return HGRowCount(ctl->pData) > before ? before : -1;
+}
+
+// The last row is the blank one in which the user enters the next record.
+bool HasEntryRow(const HGridCtl* ctl)
+{
+    const void* const last = HGRowCount(ctl->pData) > 0 ? ctl->pData->pRows->pTail : nullptr;
+    return HasStyle(ctl, HGS_NEWROW) && last && (HGNodeFlags(last) & HGR_DIRTY) == 0;
+}
+
+// Settled: the result is the row count, so the caller's row is the entry row and not the inserted one.
+int InsertBeforeEntryRow(HGridCtl* ctl, const void* data)
+{
+    const int inserted = HLListInsert(ctl->pData->pRows, LastRow(ctl), data);
+    return inserted < 0 ? -1 : static_cast<short>(HGRowCount(ctl->pData));
+}
+
+// A row that the source is to see before it enters the block, a blank one for null.
+struct OfferedRow {
+    void*       blank;
+    const void* data;
+    OfferedRow(HGridCtl* ctl, const void* given)
+        : blank(given ? nullptr : HGBlankRow(ctl->pData)), data(given ? given : blank)
+    {
+    }
+    ~OfferedRow() { HBlockFree(blank); }
+    OfferedRow(const OfferedRow&) = delete;
+    OfferedRow& operator=(const OfferedRow&) = delete;
+};
+
+// False if the source refuses the row, and if the window went.
+bool SourceTakes(HGridCtl* ctl, const OfferedRow& row, int operation, LONG record)
+{
+    const HWND hwnd = ctl->hWnd;
+    const HGridData* const grid = ctl->pData;
+    const int size = grid->pRows->cbItem;
+    if (!row.data || !HGCallSource(ctl, operation, record, const_cast<void*>(row.data)) || !IsWindow(hwnd)) {
+        return false;
+    }
+    // A source that changes the columns meanwhile leaves a row that doesn't fit any more.
+    return ctl->pData == grid && grid->pRows->cbItem == size;
+}
+
+// The index that the row gets when the block takes it in later, or -1.
+int AppendToSource(HGridCtl* ctl, const void* data)
+{
+    const HWND hwnd = ctl->hWnd;
+    const OfferedRow row(ctl, data);
+    const bool taken = SourceTakes(ctl, row, HGSRC_APPEND, HGRowCount(ctl->pData));
+    return taken && IsWindow(hwnd) ? HGRowCount(ctl->pData) : -1;
+}
+
+int InsertNode(HGridCtl* ctl, const void* data, int row)
+{
+    if (!HasFlag(ctl, HGC_VIRTUAL)) {
+        return HLListInsert(ctl->pData->pRows, row, data);
+    }
+    const OfferedRow offered(ctl, data);
+    const bool taken = SourceTakes(ctl, offered, HGSRC_INSERT, RecordOfRow(ctl, row));
+    return taken && HasRoom(ctl) ? HLListInsert(ctl->pData->pRows, row, offered.data) : -1;
+}
+
+// A changed record goes back to the source. False if the window went.
+bool WriteBack(HGridCtl* ctl, int row)
+{
+    void* const node = HasFlag(ctl, HGC_VIRTUAL) ? HGRowNode(ctl->pData, row) : nullptr;
+    if (!node || (HGNodeFlags(node) & (HGR_DIRTY | HGR_NEW)) != HGR_DIRTY) {
+        return true;
+    }
+    const HWND hwnd = ctl->hWnd;
+    HGCallSource(ctl, HGSRC_WRITEBACK, RecordOfRow(ctl, row), HGNodeData(node));
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    if (HGRowNode(ctl->pData, row) == node) {
+        HGChangeNodeFlags(node, HGR_DIRTY, 0);
+    }
+    return true;
+}
+
+// The row with the editor goes: the edit ends, and what it stored isn't lost. False if the window went.
+bool EndEditOfRow(HGridCtl* ctl, int row)
+{
+    if (row != CurrentCell(ctl).row) {
+        return true;
+    }
+    const HWND hwnd = ctl->hWnd;
+    HGDetachEditor(ctl);
+    return IsWindow(hwnd) && WriteBack(ctl, row);
+}
+
+// Rows behind a removed one move up.
+void MoveUp(HGridCtl* ctl, int row)
+{
+    if (row < CurrentCell(ctl).row) {
+        --ctl->nCurRow;
+    }
+    if (row < ctl->nAnchorRow) {
+        --ctl->nAnchorRow;
+    }
+}
+
+// Settled: whichever row went, current row and anchor go up by one more. False if the window went.
+bool MoveUpOnce(HGridCtl* ctl)
+{
+    if (CurrentCell(ctl).row <= 0 || ctl->nAnchorRow <= 0) {
+        return true;
+    }
+    const HWND hwnd = ctl->hWnd;
+    HGDetachEditor(ctl);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    if (CurrentCell(ctl).row > 0 && ctl->nAnchorRow > 0) {
+        --ctl->nCurRow;
+        --ctl->nAnchorRow;
+    }
+    return true;
+}
+
+// With raiseBase the block begins one record on, as soon as its first row has gone: an edit that ends after that
+// names its own record.
+int RemoveRow(HGridCtl* ctl, int row, bool raiseBase)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (row < 0 || row > LastRow(ctl) || !WriteBack(ctl, row) || !EndEditOfRow(ctl, row)) {
+        return 0;
+    }
+    const int removed = HLListRemove(ctl->pData->pRows, row);
+    if (removed) {
+        MoveUp(ctl, row);
+        ctl->lRowBase = RecordOfRow(ctl, raiseBase ? 1 : 0);
+    }
+    if (!MoveUpOnce(ctl)) {
+        return 0;
+    }
+    // Settled: crosswise, as in a refresh.
+    HGClampCell(ctl, RecordOfRow(ctl, CurrentCell(ctl).row), RecordOfRow(ctl, ctl->nAnchorRow));
+    return IsWindow(hwnd) ? removed : 0;
+}
+
+// Asks the source to delete a record. The row's edit ends before, and nothing of it is written back afterwards: behind
+// the deletion its number is another record's. False: refused, or the window went.
+bool DeleteRecord(HGridCtl* ctl, int row)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (row == CurrentCell(ctl).row && HasFlag(ctl, HGC_INEDIT)) {
+        HGCommitEdit(ctl);
+        if (!IsWindow(hwnd)) {
+            return false;
+        }
+    }
+    void* const node = HGRowNode(ctl->pData, row);
+    if (!node || (HGNodeFlags(node) & HGR_NEW)) {
+        return false;
+    }
+    if (!HGCallSource(ctl, HGSRC_DELETE, RecordOfRow(ctl, row), HGNodeData(node)) || !IsWindow(hwnd)) {
+        return false;
+    }
+    if (HGRowNode(ctl->pData, row) == node) {
+        HGChangeNodeFlags(node, HGR_DIRTY, 0);
+    }
+    return true;
+}
+
+} // namespace
+
+bool HGAnnounceNewRow(HGridCtl* ctl, int row)
+{
+    if (void* const node = HGRowNode(ctl->pData, row)) {
+        HGChangeNodeFlags(node, 0, HGR_NEW);
+    }
+    ctl->nPropRow = static_cast<WORD>(row);
+    ctl->nPropCol = 0xFFFF;
+    return HGNotify(ctl, HGN_NEWROW);
+}
+
+int HGAddRow(HGridCtl* ctl, const void* data, bool markNew)
+{
+    if (!HasRoom(ctl)) {
+        return -1;
+    }
+    if (HasFlag(ctl, HGC_VIRTUAL)) {
+        const int index = AppendToSource(ctl, data);
+        return index < 0 ? -1 : static_cast<short>(index + 1);
+    }
+    if (HasEntryRow(ctl)) {
+        return markNew ? -1 : InsertBeforeEntryRow(ctl, data);
+    }
+    const int index = AppendNode(ctl, data);
+    if (index < 0 || (markNew && !HGAnnounceNewRow(ctl, index))) {
+        return -1;
+    }
+    return static_cast<short>(index + 1);
+}
+
+int HGInsertRow(HGridCtl* ctl, const void* data, int row, bool markNew)
+{
+    if (!HasRoom(ctl)) {
+        return -1;
+    }
+    const int index = InsertNode(ctl, data, row);
+    return index >= 0 && markNew && !HGAnnounceNewRow(ctl, index) ? -1 : index;
+}
+
+int HGAppendRow(HGridCtl* ctl, const void* data)
+{
+    const int index = HasRoom(ctl) ? AppendNode(ctl, data) : -1;
+    if (index < 0) {
+        return -1;
+    }
+    if (index >= ctl->nTopRow && index <= ctl->nTopRow + ctl->cPageRows) {
+        HGInvalidateRange(ctl, -1, index, -1, index);
+    }
+    return index + 1;
+}
+
+int HGDeleteRow(HGridCtl* ctl, int row, bool notify)
+{
+    if (row < 0 || row > LastRow(ctl)) {
+        return 0;
+    }
+    if (HasFlag(ctl, HGC_VIRTUAL)) {
+        if (!DeleteRecord(ctl, row)) {
+            return 0;
+        }
+    } else if (HasStyle(ctl, HGS_NEWROW) && row == LastRow(ctl)) {
+        return 0;
+    }
+    if (notify) {
+        ctl->nPropRow = static_cast<WORD>(row);
+        ctl->nPropCol = 0xFFFF;
+        if (!HGNotify(ctl, HGN_ROWDELETING)) {
+            return 0;
+        }
+    }
+    return HGRemoveRow(ctl, row);
+}
+
+int HGRemoveRow(HGridCtl* ctl, int row)
+{
+    return RemoveRow(ctl, row, false);
+}
+
+int HGRemoveFirstRow(HGridCtl* ctl)
+{
+    return RemoveRow(ctl, 0, true);
+}
