@@ -38,6 +38,7 @@ endif()
 
 add_library(widgets SHARED src/foundation/dll_main.cpp src/widgets.def)
 add_library(widgets::widgets ALIAS widgets)
+set_property(GLOBAL APPEND PROPERTY WIDGETS_PRODUCTS widgets)
 target_link_libraries(widgets PRIVATE widgets_flags)
 widgets_include_folders(widgets PRIVATE)
 widgets_link_objects(widgets widgets_block_memory)

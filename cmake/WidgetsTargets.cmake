@@ -145,21 +145,22 @@ endfunction()
 # Registers a program as one test of CTest. Programs with windows use the keyboard focus: one at a time.
 function(widgets_register_test target name window)
     set(test ${WIDGETS_CONFIG}.${name})
+    set(drive $<$<AND:$<BOOL:${WIN32}>,$<BOOL:${CMAKE_CROSSCOMPILING}>>:Z:>)
     add_test(NAME ${test} COMMAND ${target})
     set_tests_properties(${test} PROPERTIES
         TIMEOUT 300
-        ENVIRONMENT "GTEST_OUTPUT=xml:${PROJECT_BINARY_DIR}/results/${test}.xml;GTEST_COLOR=no"
+        ENVIRONMENT "GTEST_OUTPUT=xml:${drive}${PROJECT_BINARY_DIR}/results/${test}.xml;GTEST_COLOR=no"
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
     if(window)
         set_tests_properties(${test} PROPERTIES RESOURCE_LOCK desktop)
     endif()
 endfunction()
 
-# widgets_test(<name> [PORTABLE <source>...] [WINDOWS <source>...])
+# widgets_test(<name> [PORTABLE <source>...] [WINDOWS <source>...] [NATIVE <source>...])
 # <name>_test: a GoogleTest program with the product's objects over guarded memory. Not made without a source.
 function(widgets_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "PORTABLE;WINDOWS")
-    widgets_pick_sources(sources "${arg_PORTABLE}" "${arg_WINDOWS}" "")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "PORTABLE;WINDOWS;NATIVE")
+    widgets_pick_sources(sources "${arg_PORTABLE}" "${arg_WINDOWS}" "${arg_NATIVE}")
     if(NOT sources)
         return()
     endif()
@@ -215,6 +216,7 @@ function(widgets_program name)
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE widgets widgets_flags user32 gdi32 comctl32)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+    set_property(GLOBAL APPEND PROPERTY WIDGETS_PRODUCTS ${name})
     if(arg_GUI)
         set_target_properties(${name} PROPERTIES WIN32_EXECUTABLE ON)
     endif()
@@ -225,7 +227,7 @@ endfunction()
 # fuzz/seeds/<name>; a run lasts WIDGETS_FUZZ_SECONDS of the environment, 3 when it isn't set.
 function(widgets_fuzz name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES")
-    if(WIN32)
+    if(NOT WIDGETS_CONFIG STREQUAL native-asan)
         return()
     endif()
     widgets_pick_sources(sources "${arg_SOURCES}" "" "")

@@ -1,8 +1,8 @@
 # shellcheck shell=sh
-# How Windows programs run here: sourced by wine-x64, wine-x86 and the set-up. Prefixes lie under build/, so nothing of
-# the user's own Wine is touched. 32-bit Wine is the host's, or else one in a folder that is entered by chroot.
+# How Windows programs run here: sourced by wine-x64, wine-x86 and ./run, which set widgets_root. Prefixes lie under
+# build/, so nothing of the user's own Wine is touched. 32-bit Wine is the host's, or one in a folder, by chroot.
 
-widgets_root=$(cd "$(dirname "$0")/.." && pwd -P)
+: "${widgets_root:?is the root of the source tree}"
 wine32_root=${WIDGETS_WINE32_ROOT:-/var/cache/widgets/wine32-root}
 
 # Where Wine for an architecture is: "host PATH", "chroot PATH" or nothing.

@@ -1,0 +1,83 @@
+# shellcheck shell=bash
+# What the steps of ./run share: a line a step with the time it took, root rights, packages. Sourced by run and setup.sh.
+
+logs=${widgets_root:?is the root of the source tree}/build/logs
+
+note() {
+    printf '%11s %s\n' '' "$*"
+}
+
+die() {
+    printf 'run: %s\n' "$*" >&2
+    exit 1
+}
+
+# Seconds with one digit since a value of now.
+now() {
+    echo $((${EPOCHREALTIME//[^0-9]/} / 100000))
+}
+since() {
+    local tenths=$(($(now) - $1))
+    printf '%6d.%d s' $((tenths / 10)) $((tenths % 10))
+}
+
+# step TITLE COMMAND...: runs quietly, with a log that is shown if the command fails. Its last line is the note of what
+# it did when it begins with ": ".
+step() {
+    local title=$1 log start result=0 what
+    shift
+    mkdir -p "$logs"
+    log=$logs/$(printf '%s' "${title,,}" | tr -cs 'a-z0-9' '-').log
+    start=$(now)
+    [ ! -t 1 ] || printf '%11s %s ...\r' '' "$title"
+    ("$@") >"$log" 2>&1 </dev/null || result=$?
+    what=$(tail -n 1 "$log" | sed -n 's/^: //p')
+    if [ $result = 0 ]; then
+        printf '%11s %s%s\n' "$(since "$start")" "$title" "${what:+: $what}"
+    else
+        printf '%11s %s FAILED\n' "$(since "$start")" "$title"
+        tail -n 60 "$log" | sed 's/^/    | /'
+        note "all of it: $log"
+    fi
+    return $result
+}
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    else
+        sudo -n -- "$@"
+    fi
+}
+
+# Asks for the password once, before the first step that needs it; later calls find it remembered.
+become_root_able() {
+    [ "$(id -u)" != 0 ] || return 0
+    sudo -n true 2>/dev/null && return 0
+    command -v sudo >/dev/null || die "this needs root: run it as root or install sudo"
+    note "the set-up needs root rights:"
+    sudo -v || die "sudo refuses"
+}
+
+missing_packages() {
+    local package
+    for package in "$@"; do
+        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || echo "$package"
+    done
+}
+
+apt_get() {
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 "$@"
+}
+
+# A mirror in the middle of an update refuses for a while; that is why it is asked three times.
+install_packages() {
+    local try
+    for try in 1 2 3; do
+        apt_get update || true
+        apt_get install --no-install-recommends "$@" && return 0
+        echo "apt-get failed, try $try"
+        [ "$try" = 3 ] || sleep $((5 * try))
+    done
+    return 1
+}

@@ -1,0 +1,49 @@
+# shellcheck shell=bash
+# shellcheck disable=SC2154 # widgets_root and logs come from lib.sh
+# One X server without a screen and one Wine server an architecture, from start_wine to the end of the script that
+# sources this after wine.sh. Programs then start in a tenth of a second.
+
+xvfb=
+wine_started=
+
+start_wine() {
+    local arch
+    trap stop_wine EXIT
+    trap 'exit 130' INT
+    trap 'exit 143' TERM HUP
+    start_display
+    wine_started=yes
+    for arch in x64 x86; do
+        wine_server "$arch" -p >/dev/null 2>&1 </dev/null
+    done
+}
+
+start_display() {
+    local number=$widgets_root/build/display.number
+    mkdir -p "$logs"
+    Xvfb -displayfd 3 -screen 0 "${WIDGETS_SCREEN:-1280x1024x24}" -nolisten tcp -noreset \
+        3>"$number" >"$logs/xvfb.log" 2>&1 </dev/null &
+    xvfb=$!
+    while [ ! -s "$number" ]; do
+        kill -0 "$xvfb" 2>/dev/null || die "Xvfb doesn't start, see $logs/xvfb.log"
+        sleep 0.02
+    done
+    DISPLAY=:$(cat "$number")
+    export DISPLAY
+}
+
+stop_wine() {
+    local arch
+    if [ -n "$wine_started" ]; then
+        for arch in x64 x86; do
+            wine_server "$arch" -k >/dev/null 2>&1 </dev/null
+            wine_server "$arch" -w >/dev/null 2>&1 </dev/null
+        done
+    fi
+    if [ -n "$xvfb" ]; then
+        kill "$xvfb" 2>/dev/null
+        wait "$xvfb" 2>/dev/null
+    fi
+    xvfb=
+    wine_started=
+}
