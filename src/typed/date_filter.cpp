@@ -122,14 +122,20 @@ bool IsOneOfTwoDigits(const Entry& entry)
 bool CanGrow(const Entry& entry)
 {
     return entry.walked > 0 && !IsDecimalDigit(Under(entry)) && IsOneLetterField(entry, entry.at - 1) &&
-           (entry.walked == 1 || !IsDecimalDigit(TextAt(entry, entry.pos - 2)));
+           (entry.pos == 1 || !IsDecimalDigit(TextAt(entry, entry.pos - 2)));
+}
+
+// What the picture has for the character under the caret. Behind a second digit the alignment is one place ahead.
+char PlaceUnder(const Entry& entry)
+{
+    return entry.walked > entry.pos ? PictureAt(entry, entry.at - 1) : Here(entry);
 }
 
 // A blank between fields, be it the picture's own or a separator that the settings make a blank.
 bool IsPictureBlank(const Entry& entry)
 {
-    const char here = Here(entry);
-    return here == ' ' || (here == '/' && gIntl.chDateSep == ' ') || (here == ':' && gIntl.chTimeSep == ' ');
+    const char place = PlaceUnder(entry);
+    return place == ' ' || (place == '/' && gIntl.chDateSep == ' ') || (place == ':' && gIntl.chTimeSep == ' ');
 }
 
 bool Take(Entry* entry, int advance, int repaint)
