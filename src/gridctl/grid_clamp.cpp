@@ -1,4 +1,4 @@
-// Brings top row, current cell and anchor back to what is loaded, after columns or rows have changed.
+// Brings current cell and anchor back to what is loaded, after columns or rows have changed.
 #include "gridctl/grid_control.h"
 
 namespace {
@@ -81,15 +81,4 @@ int HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord)
     ctl->nAnchorCol = static_cast<short>(bounds.anchor.col);
     ctl->nAnchorRow = static_cast<short>(bounds.anchor.row);
     return bounds.currentChanged || bounds.anchorChanged;
-}
-
-void HGRestoreTop(HGridCtl* ctl, LONG record)
-{
-    const int fixed = ctl->pData->cFixedCols;
-    const int lastFirst = std::max(fixed, LastCol(ctl));
-    const std::int64_t top = static_cast<std::int64_t>(record) - ctl->lRowBase;
-    constexpr std::int64_t highest = 0x7FFF;
-    ctl->lTotalRows = std::max(ctl->lTotalRows, RecordOfRow(ctl, HGRowCount(ctl->pData)));
-    ctl->nFirstCol = static_cast<WORD>(std::clamp<int>(ctl->nFirstCol, fixed, lastFirst));
-    ctl->nTopRow = static_cast<short>(std::clamp<std::int64_t>(top, 0, highest));
 }

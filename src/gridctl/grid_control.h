@@ -85,6 +85,12 @@ inline LONG RecordOfRow(const HGridCtl* ctl, int row)
     return BoundRecord(static_cast<std::int64_t>(ctl->lRowBase) + row);
 }
 
+// The record at the top of the page.
+inline LONG HGTopRecord(const HGridCtl* ctl)
+{
+    return RecordOfRow(ctl, ctl->nTopRow);
+}
+
 // The record of a grid's window, or null.
 HGridCtl* HGFromWindow(HWND hwnd);
 
@@ -126,6 +132,7 @@ int      HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band); // for 
 // Ranges and scrolling
 void    HGRecalc(HGridCtl* ctl);
 void    HGRefresh(HGridCtl* ctl, bool erase);
+bool    HGCountRows(HGridCtl* ctl); // loads the block and counts; false if the window went
 int     HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord);
 void    HGRestoreTop(HGridCtl* ctl, LONG record);
 void    HGScrollBy(HGridCtl* ctl, int dx, int dy, bool moveEditor);

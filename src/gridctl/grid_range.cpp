@@ -3,9 +3,6 @@
 
 namespace {
 
-// Most units of a scroll bar: longer record sets are scaled.
-constexpr LONG scrollUnits = 32766;
-
 int RectHeight(const RECT& rect)
 {
     return static_cast<int>(rect.bottom - rect.top);
@@ -21,45 +18,6 @@ void MeasurePage(HGridCtl* ctl)
     // Settled: the low bit of the remainder, so an even remainder counts as no partial row.
     SetFlag(ctl, HGC_PARTIALROW, ((height % record) & 1) != 0);
     ctl->cPageRows = static_cast<short>(std::clamp(height / record + PartialRow(ctl), 1, 0x7FFF));
-}
-
-// A block that was cut or a page that has grown may leave records of the page unloaded that the source has.
-bool IsPageUnloaded(const HGridCtl* ctl)
-{
-    const int rows = HGRowCount(ctl->pData);
-    const int pageEnd = ctl->nTopRow + ctl->cPageRows - PartialRow(ctl);
-    return ctl->nTopRow > 1 && pageEnd > rows && RecordOfRow(ctl, rows) < ctl->lTotalRows;
-}
-
-// Loads what should be loaded. False if the window went.
-bool LoadBlock(HGridCtl* ctl)
-{
-    const HWND hwnd = ctl->hWnd;
-    ctl->cHeldRows = static_cast<short>(std::clamp<int>(ctl->cHeldRows, std::min(2 * ctl->cPageRows, rowLimit), rowLimit));
-    HGFillBlock(ctl, false);
-    if (!IsWindow(hwnd)) {
-        return false;
-    }
-    if (IsPageUnloaded(ctl)) {
-        HGShiftBlock(ctl, RecordOfRow(ctl, ctl->nTopRow - 1));
-    }
-    return IsWindow(hwnd) != 0;
-}
-
-// Steps 4 to 6. False if the window went.
-bool CountRows(HGridCtl* ctl)
-{
-    if (!HasFlag(ctl, HGC_VIRTUAL)) {
-        ctl->cHeldRows = static_cast<short>(HGRowCount(ctl->pData));
-        ctl->lTotalRows = ctl->cHeldRows;
-    } else {
-        if (!LoadBlock(ctl)) {
-            return false;
-        }
-        ctl->lTotalRows = std::max(ctl->lTotalRows, RecordOfRow(ctl, HGRowCount(ctl->pData)));
-    }
-    ctl->nVScale = (std::max<LONG>(ctl->lTotalRows, 1) - 1) / scrollUnits + 1;
-    return true;
 }
 
 void SetVerticalRange(HGridCtl* ctl)
@@ -103,7 +61,7 @@ bool SetVerticalBar(HGridCtl* ctl)
     if (!IsWindow(hwnd) || !LowerTop(ctl)) {
         return false;
     }
-    HGSetScrollPos(ctl, 1, RecordOfRow(ctl, ctl->nTopRow) / ctl->nVScale, true);
+    HGSetScrollPos(ctl, 1, HGTopRecord(ctl) / ctl->nVScale, true);
     return IsWindow(hwnd) != 0;
 }
 
@@ -161,7 +119,7 @@ void MeasureWidths(HGridCtl* ctl)
 void HGRecalc(HGridCtl* ctl)
 {
     MeasurePage(ctl);
-    if (!CountRows(ctl) || !HGNotify(ctl, HGN_LAYOUT) || !SetVerticalBar(ctl)) {
+    if (!HGCountRows(ctl) || !HGNotify(ctl, HGN_LAYOUT) || !SetVerticalBar(ctl)) {
         return;
     }
     MeasureWidths(ctl);
@@ -174,7 +132,7 @@ void HGRefresh(HGridCtl* ctl, bool erase)
     if (!IsWindow(hwnd)) {
         return;
     }
-    HGRestoreTop(ctl, RecordOfRow(ctl, ctl->nTopRow));
+    HGRestoreTop(ctl, HGTopRecord(ctl));
     // Settled: anchor and current row are handed over crosswise, so a refresh exchanges the ends of the selection.
     HGClampCell(ctl, RecordOfRow(ctl, CurrentCell(ctl).row), RecordOfRow(ctl, ctl->nAnchorRow));
     if (!IsWindow(hwnd)) {

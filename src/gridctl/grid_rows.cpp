@@ -1,69 +1,7 @@
-// Adds and deletes rows, and keeps current cell and anchor right while rows go.
-#include "gridctl/grid_control.h"
+// Inserts and deletes rows, and keeps current cell and anchor right while rows go.
+#include "gridctl/grid_rows_internal.h"
 
 namespace {
-
-bool HasRoom(const HGridCtl* ctl)
-{
-    return ctl->pData && HGRowCount(ctl->pData) < rowLimit;
-}
-
-// Index of the new row. Bounded: a row without memory isn't the one that was last before.
-int AppendNode(HGridCtl* ctl, const void* data)
-{
-    const int before = HGRowCount(ctl->pData);
-    HLListAdd(ctl->pData->pRows, data);
-    return HGRowCount(ctl->pData) > before ? before : -1;
-}
-
-// The last row is the blank one in which the user enters the next record.
-bool HasEntryRow(const HGridCtl* ctl)
-{
-    const void* const last = HGRowCount(ctl->pData) > 0 ? ctl->pData->pRows->pTail : nullptr;
-    return HasStyle(ctl, HGS_NEWROW) && last && (HGNodeFlags(last) & HGR_DIRTY) == 0;
-}
-
-// Settled: the result is the row count, so the caller's row is the entry row and not the inserted one.
-int InsertBeforeEntryRow(HGridCtl* ctl, const void* data)
-{
-    const int inserted = HLListInsert(ctl->pData->pRows, LastRow(ctl), data);
-    return inserted < 0 ? -1 : static_cast<short>(HGRowCount(ctl->pData));
-}
-
-// A row that the source is to see before it enters the block, a blank one for null.
-struct OfferedRow {
-    void*       blank;
-    const void* data;
-    OfferedRow(HGridCtl* ctl, const void* given)
-        : blank(given ? nullptr : HGBlankRow(ctl->pData)), data(given ? given : blank)
-    {
-    }
-    ~OfferedRow() { HBlockFree(blank); }
-    OfferedRow(const OfferedRow&) = delete;
-    OfferedRow& operator=(const OfferedRow&) = delete;
-};
-
-// False if the source refuses the row, and if the window went.
-bool SourceTakes(HGridCtl* ctl, const OfferedRow& row, int operation, LONG record)
-{
-    const HWND hwnd = ctl->hWnd;
-    const HGridData* const grid = ctl->pData;
-    const int size = grid->pRows->cbItem;
-    if (!row.data || !HGCallSource(ctl, operation, record, const_cast<void*>(row.data)) || !IsWindow(hwnd)) {
-        return false;
-    }
-    // A source that changes the columns meanwhile leaves a row that doesn't fit any more.
-    return ctl->pData == grid && grid->pRows->cbItem == size;
-}
-
-// The index that the row gets when the block takes it in later, or -1.
-int AppendToSource(HGridCtl* ctl, const void* data)
-{
-    const HWND hwnd = ctl->hWnd;
-    const OfferedRow row(ctl, data);
-    const bool taken = SourceTakes(ctl, row, HGSRC_APPEND, HGRowCount(ctl->pData));
-    return taken && IsWindow(hwnd) ? HGRowCount(ctl->pData) : -1;
-}
 
 int InsertNode(HGridCtl* ctl, const void* data, int row)
 {
@@ -71,8 +9,8 @@ int InsertNode(HGridCtl* ctl, const void* data, int row)
         return HLListInsert(ctl->pData->pRows, row, data);
     }
     const OfferedRow offered(ctl, data);
-    const bool taken = SourceTakes(ctl, offered, HGSRC_INSERT, RecordOfRow(ctl, row));
-    return taken && HasRoom(ctl) ? HLListInsert(ctl->pData->pRows, row, offered.data) : -1;
+    const bool taken = HGOfferRow(ctl, offered, HGSRC_INSERT, RecordOfRow(ctl, row));
+    return taken && HGHasRowRoom(ctl) ? HLListInsert(ctl->pData->pRows, row, offered.data) : -1;
 }
 
 // A changed record goes back to the source. False if the window went.
@@ -180,6 +118,31 @@ bool DeleteRecord(HGridCtl* ctl, int row)
 
 } // namespace
 
+bool HGHasRowRoom(const HGridCtl* ctl)
+{
+    return ctl->pData && HGRowCount(ctl->pData) < rowLimit;
+}
+
+// Index of the new row. Bounded: a row without memory isn't the one that was last before.
+int HGAppendNode(HGridCtl* ctl, const void* data)
+{
+    const int before = HGRowCount(ctl->pData);
+    HLListAdd(ctl->pData->pRows, data);
+    return HGRowCount(ctl->pData) > before ? before : -1;
+}
+
+bool HGOfferRow(HGridCtl* ctl, const OfferedRow& row, int operation, LONG record)
+{
+    const HWND hwnd = ctl->hWnd;
+    const HGridData* const grid = ctl->pData;
+    const int size = grid->pRows->cbItem;
+    if (!row.data || !HGCallSource(ctl, operation, record, const_cast<void*>(row.data)) || !IsWindow(hwnd)) {
+        return false;
+    }
+    // A source that changes the columns meanwhile leaves a row that doesn't fit any more.
+    return ctl->pData == grid && grid->pRows->cbItem == size;
+}
+
 bool HGAnnounceNewRow(HGridCtl* ctl, int row)
 {
     if (void* const node = HGRowNode(ctl->pData, row)) {
@@ -190,28 +153,9 @@ bool HGAnnounceNewRow(HGridCtl* ctl, int row)
     return HGNotify(ctl, HGN_NEWROW);
 }
 
-int HGAddRow(HGridCtl* ctl, const void* data, bool markNew)
-{
-    if (!HasRoom(ctl)) {
-        return -1;
-    }
-    if (HasFlag(ctl, HGC_VIRTUAL)) {
-        const int index = AppendToSource(ctl, data);
-        return index < 0 ? -1 : static_cast<short>(index + 1);
-    }
-    if (HasEntryRow(ctl)) {
-        return markNew ? -1 : InsertBeforeEntryRow(ctl, data);
-    }
-    const int index = AppendNode(ctl, data);
-    if (index < 0 || (markNew && !HGAnnounceNewRow(ctl, index))) {
-        return -1;
-    }
-    return static_cast<short>(index + 1);
-}
-
 int HGInsertRow(HGridCtl* ctl, const void* data, int row, bool markNew)
 {
-    if (!HasRoom(ctl)) {
+    if (!HGHasRowRoom(ctl)) {
         return -1;
     }
     const int index = InsertNode(ctl, data, row);
@@ -220,7 +164,7 @@ int HGInsertRow(HGridCtl* ctl, const void* data, int row, bool markNew)
 
 int HGAppendRow(HGridCtl* ctl, const void* data)
 {
-    const int index = HasRoom(ctl) ? AppendNode(ctl, data) : -1;
+    const int index = HGHasRowRoom(ctl) ? HGAppendNode(ctl, data) : -1;
     if (index < 0) {
         return -1;
     }

@@ -48,15 +48,10 @@ bool ScrollAcross(HGridCtl* ctl, int dx, Scroll* scroll)
     return MovePixels(ctl, moved, 0, zone, scroll);
 }
 
-LONG TopRecord(const HGridCtl* ctl)
-{
-    return RecordOfRow(ctl, ctl->nTopRow);
-}
-
 // The farthest way down that leaves a full page.
 std::int64_t WayDown(const HGridCtl* ctl)
 {
-    return static_cast<std::int64_t>(PartialRow(ctl)) - ctl->cPageRows - TopRecord(ctl) + ctl->lTotalRows;
+    return static_cast<std::int64_t>(PartialRow(ctl)) - ctl->cPageRows - HGTopRecord(ctl) + ctl->lTotalRows;
 }
 
 // Tells the parent, which may add rows. Those that it doesn't have counted are. False if the window went.
@@ -94,7 +89,7 @@ bool ScrollToRecord(HGridCtl* ctl, LONG record, Scroll* scroll)
     if (!IsWindow(scroll->hwnd)) {
         return false;
     }
-    HGSetScrollPos(ctl, SB_VERT, TopRecord(ctl) / ctl->nVScale, true);
+    HGSetScrollPos(ctl, SB_VERT, HGTopRecord(ctl) / ctl->nVScale, true);
     if (!scroll->quiet && !HGNotify(ctl, HGN_VSCROLLED)) {
         return false;
     }
@@ -115,7 +110,7 @@ bool ScrollDown(HGridCtl* ctl, int rows, Scroll* scroll)
     if (!AskForRows(ctl, &dy)) {
         return false;
     }
-    const LONG top = TopRecord(ctl);
+    const LONG top = HGTopRecord(ctl);
     dy = std::max(dy, -static_cast<std::int64_t>(top));
     return dy == 0 || ScrollToRecord(ctl, BoundRecord(top + dy), scroll);
 }
@@ -166,31 +161,6 @@ void HGScrollBy(HGridCtl* ctl, int dx, int dy, bool moveEditor)
     }
 }
 
-int HGSetTop(HGridCtl* ctl, LONG record)
-{
-    const HWND hwnd = ctl->hWnd;
-    const LONG oldTop = TopRecord(ctl);
-    const LONG oldTotal = ctl->lTotalRows;
-    if (HasFlag(ctl, HGC_VIRTUAL)) {
-        const std::int64_t pageEnd = static_cast<std::int64_t>(record) + ctl->cPageRows + PartialRow(ctl);
-        if (record < ctl->lRowBase) {
-            HGShiftBlock(ctl, BoundRecord(pageEnd - ctl->cHeldRows));
-        } else if (pageEnd >= RecordOfRow(ctl, HGRowCount(ctl->pData))) {
-            HGShiftBlock(ctl, BoundRecord(static_cast<std::int64_t>(record) - 1));
-        }
-        if (!IsWindow(hwnd)) {
-            return 0;
-        }
-    }
-    const int lastTop = std::max(PartialRow(ctl) + HGRowCount(ctl->pData) - ctl->cPageRows, 0);
-    const LONG top = std::clamp(record, ctl->lRowBase, RecordOfRow(ctl, lastTop));
-    ctl->nTopRow = static_cast<short>(top - ctl->lRowBase);
-    if (ctl->lTotalRows != oldTotal) {
-        HGRecalc(ctl);
-    }
-    return static_cast<int>(BoundRecord(static_cast<std::int64_t>(top) - oldTop));
-}
-
 int HGEnsureVisible(HGridCtl* ctl, int col, int row)
 {
     const HWND hwnd = ctl->hWnd;
@@ -211,6 +181,6 @@ int HGEnsureVisible(HGridCtl* ctl, int col, int row)
     if (!IsWindow(hwnd)) {
         return row;
     }
-    HGSetScrollPos(ctl, SB_VERT, TopRecord(ctl) / ctl->nVScale, true);
+    HGSetScrollPos(ctl, SB_VERT, HGTopRecord(ctl) / ctl->nVScale, true);
     return static_cast<short>(static_cast<std::int64_t>(record) - ctl->lRowBase);
 }
