@@ -97,6 +97,13 @@ int TruncateToInt(double value)
     return value > low && value < high ? static_cast<int>(value) : std::numeric_limits<int>::min();
 }
 
+// The store rounds to a double, where a coprocessor would go on with the full width of its register.
+double AsDouble(double value)
+{
+    const volatile double stored = value;
+    return stored;
+}
+
 bool ReadRecord(DateTimeRec* rec, const BYTE* data)
 {
     std::memcpy(rec, data, sizeof *rec);
@@ -142,15 +149,16 @@ bool ReadDays(DateTimeRec* rec, const BYTE* data)
     const double value = LoadAs<double>(data);
     const int    days = TruncateToInt(value);
     SetDate(rec, static_cast<DWORD>(days) + julianOfOrigin);
+    const double msec = AsDouble((value - days) * msecPerDay);
     // Settled: the time of a day before the origin is a negative count, read as unsigned.
-    SetTimeAndMsec(rec, static_cast<DWORD>(TruncateToInt((value - days) * msecPerDay + 0.5)));
+    SetTimeAndMsec(rec, static_cast<DWORD>(TruncateToInt(AsDouble(msec + 0.5))));
     return true;
 }
 
 bool WriteDays(const DateTimeRec& rec, BYTE* data)
 {
     const int days = static_cast<int>(JulianOf(rec) - julianOfOrigin);
-    StoreAs(data, SecondsAsMsec(rec) / msecPerDay + static_cast<double>(days));
+    StoreAs(data, AsDouble(SecondsAsMsec(rec) / msecPerDay) + static_cast<double>(days));
     return true;
 }
 

@@ -1,5 +1,10 @@
 // The platform of the native build: each function does what portable sources expect of it, in the simplest way.
 // The functions stand in the order of windows.h.
+
+// The clock of the runtime has 64 bits on every architecture.
+#define _FILE_OFFSET_BITS 64
+#define _TIME_BITS 64
+
 #include "native_platform.h"
 
 #include <algorithm>

@@ -32,8 +32,8 @@ Bytes BytesOf(T value)
 Bytes DayAndMsec(int day, DWORD msec)
 {
     Bytes bytes = BytesOf(day);
-    for (const BYTE byte : BytesOf(msec)) {
-        bytes.push_back(byte);
+    for (const BYTE part : BytesOf(msec)) {
+        bytes.push_back(part);
     }
     return bytes;
 }
@@ -52,8 +52,8 @@ Bytes Calendar(std::initializer_list<int> fields)
 {
     Bytes bytes;
     for (const int field : fields) {
-        for (const BYTE byte : BytesOf(field)) {
-            bytes.push_back(byte);
+        for (const BYTE part : BytesOf(field)) {
+            bytes.push_back(part);
         }
     }
     return bytes;

@@ -270,8 +270,8 @@ TEST_F(DateModel, AnyBytesAreSafeToReadAsAnyType)
     constexpr char types[] = "DQTmqsuAadlIit";
     for (int i = 0; i < 200000; ++i) {
         BYTE data[36];
-        for (BYTE& byte : data) {
-            byte = static_cast<BYTE>(random());
+        for (BYTE& part : data) {
+            part = static_cast<BYTE>(random());
         }
         const char  type = types[i % 14];
         DateTimeRec rec = {};
