@@ -21,24 +21,31 @@ since() {
     printf '%6d.%d s' $((tenths / 10)) $((tenths % 10))
 }
 
-# step TITLE COMMAND...: runs quietly, with a log that is shown if the command fails. Its last line is the note of what
-# it did when it begins with ": ".
+# step TITLE COMMAND...: runs it with its output in a log, and prints a line: how long it took, and what the last line of
+# the log says if that begins with ": ". The log is shown if the command fails.
 step() {
-    local title=$1 log start result=0 what
-    shift
+    run_step show "$@"
+}
+
+# The same for a command whose failure is nothing bad, because there is another way.
+try_step() {
+    run_step hide "$@"
+}
+
+run_step() {
+    local log start result=0 what failure=$1 title=$2
+    shift 2
     mkdir -p "$logs"
     log=$logs/$(printf '%s' "${title,,}" | tr -cs 'a-z0-9' '-').log
     start=$(now)
     [ ! -t 1 ] || printf '%11s %s ...\r' '' "$title"
     ("$@") >"$log" 2>&1 </dev/null || result=$?
     what=$(tail -n 1 "$log" | sed -n 's/^: //p')
-    if [ $result = 0 ]; then
-        printf '%11s %s%s\n' "$(since "$start")" "$title" "${what:+: $what}"
-    else
-        printf '%11s %s FAILED\n' "$(since "$start")" "$title"
+    if [ $result != 0 ] && [ "$failure" = show ]; then
+        what="FAILED, log in $log"
         tail -n 60 "$log" | sed 's/^/    | /'
-        note "all of it: $log"
     fi
+    printf '%11s %s%s\n' "$(since "$start")" "$title" "${what:+: $what}"
     return $result
 }
 

@@ -28,8 +28,7 @@ setup_wine32() {
         return 0
     fi
     become_root_able
-    step "32-bit Wine from the host's packages" wine32_from_packages && return 0
-    note "so 32-bit Wine gets a folder of its own"
+    try_step "32-bit Wine from the host's packages" wine32_from_packages && return 0
     step "32-bit Wine in $wine32_root" wine32_from_folder
 }
 
@@ -37,7 +36,7 @@ setup_wine32() {
 # simulation has package lists of its own, so a machine on which it fails is left untouched.
 wine32_from_packages() {
     local probe result=0 added=
-    [ "$(dpkg --print-architecture)" = amd64 ] || { echo "not an amd64 machine"; return 1; }
+    [ "$(dpkg --print-architecture)" = amd64 ] || { echo ": this is no amd64 machine"; return 1; }
     probe=$(mktemp -d)
     wine32_simulate "$probe" || result=$?
     as_root rm -rf "$probe"
@@ -50,28 +49,30 @@ wine32_from_packages() {
     apt_get update || true
     apt_get install --no-install-recommends --no-remove "${wine32_packages[@]}" && return 0
 
-    echo "The simulation promised too much: back to how it was."
     if [ -n "$added" ]; then
         as_root dpkg --remove-architecture i386 || true
         apt_get update || true
     fi
+    echo ": the installation failed, the architecture is removed again"
     return 1
 }
 
 wine32_simulate() {
-    local probe=$1 plan
+    local probe=$1 plan changed
     local options=(-o "APT::Architectures=amd64,i386" -o "Dir::State::Lists=$probe/lists" -o "Dir::Cache=$probe/cache")
     mkdir -p "$probe/lists/partial" "$probe/cache/archives/partial"
     chmod -R 755 "$probe"
     apt_get "${options[@]}" update || true
     plan=$(apt_get "${options[@]}" install -s --no-install-recommends "${wine32_packages[@]}" 2>&1) || {
         echo "$plan"
-        echo ": the i386 packages don't fit this machine's"
+        echo ": they don't fit what is installed"
         return 1
     }
     # "Inst name [old version] (new version)" is an upgrade, "Remv name" a removal.
-    if grep -E '^(Remv |Inst [^ ]+ \[)' <<<"$plan"; then
-        echo "The packages listed above would be removed or changed."
+    changed=$(grep -cE '^(Remv |Inst [^ ]+ \[)' <<<"$plan")
+    if [ "$changed" != 0 ]; then
+        echo "$plan"
+        echo ": not taken, they would change or remove $changed packages of this machine"
         return 1
     fi
 }
@@ -90,7 +91,7 @@ setup_prefix() {
     wanted="$(wine_place "$arch") $(cksum <"$widgets_root/tools/wine.reg")"
     [ "$(cat "$stamp" 2>/dev/null)" != "$wanted" ] || return 0
     DISPLAY=${DISPLAY:-:none} "$widgets_root/tools/wine-$arch" wineboot -i
-    DISPLAY=${DISPLAY:-:none} "$widgets_root/tools/wine-$arch" regedit /S "$widgets_root/tools/wine.reg"
+    DISPLAY=${DISPLAY:-:none} "$widgets_root/tools/wine-$arch" regedit /S "Z:$widgets_root/tools/wine.reg"
     wine_server "$arch" -w
     [ -e "$widgets_root/build/wine-$arch/system.reg" ] || return 1
     echo "$wanted" >"$stamp"
