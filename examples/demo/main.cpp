@@ -94,7 +94,7 @@ int FillGrid(HWND frame, const Options& options)
     std::printf("%d rows loaded in %lu ms, %u problems\n", rows, GetTickCount() - start,
                 static_cast<unsigned>(problems.size()));
     TellProblems(problems);
-    TellStatus(frame, Summary(rows, options.csv, problems));
+    TellStatus(frame, Summary(rows, options.csv.substr(FolderOf(options.csv.c_str()).size()), problems));
     return problems.empty() ? 0 : 1;
 }
 

@@ -9,10 +9,13 @@ constexpr const char* frameClass = "WildlifeStrikes";
 constexpr INT_PTR     gridId = 100;
 constexpr INT_PTR     statusId = 101;
 constexpr UINT        sortMessage = WM_APP; // wParam: column
-constexpr int         frameWidth = 1180;
+constexpr int         frameWidth = 1240;
 constexpr int         frameHeight = 720;
 constexpr int         recordPartWidth = 220;
 constexpr int         allOrNone = -1;
+constexpr COLORREF    faceColor = RGB(233, 239, 246);   // headers, lines and every second row
+constexpr COLORREF    stripeColor = RGB(255, 255, 255); // the rows between
+constexpr COLORREF    selectColor = RGB(190, 209, 234); // headers of the current row and column
 
 // The one frame of the program.
 struct Frame {
@@ -138,6 +141,8 @@ HWND MakeFrame(const std::string& definition)
 {
     const HINSTANCE instance = GetModuleHandleA(nullptr);
     RegisterFrame(instance);
+    SetGridBckgndColor(faceColor, stripeColor);
+    SetGridSelectColor(selectColor);
     frame.font = MessageFont();
     const HWND hwnd = CreateWindowExA(0, frameClass, "Wildlife strikes", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                                       CW_USEDEFAULT, CW_USEDEFAULT, frameWidth, frameHeight, nullptr, nullptr, instance,
