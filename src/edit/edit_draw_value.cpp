@@ -86,14 +86,13 @@ bool DrawLine(HDC hdc, const RECT* rect, const DrawnRun& run)
     return fits == run.count;
 }
 
-// The platform tells how far it came before the lines ran out of the rectangle.
+// Lines below the rectangle aren't drawn: the height of them all tells whether there are any.
 bool DrawWrapped(HDC hdc, RECT* rect, const DrawnRun& run)
 {
-    DRAWTEXTPARAMS params = {};
-    params.cbSize = sizeof params;
-    // DrawTextExA writes to its text only with flags that aren't in use here.
-    DrawTextExA(hdc, const_cast<char*>(run.text), run.count, rect, wrapFlags, &params);
-    return static_cast<int>(params.uiLengthDrawn) >= run.count;
+    RECT whole = *rect;
+    DrawTextA(hdc, run.text, run.count, &whole, wrapFlags | DT_CALCRECT);
+    DrawTextA(hdc, run.text, run.count, rect, wrapFlags);
+    return whole.bottom <= rect->bottom;
 }
 
 // A grid that is the parent of the field tells by its rows whether two lines have room.

@@ -31,6 +31,16 @@ const char* WindowTextOf(const CREATESTRUCTA& create)
     return create.lpszName && !IS_INTRESOURCE(create.lpszName) ? create.lpszName : "";
 }
 
+// The default may give the scroll bar its own range, so it gets the field's once more.
+LRESULT FinishCreation(const HEditCtl* ctl, const MsgArgs& args)
+{
+    const LRESULT result = DefWindowProcA(args.hwnd, args.message, args.wParam, args.lParam);
+    if (result && HasStyle(ctl, WS_HSCROLL)) {
+        SetScrollRange(args.hwnd, SB_HORZ, 0, ctl->nScrollMax, FALSE);
+    }
+    return result;
+}
+
 void FreeRecord(HEditCtl* ctl)
 {
     FreeBuffers(ctl);
@@ -68,7 +78,7 @@ LRESULT OnNcCreate(const MsgArgs& args)
     SendMessageA(args.hwnd, WM_SETFONT, 0, 0);
     RefreshText(ctl, false);
     StartClock(ctl);
-    return AskDefault(args);
+    return FinishCreation(ctl, args);
 }
 
 void OnNcDestroy(HEditCtl* ctl)

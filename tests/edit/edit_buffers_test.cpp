@@ -1,0 +1,85 @@
+// Buffers of the record: growing, copying, failing.
+#include "edit_record.h"
+#include "support/guarded_memory.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace {
+
+TEST(ResizeBuffers, KeepsTheTextAndTakesTheValue)
+{
+    EditRecord edit("abc");
+    std::strcpy(edit.ctl.pszText, "typed");
+    ASSERT_TRUE(ResizeBuffers(&edit.ctl, 100, "value"));
+    EXPECT_STREQ("typed", +edit.ctl.pszText);
+    EXPECT_EQ("value", edit.Text());
+    EXPECT_EQ(100, +edit.ctl.cbText);
+    EXPECT_EQ(100, +edit.ctl.cbData);
+}
+
+TEST(ResizeBuffers, CutsBothTextsThatBecomeTooLong)
+{
+    EditRecord edit("abcdef");
+    std::strcpy(edit.ctl.pszText, "typed text");
+    ASSERT_TRUE(ResizeBuffers(&edit.ctl, 4, edit.ctl.pData));
+    EXPECT_STREQ("typ", +edit.ctl.pszText);
+    EXPECT_EQ("abc", edit.Text());
+}
+
+TEST(ResizeBuffers, ValueMayLieInTheOldBuffer)
+{
+    EditRecord edit("abc");
+    ASSERT_TRUE(ResizeBuffers(&edit.ctl, 200, static_cast<const char*>(edit.ctl.pData) + 1));
+    EXPECT_EQ("bc", edit.Text());
+}
+
+TEST(ResizeBuffers, FailureLeavesAllAsItWas)
+{
+    EditRecord edit("abc");
+    const int size = edit.ctl.cbText;
+    for (int n = 1; n <= 2; ++n) {
+        FailAllocation(n);
+        EXPECT_FALSE(ResizeBuffers(&edit.ctl, 200, "x")) << "allocation " << n;
+        EXPECT_EQ("abc", edit.Text());
+        EXPECT_EQ(size, +edit.ctl.cbText);
+        EXPECT_EQ(size, +edit.ctl.cbData);
+    }
+    FailAllocation(0);
+}
+
+TEST(GrowText, NeverShrinks)
+{
+    EditRecord edit("%nl");
+    EXPECT_TRUE(GrowText(&edit.ctl, 3));
+    EXPECT_EQ(32, +edit.ctl.cbText);
+    EXPECT_TRUE(GrowText(&edit.ctl, 64));
+    EXPECT_EQ(64, +edit.ctl.cbText);
+}
+
+TEST(GrowData, KeepsTheValueOnFailure)
+{
+    EditRecord edit("%ms##");
+    FailAllocation(1);
+    EXPECT_FALSE(GrowData(&edit.ctl, 50));
+    FailAllocation(0);
+    EXPECT_EQ(3, +edit.ctl.cbData);
+}
+
+TEST(CopyValue, CopiesTheBytesOfAFixedType)
+{
+    EditRecord edit("%nl");
+    const int value = 12345;
+    CopyValue(&edit.ctl, edit.ctl.pData, &value);
+    EXPECT_EQ(12345, edit.Number());
+}
+
+TEST(CopyValue, CutsATextToTheBlock)
+{
+    EditRecord edit("%ms##");
+    CopyValue(&edit.ctl, edit.ctl.pData, "123456");
+    EXPECT_EQ("12", edit.Text());
+}
+
+} // namespace

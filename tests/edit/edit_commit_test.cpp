@@ -1,0 +1,455 @@
+// Committing: parsing, bounds, validation, vetoes and the focus.
+#include "edit_window.h"
+#include "foundation/memory.h"
+#include "support/guarded_memory.h"
+
+#include <cstring>
+
+namespace {
+
+using EditCommit = EditWindow;
+
+TEST_F(EditCommit, WithoutTypingNothingIsParsed)
+{
+    Create("%nl");
+    SendMessageA(edit, HEM_SETFLAGS, HEF_DIRTY, 0);
+    _fstrnzcpy(Ctl()->pszText, "42", Ctl()->cbText);
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(0, Number());
+}
+
+int gCalls;
+int gAnswer;
+int CALLBACK Count(HWND, int, void*)
+{
+    ++gCalls;
+    return gAnswer;
+}
+
+class EditValidation : public EditWindow {
+protected:
+    void Install(int answer)
+    {
+        gCalls = 0;
+        gAnswer = answer;
+        Send(HEM_SETVALIDATOR, 0, reinterpret_cast<LPARAM>(Count));
+    }
+};
+
+TEST_F(EditValidation, CommittingTwiceWithoutTypingParsesOnce)
+{
+    Create("%nl");
+    Install(0);
+    Replace("42");
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(1, gCalls);
+}
+
+TEST_F(EditCommit, SuccessClearsDirtyAndNull)
+{
+    Create("%nl");
+    Send(HEM_SETDATA, 0, 0);
+    Replace("42");
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_FALSE(HasFlag(Ctl(), HEF_DIRTY | CF_NULL));
+    EXPECT_TRUE(HasFlag(Ctl(), CF_CHANGED));
+}
+
+TEST_F(EditCommit, EmptyTextKeepsANullValueNull)
+{
+    Create("%nl");
+    Send(HEM_SETDATA, 0, 0);
+    Replace("");
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_TRUE(HasFlag(Ctl(), CF_NULL));
+    EXPECT_FALSE(HasFlag(Ctl(), HEF_DIRTY));
+}
+
+TEST_F(EditCommit, EmptyDateTextOnANullDateSucceeds)
+{
+    for (const char* const type : { "%dl", "%aQ" }) {
+        edit = nullptr;
+        seen.Clear();
+        Create(type);
+        Send(HEM_SETDATA, 0, 0);
+        Replace("");
+        EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0)) << type;
+        EXPECT_TRUE(HasFlag(Ctl(), CF_NULL));
+        EXPECT_EQ(Codes(), Told());
+    }
+}
+
+TEST_F(EditCommit, EmptyDateTextOnADateFails)
+{
+    Create("%dl");
+    const int date = 20240517;
+    Send(HEM_SETDATA, 0, AsParam(&date));
+    Replace("");
+    EXPECT_NE(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(Codes{ HEN_BADINPUT }, Told());
+}
+
+TEST_F(EditCommit, ChangedTellsWhetherTheValueDiffers)
+{
+    Create("%nl");
+    Replace("42");
+    Send(HEM_COMMIT, 1, 0);
+    EXPECT_TRUE(HasFlag(Ctl(), CF_CHANGED));
+    Replace("042");
+    Send(HEM_COMMIT, 1, 0);
+    EXPECT_FALSE(HasFlag(Ctl(), CF_CHANGED));
+}
+
+TEST_F(EditCommit, ChangedComparesTextsAsTexts)
+{
+    Create("abc");
+    Replace("abc");
+    Send(HEM_COMMIT, 1, 0);
+    EXPECT_FALSE(HasFlag(Ctl(), CF_CHANGED));
+    Replace("abd");
+    Send(HEM_COMMIT, 1, 0);
+    EXPECT_TRUE(HasFlag(Ctl(), CF_CHANGED));
+}
+
+TEST_F(EditCommit, FailureKeepsTheTextAndTheRepairedValue)
+{
+    Create("%dl");
+    const std::string text = DateText(31, 4, 2024);
+    Replace(text.c_str());
+    EXPECT_NE(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(text, Text());
+    EXPECT_TRUE(HasFlag(Ctl(), HEF_DIRTY));
+    EXPECT_EQ(20240430, LoadAs<int>(Ctl()->pData));
+    EXPECT_EQ(Codes{ HEN_BADINPUT }, Told());
+}
+
+TEST_F(EditCommit, VetoOfBadInputRestoresTheOldValueAndForgetsTheFailure)
+{
+    Create("%dl");
+    const int date = 20240517;
+    Send(HEM_SETDATA, 0, AsParam(&date));
+    Veto(HEN_BADINPUT);
+    Replace(DateText(31, 4, 2024).c_str());
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(20240517, LoadAs<int>(Ctl()->pData));
+    EXPECT_FALSE(HasFlag(Ctl(), HEF_DIRTY | CF_CHANGED));
+}
+
+TEST_F(EditCommit, FailureOnANullValueRestoresIt)
+{
+    Create("%dl");
+    Send(HEM_SETDATA, 0, 0);
+    Replace(DateText(31, 4, 2024).c_str());
+    EXPECT_NE(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(0, LoadAs<int>(Ctl()->pData));
+    EXPECT_TRUE(HasFlag(Ctl(), CF_NULL));
+}
+
+TEST_F(EditCommit, NumberAboveTheMaximumMovesToIt)
+{
+    Create("%nl|0;100;|");
+    Focus();
+    seen.Clear();
+    Replace("150");
+    Blur();
+    EXPECT_EQ((Codes{ HEN_ABOVEMAX, HEN_KILLFOCUS }), Told());
+    EXPECT_EQ("100", Text());
+    EXPECT_EQ(100, Number());
+}
+
+TEST_F(EditCommit, VetoOfAboveMaximumKeepsTheNumber)
+{
+    Create("%nl|0;100;|");
+    Focus();
+    Veto(HEN_ABOVEMAX);
+    Replace("150");
+    Blur();
+    EXPECT_EQ("150", Text());
+    EXPECT_EQ(150, Number());
+}
+
+TEST_F(EditCommit, NumberBelowTheMinimumMovesToIt)
+{
+    Create("%nl|-10;100;|");
+    Replace("-50");
+    Send(HEM_COMMIT, 1, 1);
+    EXPECT_EQ(Codes{ HEN_BELOWMIN }, Told());
+    EXPECT_EQ(-10, Number());
+}
+
+TEST_F(EditCommit, VetoOfBelowMinimumKeepsTheNumber)
+{
+    Create("%nl|-10;100;|");
+    Veto(HEN_BELOWMIN);
+    Replace("-50");
+    Send(HEM_COMMIT, 1, 1);
+    EXPECT_EQ(-50, Number());
+}
+
+TEST_F(EditCommit, MinimumIsTestedOnTheNumberThatTheMaximumLeft)
+{
+    Create("%nl");
+    Ctl()->dMin = 10;
+    Ctl()->dMax = 5;
+    Ctl()->wBounds = 3;
+    Replace("20");
+    Send(HEM_COMMIT, 1, 1);
+    EXPECT_EQ((Codes{ HEN_ABOVEMAX, HEN_BELOWMIN }), Told());
+    EXPECT_EQ(10, Number());
+}
+
+TEST_F(EditCommit, NumberOnTheBoundIsNoCase)
+{
+    Create("%nl|0;100;|");
+    Replace("100");
+    Send(HEM_COMMIT, 1, 1);
+    EXPECT_EQ(Codes(), Told());
+}
+
+TEST_F(EditCommit, DateAboveTheMaximumMovesToIt)
+{
+    // Texts of bounds have the order of the settings.
+    const std::string window = "%dl|" + DateText(1, 1, 2020) + ";" + DateText(31, 12, 2020) + ";|";
+    Create(window.c_str());
+    Replace(DateText(5, 6, 2024).c_str());
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 1));
+    EXPECT_EQ(Codes{ HEN_ABOVEMAX }, Told());
+    EXPECT_EQ(20201231, LoadAs<int>(Ctl()->pData));
+    seen.Clear();
+    Replace(DateText(5, 6, 1999).c_str());
+    Send(HEM_COMMIT, 1, 1);
+    EXPECT_EQ(Codes{ HEN_BELOWMIN }, Told());
+    EXPECT_EQ(20200101, LoadAs<int>(Ctl()->pData));
+}
+
+TEST_F(EditCommit, DateIsTestedAgainstOneBoundOnly)
+{
+    Create("%dl");
+    Ctl()->dMin = 50000;
+    Ctl()->dMax = 100;
+    Ctl()->wBounds = 3;
+    Replace(DateText(5, 6, 2024).c_str());
+    Send(HEM_COMMIT, 1, 1);
+    EXPECT_EQ(Codes{ HEN_ABOVEMAX }, Told());
+}
+
+TEST_F(EditCommit, DateWhoseMaximumIsVetoedIsTestedAgainstTheMinimum)
+{
+    Create("%dl");
+    Ctl()->dMin = 50000;
+    Ctl()->dMax = 100;
+    Ctl()->wBounds = 3;
+    Veto(HEN_ABOVEMAX);
+    Replace(DateText(5, 6, 2024).c_str());
+    Send(HEM_COMMIT, 1, 1);
+    EXPECT_EQ((Codes{ HEN_ABOVEMAX, HEN_BELOWMIN }), Told());
+}
+
+TEST_F(EditCommit, TimeWithinItsBoundsKeepsItsHundredths)
+{
+    Create("%ti|00:00:00;23:59:59;|");
+    const BYTE time[4] = { 10, 20, 30, 45 };
+    Send(HEM_SETDATA, 0, AsParam(time));
+    Replace("10:20:31");
+    Send(HEM_COMMIT, 1, 1);
+    EXPECT_EQ(31, static_cast<const BYTE*>(Ctl()->pData)[2]);
+    EXPECT_EQ(10, static_cast<const BYTE*>(Ctl()->pData)[0]);
+}
+
+TEST_F(EditValidation, CallbackTakesOnTheCheckOfTheDate)
+{
+    Create("%dl");
+    Install(0);
+    Replace(DateText(31, 4, 2024).c_str());
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(20240431, LoadAs<int>(Ctl()->pData)) << "neither checked nor repaired";
+    EXPECT_EQ(Codes(), Told());
+}
+
+TEST_F(EditValidation, RefusalTellsBadInputAndGivesTheFocusBack)
+{
+    Create("%nl");
+    Focus();
+    Install(3);
+    seen.Clear();
+    Replace("42");
+    Blur();
+    EXPECT_EQ(edit, GetFocus());
+    EXPECT_EQ((Codes{ HEN_SETFOCUS, HEN_BADINPUT, HEN_KILLFOCUS }), Told());
+    EXPECT_TRUE(HasFlag(Ctl(), HEF_DIRTY));
+}
+
+TEST_F(EditValidation, RefusalIsTheResultOfTheCommit)
+{
+    Create("%nl");
+    Install(3);
+    Replace("42");
+    EXPECT_EQ(3, Send(HEM_COMMIT, 1, 0));
+}
+
+TEST_F(EditValidation, RefusalAfterLeavingPostsTheWayBack)
+{
+    Create("%nl");
+    const HWND other = Create("abc");
+    Focus();
+    Install(0);
+    gAnswer = 0;
+    parent.On(HEN_KILLFOCUS, [] { gAnswer = 1; });
+    SetFocus(other);
+    gAnswer = 0;
+    EXPECT_TRUE(PumpUntil([this] { return GetFocus() == edit; }));
+}
+
+TEST_F(EditValidation, LeavingToNoWindowDoesNotCallTheFocusBack)
+{
+    Create("%nl");
+    Focus();
+    Install(1);
+    SetFocus(nullptr);
+    EXPECT_EQ(0, gCalls);
+}
+
+TEST_F(EditCommit, LinkedBufferGetsTheCommittedValue)
+{
+    Create("%nl");
+    int linked = 0;
+    Send(HEM_LINKDATA, 0, AsParam(&linked));
+    Replace("42");
+    Send(HEM_COMMIT, 1, 0);
+    EXPECT_EQ(42, linked);
+}
+
+TEST_F(EditCommit, WithoutMemoryForTheOldValueTheCommitStillRuns)
+{
+    Create("%nl");
+    Replace("42");
+    FailAllocation(1);
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    FailAllocation(0);
+    EXPECT_EQ(42, Number());
+    EXPECT_FALSE(HasFlag(Ctl(), CF_CHANGED)) << "nothing to compare with";
+}
+
+TEST_F(EditCommit, TypedTextLongerThanTheMaskIsSafe)
+{
+    Create("%ms##");
+    Replace("12 and more than that");
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ("12", Value().substr(0, 2));
+}
+
+TEST_F(EditCommit, HostMayDestroyTheFieldInAnyNotification)
+{
+    struct Case {
+        int         code;
+        const char* text;
+    };
+    const Case cases[] = {
+        { HEN_ABOVEMAX, "500" }, { HEN_BELOWMIN, "-500" }, { HEN_KILLFOCUS, "5" }, { HEN_SETFOCUS, "5" }
+    };
+    for (const Case& row : cases) {
+        edit = nullptr;
+        parent.On(HEN_SETFOCUS, [] {});
+        Create("%nl|0;100;|");
+        parent.On(row.code, [this] { DestroyWindow(edit); });
+        Focus();
+        if (IsWindow(edit)) {
+            Replace(row.text);
+            Blur();
+        }
+        EXPECT_FALSE(IsWindow(edit)) << row.code;
+        parent.On(row.code, [] {});
+    }
+    edit = nullptr;
+    Create("%dl");
+    parent.On(HEN_BADINPUT, [this] { DestroyWindow(edit); });
+    Focus();
+    Replace(DateText(31, 4, 2024).c_str());
+    Blur();
+    EXPECT_FALSE(IsWindow(edit));
+}
+
+TEST_F(EditCommit, HostMayChangeTheTypeInANotification)
+{
+    Create("%nl|0;100;|");
+    parent.On(HEN_ABOVEMAX, [this] { SendText(WM_SETTEXT, 0, "%ss5abc"); });
+    Replace("500");
+    Send(HEM_COMMIT, 1, 1);
+    EXPECT_EQ('s', Send(HEM_GETCLASS));
+}
+
+TEST_F(EditCommit, FocusShowsTheEditFormAndSelectsAll)
+{
+    Create("abcdef");
+    Focus();
+    EXPECT_TRUE(IsFocused(Ctl()));
+    EXPECT_EQ(MAKELRESULT(0, 6), Send(EM_GETSEL));
+    EXPECT_EQ(Codes{ HEN_SETFOCUS }, Told());
+}
+
+TEST_F(EditCommit, FocusUnderKeepSelLeavesTheSelection)
+{
+    Create("abcdef", HES_KEEPSEL);
+    Send(EM_SETSEL, 2, 4);
+    Focus();
+    EXPECT_EQ(MAKELRESULT(2, 4), Send(EM_GETSEL));
+}
+
+TEST_F(EditCommit, FocusInOverwriteModeStartsATextAtItsBegin)
+{
+    Create("abcdef");
+    Send(EM_SETSEL, 3, 3);
+    SetOverwriteMode(1);
+    Focus();
+    EXPECT_EQ(MAKELRESULT(0, 0), Send(EM_GETSEL));
+}
+
+TEST_F(EditCommit, FocusInOverwriteModeSelectsAllOfANumberAndOfASelectedText)
+{
+    SetOverwriteMode(1);
+    Create("%nl");
+    Focus();
+    EXPECT_EQ(MAKELRESULT(0, 1), Send(EM_GETSEL));
+    edit = nullptr;
+    Create("abcdef");
+    Send(EM_SETSEL, 2, 4);
+    Focus();
+    EXPECT_EQ(MAKELRESULT(0, 6), Send(EM_GETSEL));
+}
+
+TEST_F(EditCommit, StaticFieldIsToldOfItsFocusButSelectsNothing)
+{
+    Create("abcdef", HES_STATIC);
+    Focus();
+    EXPECT_EQ(Codes{ HEN_SETFOCUS }, Told());
+    EXPECT_EQ(MAKELRESULT(0, 0), Send(EM_GETSEL));
+}
+
+TEST_F(EditCommit, LeavingCommitsAndShowsTheDisplayForm)
+{
+    Create("%nl(0)");
+    Focus();
+    seen.Clear();
+    Replace("42");
+    Blur();
+    EXPECT_EQ("(42)", Text());
+    EXPECT_FALSE(IsFocused(Ctl()));
+    EXPECT_TRUE(HasFlag(Ctl(), HEF_DISPLAY));
+    EXPECT_EQ(Codes{ HEN_KILLFOCUS }, Told());
+}
+
+TEST_F(EditCommit, CaretGoesWithTheFocus)
+{
+    Create("abc");
+    Focus();
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetCurrentThreadId(), &info);
+    EXPECT_EQ(edit, info.hwndCaret);
+    Blur();
+    GetGUIThreadInfo(GetCurrentThreadId(), &info);
+    EXPECT_EQ(nullptr, info.hwndCaret);
+}
+
+} // namespace
