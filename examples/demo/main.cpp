@@ -83,6 +83,7 @@ int FillGrid(HWND frame, const Options& options)
     if (options.generated >= 0) {
         AllowSorting(false);
         ShowGenerated(GridOf(frame), options.generated);
+        SetRecordCount(options.generated);
         TellStatus(frame, std::to_string(options.generated) + " generated records");
         std::printf("%ld of %d generated records are loaded\n",
                     static_cast<long>(SendMessageA(GridOf(frame), HGM_GETROWCOUNT, 0, 0)), options.generated);
@@ -94,6 +95,7 @@ int FillGrid(HWND frame, const Options& options)
     std::printf("%d rows loaded in %lu ms, %u problems\n", rows, GetTickCount() - start,
                 static_cast<unsigned>(problems.size()));
     TellProblems(problems);
+    SetRecordCount(rows);
     TellStatus(frame, Summary(rows, options.csv.substr(FolderOf(options.csv.c_str()).size()), problems));
     return problems.empty() ? 0 : 1;
 }

@@ -22,6 +22,7 @@ struct Frame {
     HWND  grid = nullptr;
     HWND  status = nullptr;
     HFONT font = nullptr;
+    int   records = 0;
     bool  sorting = true;
     int   sortedColumn = allOrNone;
     bool  ascending = true;
@@ -63,9 +64,8 @@ void ShowRecord()
 {
     const Cell    cell = CellOf(SendMessageA(frame.grid, HGM_GETCURSOR, 0, 0));
     const LRESULT record = cell.row + SendMessageA(frame.grid, HGM_GETROWBASE, 0, 0) + 1;
-    const LRESULT total = SendMessageA(frame.grid, HGM_GETTOTAL, 0, 0);
     char          text[64];
-    wsprintfA(text, "Record %ld of %ld", static_cast<long>(record), static_cast<long>(total));
+    wsprintfA(text, "Record %ld of %ld", static_cast<long>(record), static_cast<long>(frame.records));
     SendMessageA(frame.status, SB_SETTEXTA, 0, reinterpret_cast<LPARAM>(text));
 }
 
@@ -163,6 +163,12 @@ HWND MakeFrame(const std::string& definition)
 HWND GridOf(HWND)
 {
     return frame.grid;
+}
+
+void SetRecordCount(int count)
+{
+    frame.records = count;
+    ShowRecord();
 }
 
 void AllowSorting(bool allowed)

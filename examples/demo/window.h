@@ -10,5 +10,7 @@ HWND MakeFrame(const std::string& definition);
 HWND GridOf(HWND frame);
 // Sorting is for grids that hold all their rows.
 void AllowSorting(bool allowed);
+// How many records there are, for the status line.
+void SetRecordCount(int count);
 // Shows a text in the status line, as its right part.
 void TellStatus(HWND frame, const std::string& text);
