@@ -28,6 +28,27 @@ int CALLBACK CountedCompare(HLList*, const void* key, void* node)
     return CompareInts(key, HNodePayload(node));
 }
 
+int CALLBACK CompareNodes(HLList*, const void* a, void* b)
+{
+    return CompareInts(HNodePayload(const_cast<void*>(a)), HNodePayload(b)) * 7;
+}
+
+int gItemsAsked;
+
+void* CALLBACK CountedItem(HLList*, void* node)
+{
+    gItemsAsked++;
+    return HNodePayload(node);
+}
+
+HLLFREE gFreeNode;
+
+int CALLBACK FreeOfAnEmptyList(HLList* list, void* node)
+{
+    EXPECT_EQ(nullptr, HLListGetItem(list, 0));
+    return gFreeNode(list, node);
+}
+
 class ItemList : public testing::Test {
 protected:
     void SetUp() override
@@ -454,16 +475,11 @@ TEST_F(ItemList, CopyUsesTheItemsOfTheTarget)
 {
     MakeTexts({ "a", "b" });
     HLList* const src = list;
-    static int    asked;
-    asked = 0;
-    const HLLITEM item = [](HLList*, void* node) -> void* {
-        asked++;
-        return HNodePayload(node);
-    };
-    list = HLListCreate(-1, nullptr, nullptr, nullptr, nullptr, item, 1);
+    gItemsAsked = 0;
+    list = HLListCreate(-1, nullptr, nullptr, nullptr, nullptr, CountedItem, 1);
     HLListAdd(list, "z");
     EXPECT_EQ(1, HLListCopy(list, src));
-    EXPECT_EQ(2, asked);
+    EXPECT_EQ(2, gItemsAsked);
     EXPECT_EQ((Texts{ "z", "a", "b" }), All()); // a copy never sorts
     HLListDestroy(src);
 }
@@ -525,22 +541,16 @@ TEST_F(ItemList, EmptyFreesEveryNode)
 TEST_F(ItemList, EmptyShowsAnEmptyListToTheFreeingCallback)
 {
     MakeTexts({ "a", "b" });
-    static HLLFREE freeNode;
-    freeNode = list->pfnFree;
-    list->pfnFree = [](HLList* owner, void* node) {
-        EXPECT_EQ(nullptr, HLListGetItem(owner, 0));
-        return freeNode(owner, node);
-    };
-    HLListEmpty(list);
+    gFreeNode = list->pfnFree;
+    list->pfnFree = FreeOfAnEmptyList;
+    EXPECT_EQ(1, HLListEmpty(list));
 }
 
 TEST_F(ItemList, CompareGoesByNodesAndThenByCount)
 {
     MakeInts({ 1, 2 });
     HLList* const other = HLListCreate(sizeof(int), nullptr, nullptr, nullptr, nullptr, nullptr, 0);
-    list->pfnCompare = [](HLList*, const void* a, void* b) {
-        return CompareInts(HNodePayload(const_cast<void*>(a)), HNodePayload(b)) * 7;
-    };
+    list->pfnCompare = CompareNodes;
     EXPECT_EQ(1, HLListCompare(list, other));
     EXPECT_EQ(-1, HLListCompare(other, list));
     const int one = 1;

@@ -141,29 +141,39 @@ TEST(GridSave, StopsAtTheFirstFailedWrite)
     }
 }
 
+// Counts its calls and refuses one of them.
+struct Refusal {
+    int calls = 0;
+    int refused = 0;
+    int empty = 0; // calls without a byte
+
+    static int CALLBACK Write(void* context, void*, int count)
+    {
+        Refusal* const self = static_cast<Refusal*>(context);
+        self->empty += count == 0;
+        return ++self->calls == self->refused ? 1 : 0;
+    }
+};
+
 TEST(GridSave, DoesNotLookAtTheResultOfALength)
 {
-    static int lengths; // of the two texts of a column that has none
-    lengths = 0;
-    const HGTRANSFER refuseLengths = [](void*, void*, int count) {
-        lengths += count == 0;
-        return 0;
-    };
     const GridPtr grid = SampleGrid();
-    EXPECT_EQ(1, HGSave(refuseLengths, nullptr, 0x484A, grid.get()));
-    EXPECT_EQ(0, lengths) << "nothing is written for an empty text";
+    struct {
+        int refused;
+        int result;
+    } const rows[] = { { 6, 0 }, { 7, 1 }, { 8, 0 } }; // header height, length of the title, title
+    for (const auto& row : rows) {
+        Refusal target;
+        target.refused = row.refused;
+        EXPECT_EQ(row.result, HGSave(Refusal::Write, &target, 0x484A, grid.get())) << row.refused;
+    }
+}
 
-    struct Context {
-        int calls;
-        int refused; // the call of the title's length
-    } context = { 0, 7 };
-    const HGTRANSFER refuseOne = [](void* at, void*, int) {
-        Context* const self = static_cast<Context*>(at);
-        return ++self->calls == self->refused ? 1 : 0;
-    };
-    EXPECT_EQ(1, HGSave(refuseOne, &context, 0x484A, grid.get()));
-    context = { 0, 6 };
-    EXPECT_EQ(0, HGSave(refuseOne, &context, 0x484A, grid.get())) << "the height before it is looked at";
+TEST(GridSave, WritesNothingForAnEmptyText)
+{
+    Refusal target;
+    EXPECT_EQ(1, HGSave(Refusal::Write, &target, 0x484A, SampleGrid().get()));
+    EXPECT_EQ(0, target.empty);
 }
 
 TEST(GridSave, WritesNullTextsAsEmptyOnes)

@@ -10,6 +10,11 @@ int BaseHeight()
     return HIWORD(GetBaseUnits(nullptr));
 }
 
+int CALLBACK DifferAsNumbers(const void* a, const void* b)
+{
+    return LoadAs<LONG>(a) == LoadAs<LONG>(b) ? 0 : 1;
+}
+
 TEST(GridCreate, StoresWhatIsGiven)
 {
     const GridPtr grid(HGridCreate("title", 0x00300108, 4, 2, 30, 50, 25, 7));
@@ -334,7 +339,7 @@ TEST(GridLookups, RowsCompareByTheirDataCompareOnly)
     int        index = -1;
     EXPECT_NE(nullptr, HLListFind(grid->pRows, &key, 0, &index));
     EXPECT_EQ(0, index) << "without a compare every row is equal";
-    grid->pRows->pfnDataCompare = [](const void* a, const void* b) { return LoadAs<LONG>(a) == LoadAs<LONG>(b) ? 0 : 1; };
+    grid->pRows->pfnDataCompare = DifferAsNumbers;
     EXPECT_NE(nullptr, HLListFind(grid->pRows, &key, 0, &index));
     EXPECT_EQ(1, index);
 }
