@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int          yearForNone = 1992;       // a date without a year computes in this one
+constexpr int          yearForNone = 1992;         // a date without a year computes in this one
 constexpr int          firstGregorianKey = 588829; // (year*12 + month)*31 + day of 15 October 1582
 constexpr std::int64_t firstGregorianDay = 2299161;
 
@@ -59,17 +59,17 @@ void JulianToDate(DWORD julian, int* outYear, int* outMonth, int* outDay)
 {
     // Day numbers of the far past are negative, so the word is read as signed.
     const std::int64_t signedDay = static_cast<std::int32_t>(julian);
-    std::int64_t a = signedDay;
+    std::int64_t       a = signedDay;
     if (signedDay >= firstGregorianDay) {
         const std::int64_t gregorian = (4 * ThroughSingle(signedDay - 1867216) - 1) / 146097;
         a = signedDay + 1 + gregorian - gregorian / 4;
     }
     const std::int64_t b = a + 1524;
-    const std::int64_t c = (7305 * 6680 + 20 * ThroughSingle(b - 2439870) - 2442) / 7305;
+    const std::int64_t c = (std::int64_t{ 7305 } * 6680 + 20 * ThroughSingle(b - 2439870) - 2442) / 7305;
     const std::int64_t d = 365 * c + c / 4;
     const std::int64_t e = (b - d) * 10000 / 306001;
-    const int month = static_cast<int>(e > 13 ? e - 13 : e - 1);
-    int year = static_cast<int>(c - 4715);
+    const int          month = static_cast<int>(e > 13 ? e - 13 : e - 1);
+    int                year = static_cast<int>(c - 4715);
     year -= month > 2 ? 1 : 0;
     year -= year < 1 ? 1 : 0;
     *outYear = year;

@@ -11,11 +11,11 @@
 
 namespace {
 
-constexpr DWORD  julianOf1900 = 2415021;  // 1 January 1900, day 0 of the counted days
+constexpr DWORD  julianOf1900 = 2415021;   // 1 January 1900, day 0 of the counted days
 constexpr DWORD  julianOfOrigin = 2415019; // 30 December 1899, day 0 of the doubles
 constexpr double msecPerDay = 86400000.0;
 constexpr DWORD  msecPerMinute = 60000;
-constexpr int    calendarYear = 1900;      // year 0 of the calendar record
+constexpr int    calendarYear = 1900; // year 0 of the calendar record
 
 // The calendar record of the standard library as it is stored: nine words, whatever more the runtime's has.
 struct StoredCalendar {
@@ -34,19 +34,19 @@ static_assert(sizeof(StoredCalendar) == 36);
 // Settled: it lives as long as the library, and a date up to 1900 leaves the year of the last call in it.
 tm gCalendar;
 
-WORD WordAt(const BYTE* data, int index)
+WORD WordAt(const BYTE* data, size_t index)
 {
-    return LoadAs<WORD>(data + index * 2);
+    return LoadAs<WORD>(data + index * sizeof(WORD));
 }
 
-BYTE LowByteAt(const BYTE* data, int index)
+BYTE LowByteAt(const BYTE* data, size_t index)
 {
     return static_cast<BYTE>(WordAt(data, index));
 }
 
-void StoreWordAt(BYTE* data, int index, int value)
+void StoreWordAt(BYTE* data, size_t index, int value)
 {
-    StoreAs(data + index * 2, static_cast<WORD>(value));
+    StoreAs(data + index * sizeof(WORD), static_cast<WORD>(value));
 }
 
 void SetDate(DateTimeRec* rec, DWORD julian)

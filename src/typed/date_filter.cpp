@@ -80,14 +80,9 @@ void AlignStep(Entry* entry)
     case ':':
         entry->walked += IsSeparator(under) ? 0 : 1; // the field in front of it had two digits
         break;
-    case '[':
-        next = BehindBracket(entry->picture, entry->at);
-        break;
-    case '\\':
-        next += entry->picture[next] ? 1 : 0;
-        break;
-    default:
-        break;
+    case '[': next = BehindBracket(entry->picture, entry->at); break;
+    case '\\': next += entry->picture[next] ? 1 : 0; break;
+    default: break;
     }
     entry->at = next;
     ++entry->walked;
@@ -114,7 +109,8 @@ bool IsOneLetterField(const Entry& entry, int index)
 bool IsOneOfTwoDigits(const Entry& entry)
 {
     const bool inField = IsOneLetterField(entry, entry.at) || IsOneLetterField(entry, entry.at - 1);
-    const bool besideDigit = IsDecimalDigit(TextAt(entry, entry.pos + 1)) || IsDecimalDigit(TextAt(entry, entry.pos - 1));
+    const bool besideDigit =
+        IsDecimalDigit(TextAt(entry, entry.pos + 1)) || IsDecimalDigit(TextAt(entry, entry.pos - 1));
     return inField && besideDigit && IsDecimalDigit(Under(entry));
 }
 

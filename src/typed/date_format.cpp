@@ -5,6 +5,7 @@
 #include "typed/date_letters.h"
 #include "typed/intl.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
@@ -64,11 +65,10 @@ void Put(Printer* printer, char ch)
     }
 }
 
-void PutPictureLetters(Printer* printer, size_t from, size_t count)
+// A letter that stands for itself, an index behind the place in the picture.
+void PutLetter(Printer* printer, size_t index)
 {
-    for (size_t i = 0; i < count; ++i) {
-        Put(printer, printer->picture[printer->at + from + i]);
-    }
+    Put(printer, printer->picture[printer->at + index]);
 }
 
 void PutBlanks(Printer* printer, size_t count)
@@ -114,11 +114,10 @@ const char* WeekdayName(const DateTimeRec& rec)
     return weekdayNames[(DateToJulian(rec.year, rec.month, rec.day) + 1) % std::size(weekdayNames)];
 }
 
-// Bounded: a month past the table takes the last name.
+// The month is above 0. Bounded: past the table it takes the last name.
 const char* MonthName(int month)
 {
-    constexpr int months = static_cast<int>(std::size(monthNames));
-    return monthNames[month < 1 ? 0 : (month > months ? months : month) - 1];
+    return monthNames[std::min(month, static_cast<int>(std::size(monthNames))) - 1];
 }
 
 void PrintDay(Printer* printer, size_t run)
@@ -146,7 +145,7 @@ void PrintMonth(Printer* printer, size_t run)
 void PrintMinute(Printer* printer, size_t run)
 {
     if (run == 1) {
-        PutPictureLetters(printer, 0, 1);
+        PutLetter(printer, 0);
     } else {
         PutNumber(printer, printer->rec->minute, 2);
     }
@@ -169,11 +168,12 @@ void PrintYear(Printer* printer, size_t run)
     } else if (run == 4) {
         PutNumber(printer, year, 4);
     } else if (run == 1) {
-        PutPictureLetters(printer, 0, 1);
+        PutLetter(printer, 0);
     } else {
-        // Settled: of three letters the third stands for itself.
         PutNumber(printer, year % 100, 2);
-        PutPictureLetters(printer, 2, run - 2);
+        if (run == 3) {
+            PutLetter(printer, 2); // Settled: the third letter stands for itself
+        }
     }
 }
 
@@ -186,7 +186,7 @@ void PrintHour(Printer* printer, size_t run)
 void PrintSecond(Printer* printer, size_t run)
 {
     if (run == 1) {
-        PutPictureLetters(printer, 0, 1);
+        PutLetter(printer, 0);
     } else {
         PutNumber(printer, printer->rec->second, 2);
     }
@@ -195,7 +195,7 @@ void PrintSecond(Printer* printer, size_t run)
 void PrintMsec(Printer* printer, size_t run)
 {
     if (run == 1) {
-        PutPictureLetters(printer, 0, 1);
+        PutLetter(printer, 0);
     } else {
         PutNumber(printer, printer->rec->msec, 1);
     }
@@ -235,8 +235,8 @@ void PrintField(Printer* printer, const FieldLetter& field)
 {
     constexpr size_t longestMinute = 2;
     const bool       minute = field.letter == 'm' && IsMinute(*printer);
-    const size_t     run = CountRun(printer->picture + printer->at, field.letter,
-                                    minute ? longestMinute : field.longestRun);
+    const size_t     run =
+        CountRun(printer->picture + printer->at, field.letter, minute ? longestMinute : field.longestRun);
     field.print(printer, run);
     printer->at += run;
 }
@@ -261,14 +261,10 @@ void SkipBrackets(Printer* printer)
 char PrintedChar(char ch)
 {
     switch (ch) {
-    case '/':
-        return gIntl.chDateSep;
-    case ':':
-        return gIntl.chTimeSep;
-    case '|':
-        return '/';
-    default:
-        return ch;
+    case '/': return gIntl.chDateSep;
+    case ':': return gIntl.chTimeSep;
+    case '|': return '/';
+    default: return ch;
     }
 }
 

@@ -103,21 +103,11 @@ void SetHour(Reader* reader, int value)
 void SetField(Reader* reader, char letter, int value)
 {
     switch (letter) {
-    case 'd':
-        reader->rec->day = static_cast<BYTE>(value);
-        break;
-    case 'm':
-        SetMonthOrMinute(reader, value);
-        break;
-    case 'y':
-        SetYear(reader, value);
-        break;
-    case 'h':
-        SetHour(reader, value);
-        break;
-    case 's':
-        reader->rec->second = static_cast<BYTE>(value);
-        break;
+    case 'd': reader->rec->day = static_cast<BYTE>(value); break;
+    case 'm': SetMonthOrMinute(reader, value); break;
+    case 'y': SetYear(reader, value); break;
+    case 'h': SetHour(reader, value); break;
+    case 's': reader->rec->second = static_cast<BYTE>(value); break;
     default:
         reader->rec->msec = static_cast<BYTE>(value); // Settled: the low byte only
         break;

@@ -41,11 +41,11 @@ bool HasLetters(const char* text, const char* letters)
     return true;
 }
 
-// Signed bytes from 128 up are refused before the character classes of the locale can see them.
+// Characters from 128 up are refused before the character classes of the locale can see them.
 bool IsSeparator(char ch)
 {
-    const int code = static_cast<signed char>(ch);
-    return code >= 0 && !std::isalnum(code);
+    const int code = static_cast<unsigned char>(ch);
+    return code < 128 && !std::isalnum(code);
 }
 
 int SetSeparator(char* target, char ch)

@@ -235,8 +235,13 @@ TEST_F(DateConvert, AnUnknownTypeStillClearsTheRecord)
 
 TEST_F(DateConvert, DoublesThatNoDayNumberHoldsAreSafe)
 {
-    constexpr double values[] = { 1e300, -1e300, 2147483648.0, -2147483649.0, 2147483647.5,
-                                  std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN() };
+    constexpr double values[] = { 1e300,
+                                  -1e300,
+                                  2147483648.0,
+                                  -2147483649.0,
+                                  2147483647.5,
+                                  std::numeric_limits<double>::infinity(),
+                                  std::numeric_limits<double>::quiet_NaN() };
     for (const double value : values) {
         DateTimeRec rec = {};
         EXPECT_EQ(1, DataToDateTime(&rec, &value, 'u')) << value;
@@ -250,8 +255,10 @@ TEST_F(DateConvert, AClockValueIsSecondsOfLocalTime)
         const tm    local = *_localtime64(&clock);
         DateTimeRec rec = {};
         EXPECT_EQ(1, Read(&rec, BytesOf(clock), 'T')) << clock;
-        EXPECT_EQ(Moment(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min,
-                         local.tm_sec), rec) << clock;
+        EXPECT_EQ(
+            Moment(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec),
+            rec)
+            << clock;
     }
 }
 

@@ -124,7 +124,9 @@ TEST_F(DateFilter, ADigitOnTheBlankBetweenTheHalvesGoesBehindIt)
 TEST_F(DateFilter, NothingButTheSecondDigitOfALastFieldFitsBehindTheText)
 {
     constexpr FilterCase years[] = {
-        { "9.2.2024|", '5', nullptr, 0, 0 }, { "9.2.2024|", '.', nullptr, 0, 0 }, { "9.2.2024|", ' ', nullptr, 0, 0 },
+        { "9.2.2024|", '5', nullptr, 0, 0 },
+        { "9.2.2024|", '.', nullptr, 0, 0 },
+        { "9.2.2024|", ' ', nullptr, 0, 0 },
         { "9.2.2024|", 'a', nullptr, 0, 0 },
     };
     ExpectTyped(years, nullptr, dateOnly);
@@ -143,9 +145,9 @@ TEST_F(DateFilter, NothingButTheSecondDigitOfALastFieldFitsBehindTheText)
 TEST_F(DateFilter, PunctuationJumpsToTheNextField)
 {
     constexpr FilterCase cases[] = {
-        { "|19.2.2024", '.', "19.2.2024", 3, 1 },  { "1|9.2.2024", '.', "19.2.2024", 2, 1 },
-        { "19|.2.2024", '.', "19.2.2024", 1, 1 },  { "19.|2.2024", '/', "19.2.2024", 2, 1 },
-        { "19.2.2|024", '.', nullptr, 0, 0 },      { "| . .    ", ',', " . .    ", 2, 1 },
+        { "|19.2.2024", '.', "19.2.2024", 3, 1 }, { "1|9.2.2024", '.', "19.2.2024", 2, 1 },
+        { "19|.2.2024", '.', "19.2.2024", 1, 1 }, { "19.|2.2024", '/', "19.2.2024", 2, 1 },
+        { "19.2.2|024", '.', nullptr, 0, 0 },     { "| . .    ", ',', " . .    ", 2, 1 },
         { " . .|    ", '.', nullptr, 0, 0 },
     };
     ExpectTyped(cases, nullptr, dateOnly);
@@ -201,7 +203,9 @@ TEST_F(DateFilter, FieldsOfTwoLettersKeepTheirPlaces)
     };
     ExpectTyped(cases, nullptr, dateOnly);
     constexpr FilterCase clock[] = {
-        { "|15:07", ' ', " 5:07", 1, 1 }, { "15|:07", '3', "15:37", 2, 2 }, { "15:0|7", '3', "15:03", 1, 1 },
+        { "|15:07", ' ', " 5:07", 1, 1 },
+        { "15|:07", '3', "15:37", 2, 2 },
+        { "15:0|7", '3', "15:03", 1, 1 },
         { "15:07|", '3', nullptr, 0, 0 },
     };
     ExpectTyped(clock, "hh:mm", timeOnly);
@@ -288,6 +292,17 @@ TEST_F(DateFilter, AlignsThePictureWithFieldsOfTwoDigits)
         { "19.12.2024 15:07| x", 'q', nullptr, 0, 0 },
     };
     ExpectTyped(cases, nullptr, dateAndTime);
+    // Here the blank stands behind a field of one digit or two.
+    ASSERT_EQ(1, SetDefDateFormat("yyyy/m/d"));
+    constexpr FilterCase dayLast[] = {
+        { "2024.2.9 5:07 |x", 'q', "2024.2.9 5:07 q", 1, 1 },
+        { "2024.2.19 5:07 |x", 'q', "2024.2.19 5:07 q", 1, 1 },
+        { "2024.12.19 15:07 |x", 'q', "2024.12.19 15:07 q", 1, 1 },
+        { "2024.12.9 15:07 |x", 'q', "2024.12.9 15:07 q", 1, 1 },
+        { "2024.12.19| 15:07 x", '3', "2024.12.19 35:07 x", 2, 2 },
+        { "2024.12.9| 15:07 x", '3', "2024.12.93 15:07 x", 1, 9 },
+    };
+    ExpectTyped(dayLast, nullptr, dateAndTime);
 }
 
 TEST_F(DateFilter, StepsOverBracketsAndEscapesOfThePicture)
@@ -313,6 +328,13 @@ TEST_F(DateFilter, SeparatorsThatTheSettingsMakeBlankStayBlank)
         { "19| 2 2024", ' ', "19 2 2024", 1, 1 },
     };
     ExpectTyped(cases, nullptr, dateOnly);
+    ASSERT_EQ(1, SetTimeSep(' '));
+    constexpr FilterCase clock[] = {
+        { "15| 07 03", '4', "15 47 03", 2, 2 },
+        { "15 0|  03", '4', "15 04 03", 1, 1 }, // a cleared digit is no separator
+        { "15 07| 03", '.', "15 07 03", 1, 1 },
+    };
+    ExpectTyped(clock, nullptr, timeOnly);
 }
 
 TEST_F(DateFilter, AWholeDateCanBeTyped)

@@ -139,20 +139,22 @@ struct TypeModel {
     int  msecStep;   // 1000: no milliseconds
 };
 
+// clang-format off
 constexpr TypeModel typeModels[] = {
-    { 'D', -32768, 32767, true, true, 1, 1 },
-    { 'Q', -4713, 32767, true, true, 1, 1000 },
-    { 'q', 1900, 2078, true, true, 60, 1000 },
-    { 's', -32768, 32767, true, true, 1, 1 },
-    { 'u', 1900, 9999, true, true, 1, 1000 },
-    { 'A', 1980, 2107, true, false, 1, 1000 },
-    { 'a', -32768, 32767, true, false, 1, 1000 },
-    { 'd', -32768, 32767, true, false, 1, 1000 },
-    { 'l', 1, 32767, true, false, 1, 1000 },
-    { 'I', 1900, 2100, false, true, 2, 1000 },
-    { 'i', 1900, 2100, false, true, 1, 10 },
-    { 't', 1900, 2100, false, true, 1, 1000 },
+    { 'D', -32768, 32767, true,  true,   1,    1 },
+    { 'Q',  -4713, 32767, true,  true,   1, 1000 },
+    { 'q',   1900,  2078, true,  true,  60, 1000 },
+    { 's', -32768, 32767, true,  true,   1,    1 },
+    { 'u',   1900,  9999, true,  true,   1, 1000 },
+    { 'A',   1980,  2107, true,  false,  1, 1000 },
+    { 'a', -32768, 32767, true,  false,  1, 1000 },
+    { 'd', -32768, 32767, true,  false,  1, 1000 },
+    { 'l',      1, 32767, true,  false,  1, 1000 },
+    { 'I',   1900,  2100, false, true,   2, 1000 },
+    { 'i',   1900,  2100, false, true,   1,   10 },
+    { 't',   1900,  2100, false, true,   1, 1000 },
 };
+// clang-format on
 
 DateTimeRec Kept(const TypeModel& model, DateTimeRec rec)
 {
@@ -170,6 +172,71 @@ DateTimeRec Kept(const TypeModel& model, DateTimeRec rec)
     rec.second = static_cast<BYTE>(rec.second / model.secondStep * model.secondStep);
     rec.msec = static_cast<WORD>(rec.msec / model.msecStep * model.msecStep);
     return rec;
+}
+
+// A date field while it is typed into.
+struct Field {
+    const char* format;
+    bool        wantDate;
+    bool        wantTime;
+    std::string text;
+    int         caret;
+};
+
+constexpr char keys[] = { '0', '1', '9', ' ', '.', '/', ':', 'a', 'p', 'x', '\t', '\xFF', '\0' };
+constexpr char letters[] = { '0', '5', '9', ' ', ' ', '.', ':', '/', 'a', 'm', '\xE8' };
+
+std::string RandomText(Random& random)
+{
+    std::string text;
+    for (int n = Pick(random, 0, 20); n > 0; --n) {
+        text += PickOf(random, letters);
+    }
+    return text;
+}
+
+std::string RandomShown(Random& random, const Field& field)
+{
+    const DateTimeRec rec = RandomMoment(random, 1, 9999);
+    char              shown[64];
+    FormatDateTime(&rec, field.format, shown, sizeof shown, true, field.wantDate, field.wantTime);
+    return shown;
+}
+
+void ExpectTaken(const Field& field, const std::string& after, int advance, int repaint)
+{
+    const int before = static_cast<int>(field.text.size());
+    const int length = static_cast<int>(after.size());
+    ASSERT_LE(std::abs(length - before), 1) << field.text;
+    ASSERT_GE(advance, 0);
+    ASSERT_LE(field.caret + advance, length) << field.text << " at " << field.caret;
+    ASSERT_GE(repaint, 1);
+    ASSERT_LE(field.caret + repaint, std::max(length, before)) << field.text << " at " << field.caret;
+    const auto caret = static_cast<size_t>(field.caret);
+    ASSERT_EQ(field.text.substr(0, caret), after.substr(0, caret));
+}
+
+// One keystroke in a block with room for one character more, and not a byte besides.
+void Press(Field* field, char key)
+{
+    const char* const text = field->text.c_str();
+    std::vector<char> room(text, text + field->text.size() + 1);
+    room.push_back('#');
+    int       advance = 99;
+    int       repaint = 99;
+    const int refused = DateCharFilter(room.data(), field->format, field->wantDate, field->wantTime, field->caret, key,
+                                       &advance, &repaint);
+    ASSERT_NE(room.end(), std::find(room.begin(), room.end(), '\0'));
+    const std::string after = room.data();
+    if (refused) {
+        ASSERT_EQ(field->text, after);
+        ASSERT_EQ(0, advance);
+        ASSERT_EQ(0, repaint);
+        return;
+    }
+    ASSERT_NO_FATAL_FAILURE(ExpectTaken(*field, after, advance, repaint));
+    field->text = after;
+    field->caret += advance;
 }
 
 class DateModel : public DateTest {};
@@ -205,8 +272,7 @@ TEST_F(DateModel, DayNumbersAreThoseOfTheDocumentedSums)
         const int year = Pick(random, -32768, 32767);
         const int month = Pick(random, 0, i % 2 ? 255 : 12);
         const int day = Pick(random, 0, i % 2 ? 255 : 31);
-        ASSERT_EQ(JulianBySums(year, month, day), DateToJulian(year, month, day))
-            << Text({ year, month, day });
+        ASSERT_EQ(JulianBySums(year, month, day), DateToJulian(year, month, day)) << Text({ year, month, day });
     }
 }
 
@@ -215,7 +281,7 @@ TEST_F(DateModel, DatesAreThoseOfTheDocumentedSums)
     Random random(3);
     for (int i = 0; i < 500000; ++i) {
         // Further on the sums themselves leave the range of an int.
-        const int julian = i % 2 ? Pick(random, -2100000000, 2100000000) : Pick(random, -20000000, 20000000);
+        const int         julian = i % 2 ? Pick(random, -2100000000, 2100000000) : Pick(random, -20000000, 20000000);
         const CalendarDay expected = DateBySums(julian);
         const CalendarDay date = DateOf(static_cast<DWORD>(julian));
         ASSERT_TRUE(Same(expected, date)) << julian << ": " << Text(expected) << ", not " << Text(date);
@@ -312,9 +378,10 @@ TEST_F(DateModel, APictureOfTokensPrintsThemOneByOne)
         { "yy", [](const DateTimeRec& rec) { return std::to_string(100 + rec.year % 100).substr(1); } },
         { "yyyy", [](const DateTimeRec& rec) { return std::to_string(10000 + rec.year).substr(1); } },
         { "h", [](const DateTimeRec& rec) { return std::to_string(rec.hour); } },
-        { "hh:mm", [](const DateTimeRec& rec) {
-             return std::to_string(100 + rec.hour).substr(1) + ":" + std::to_string(100 + rec.minute).substr(1);
-         } },
+        { "hh:mm",
+          [](const DateTimeRec& rec) {
+              return std::to_string(100 + rec.hour).substr(1) + ":" + std::to_string(100 + rec.minute).substr(1);
+          } },
         { "ss", [](const DateTimeRec& rec) { return std::to_string(100 + rec.second).substr(1); } },
         { "ff", [](const DateTimeRec& rec) { return std::to_string(rec.msec); } },
         { "|", [](const DateTimeRec&) { return std::string("/"); } },
@@ -333,7 +400,8 @@ TEST_F(DateModel, APictureOfTokensPrintsThemOneByOne)
             text += token.text(rec) + " - ";
         }
         char out[200];
-        ASSERT_EQ(static_cast<int>(text.size()), FormatDateTime(&rec, picture.c_str(), out, sizeof out, false, true, true));
+        ASSERT_EQ(static_cast<int>(text.size()),
+                  FormatDateTime(&rec, picture.c_str(), out, sizeof out, false, true, true));
         ASSERT_EQ(text, out) << picture;
     }
 }
@@ -364,8 +432,8 @@ TEST_F(DateModel, TheEditFormReadsBackToWhatItShows)
         { "dd.mm.yyyy hh:mm", true, true, { true, true, true, true, true, false } },
         { "d/m/yyyy h:mm:ss", true, true, { true, true, true, true, true, true } },
     };
-    static constexpr const char* dateFormats[] = { "d/m/yyyy", "dd/mm/yyyy", "m/d/yyyy", "yyyy/mm/dd", "yyyy/m/d",
-                                                   "dd.mm.yyyy", "d-m-yyyy" };
+    static constexpr const char* dateFormats[] = { "d/m/yyyy", "dd/mm/yyyy", "m/d/yyyy", "yyyy/mm/dd",
+                                                   "yyyy/m/d", "dd.mm.yyyy", "d-m-yyyy" };
     static constexpr char        separators[] = { '.', '/', '-' };
     Random                       random(10);
     for (int i = 0; i < 100000; ++i) {
@@ -387,56 +455,20 @@ TEST_F(DateModel, TheEditFormReadsBackToWhatItShows)
 
 TEST_F(DateModel, TypingNeverLeavesTheText)
 {
-    static constexpr const char* formats[] = { nullptr, "dd.mm.yyyy", "mm|yyyy", "dd.mm", "h:mm ap", "hh:mm ap",
-                                               "hh:mm [am]\\x", "hh:mm[", "h", "-", "d" };
+    static constexpr const char* formats[] = { nullptr,    "dd.mm.yyyy",    "mm|yyyy", "dd.mm", "h:mm ap",
+                                               "hh:mm ap", "hh:mm [am]\\x", "hh:mm[",  "h",     "-" };
     static constexpr const char* dateFormats[] = { "d/m/yyyy", "dd/mm/yyyy", "m/d/yy", "yyyy-mm-dd", "dmy",
-                                                   "/d/m/y", " d m y ", "d[m]y", "\\d/m/y\\" };
+                                                   "/d/m/y",   " d m y ",    "d[m]y",  "\\d/m/y\\" };
     static constexpr char        separators[] = { '.', '/', ' ', ':', '-', '\0' };
-    static constexpr char        keys[] = { '0', '1', '9', ' ', '.', '/', ':', 'a', 'p', 'x', '\t', '\xFF', '\0' };
-    static constexpr char        letters[] = { '0', '5', '9', ' ', ' ', '.', ':', '/', 'a', 'm', '\xE8' };
     Random                       random(11);
     for (int round = 0; round < 20000; ++round) {
         ASSERT_EQ(1, SetDefDateFormat(PickOf(random, dateFormats)));
         ASSERT_EQ(1, SetDateSep(PickOf(random, separators)));
-        const char* const format = PickOf(random, formats);
-        const int         halves = Pick(random, 0, 3);
-        std::string       text;
-        for (int n = Pick(random, 0, 20); n > 0; --n) {
-            text += PickOf(random, letters);
-        }
-        if (round % 2 == 0) {
-            const DateTimeRec rec = RandomMoment(random, 1, 9999);
-            char              shown[64];
-            FormatDateTime(&rec, format, shown, sizeof shown, true, (halves & 1) != 0, (halves & 2) != 0);
-            text = shown;
-        }
-        int caret = Pick(random, 0, static_cast<int>(text.size()));
+        Field field = { PickOf(random, formats), Pick(random, 0, 1) == 1, Pick(random, 0, 1) == 1, "", 0 };
+        field.text = round % 2 ? RandomText(random) : RandomShown(random, field);
+        field.caret = Pick(random, 0, static_cast<int>(field.text.size()));
         for (int n = 0; n < 20; ++n) {
-            const char        key = PickOf(random, keys);
-            const int         before = static_cast<int>(text.size());
-            std::vector<char> room(text.c_str(), text.c_str() + before + 1);
-            room.push_back('#'); // room for one character more, and not a byte besides
-            int        advance = 99;
-            int        repaint = 99;
-            const bool refused = DateCharFilter(room.data(), format, (halves & 1) != 0, (halves & 2) != 0, caret, key,
-                                                &advance, &repaint) != 0;
-            ASSERT_NE(room.end(), std::find(room.begin(), room.end(), '\0'));
-            const std::string after = room.data();
-            const int         length = static_cast<int>(after.size());
-            if (refused) {
-                ASSERT_EQ(text, after);
-                ASSERT_EQ(0, advance);
-                ASSERT_EQ(0, repaint);
-                continue;
-            }
-            ASSERT_LE(std::abs(length - before), 1) << text;
-            ASSERT_GE(advance, 0);
-            ASSERT_LE(caret + advance, length) << text << " at " << caret;
-            ASSERT_GE(repaint, 1);
-            ASSERT_LE(caret + repaint, std::max(length, before)) << text << " at " << caret;
-            ASSERT_EQ(text.substr(0, static_cast<size_t>(caret)), after.substr(0, static_cast<size_t>(caret)));
-            text = after;
-            caret += advance;
+            ASSERT_NO_FATAL_FAILURE(Press(&field, PickOf(random, keys)));
         }
     }
 }

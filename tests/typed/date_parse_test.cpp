@@ -45,7 +45,7 @@ TEST_F(DateParse, ReadsFieldsOfOneLetterWithOneDigitOrTwo)
         { nullptr, "99.99.9999", Moment(9999, 99, 99) },    // nothing is checked
         { nullptr, "9.2.24", Moment(24, 2, 9) },
         { nullptr, "09.02.0024", Moment(24, 2, 9) },
-        { nullptr, "9.2.20245", Moment(20245, 2, 9) },      // a digit more behind the last field
+        { nullptr, "9.2.20245", Moment(20245, 2, 9) }, // a digit more behind the last field
         { nullptr, "9.2.202456", Moment(20245, 2, 9) },
         { nullptr, "199.2.2024", Moment(2024, Now().wMonth, 19) }, // only one: then the 9 stands for the point
     };
@@ -151,14 +151,10 @@ TEST_F(DateParse, ReadsMillisecondsByTheirLowByte)
 TEST_F(DateParse, ReadsAmAndPm)
 {
     const ParseCase cases[] = {
-        { "hh:mm ap", "12:30 am", Clock(0, 30) },
-        { "hh:mm ap", "01:30 am", Clock(1, 30) },
-        { "hh:mm ap", "12:30 pm", Clock(12, 30) },
-        { "hh:mm ap", "01:30 pm", Clock(13, 30) },
-        { "hh:mm ap", "01:30 AM", Clock(1, 30) },
-        { "hh:mm ap", "01:30 xx", Clock(13, 30) },
-        { "hh:mm ap", "13:30 pm", Clock(13, 30) },
-        { "hh:mm ap", "01:30", Clock(1, 30) },
+        { "hh:mm ap", "12:30 am", Clock(0, 30) },  { "hh:mm ap", "01:30 am", Clock(1, 30) },
+        { "hh:mm ap", "12:30 pm", Clock(12, 30) }, { "hh:mm ap", "01:30 pm", Clock(13, 30) },
+        { "hh:mm ap", "01:30 AM", Clock(1, 30) },  { "hh:mm ap", "01:30 xx", Clock(13, 30) },
+        { "hh:mm ap", "13:30 pm", Clock(13, 30) }, { "hh:mm ap", "01:30", Clock(1, 30) },
         { "hh:mm AP", "01:30 PM", Clock(13, 30) },
     };
     ExpectParsed(cases, false, true);

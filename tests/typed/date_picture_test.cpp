@@ -46,14 +46,19 @@ TEST_F(DatePicture, WithoutAFormatIsThatOfTheDefaults)
     }
 }
 
+TEST_F(DatePicture, OfTheDefaultsHasABlankOnlyBetweenTwoHalves)
+{
+    std::strcpy(gIntl.szDateFormat, "");
+    EXPECT_EQ("h:mm:ss", Picture(nullptr, true, true));
+    std::strcpy(gIntl.szDateFormat, "d");
+    EXPECT_EQ("d h:mm:ss", Picture(nullptr, true, true));
+}
+
 TEST_F(DatePicture, HasOrderAndSeparatorsOfTheDefaultDateFormat)
 {
     constexpr PictureCase cases[] = {
-        { "dd.mm.yyyy", "d/m/yyyy" },
-        { "yyyy-mm-dd", "d/m/yyyy" },
-        { "DD MM YYYY", "d/m/yyyy" },
-        { "dddd, d. mmmm yyyy", "d/m/yyyy" },
-        { "mdy", "d/m/yyyy" },
+        { "dd.mm.yyyy", "d/m/yyyy" },         { "yyyy-mm-dd", "d/m/yyyy" }, { "DD MM YYYY", "d/m/yyyy" },
+        { "dddd, d. mmmm yyyy", "d/m/yyyy" }, { "mdy", "d/m/yyyy" },
     };
     ExpectPictures(cases, true, false);
 }
@@ -62,22 +67,14 @@ TEST_F(DatePicture, DropsTheFieldsThatTheFormatLacks)
 {
     // The separator of the settings is a point, so the slashes of the default format are ordinary characters.
     constexpr PictureCase pointAsSeparator[] = {
-        { "dd.mm", "d/m/" },
-        { "mm.yyyy", "/m/yyyy" },
-        { "dd.yyyy", "d//yyyy" },
-        { "dd", "d//" },
-        { "mm", "/m/" },
-        { "yyyy", "//yyyy" },
+        { "dd.mm", "d/m/" }, { "mm.yyyy", "/m/yyyy" }, { "dd.yyyy", "d//yyyy" },
+        { "dd", "d//" },     { "mm", "/m/" },          { "yyyy", "//yyyy" },
     };
     ExpectPictures(pointAsSeparator, true, false);
 
     constexpr PictureCase slashAsSeparator[] = {
-        { "dd.mm", "d/m" },
-        { "mm.yyyy", "m/yyyy" },
-        { "dd.yyyy", "d/yyyy" },
-        { "dd", "d" },
-        { "mm", "m" },
-        { "yyyy", "yyyy" },
+        { "dd.mm", "d/m" }, { "mm.yyyy", "m/yyyy" }, { "dd.yyyy", "d/yyyy" },
+        { "dd", "d" },      { "mm", "m" },           { "yyyy", "yyyy" },
     };
     UseFormats("d/m/yyyy", '/');
     ExpectPictures(slashAsSeparator, true, false);
@@ -99,11 +96,8 @@ TEST_F(DatePicture, WritesShortDefaultYearsOutForAFormatWithALongYear)
 {
     UseFormats("d/m/yy", '/');
     constexpr PictureCase cases[] = {
-        { "d/m/yyyy", "d/m/yyyy" },
-        { "YYYY", "yyyy" },
-        { "d/m/yy", "d/m/yy" },
-        { "d/m/yyy", "d/m/yy" },
-        { "y/yyyy", "yy" }, // only the first run of the year is looked at
+        { "d/m/yyyy", "d/m/yyyy" }, { "YYYY", "yyyy" }, { "d/m/yy", "d/m/yy" },
+        { "d/m/yyy", "d/m/yy" },    { "y/yyyy", "yy" }, // only the first run of the year is looked at
     };
     ExpectPictures(cases, true, false);
 }

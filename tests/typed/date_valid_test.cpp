@@ -1,6 +1,10 @@
 // Validation and repair of dates and times.
 #include "typed/date_test_support.h"
 
+#ifndef _WIN32
+#include "native_platform.h"
+#endif
+
 namespace {
 
 struct Checks {
@@ -147,6 +151,23 @@ TEST(ValidDate, TwoDigitYearsUpTo40LieInTheCurrentCentury)
     EXPECT_EQ(Century() - 100 + 99, YearAfterRepair(99));
 }
 
+#ifndef _WIN32
+// The clock of the native platform can be set.
+TEST(ValidDate, CenturiesFollowTheClockWithin1900To2099)
+{
+    Native().localTime.wYear = 1999;
+    EXPECT_EQ(1940, YearAfterRepair(40));
+    EXPECT_EQ(1941, YearAfterRepair(41)); // 1841, raised
+    Native().localTime.wYear = 2199;
+    EXPECT_EQ(2040, YearAfterRepair(40)); // 2140, lowered
+    EXPECT_EQ(2041, YearAfterRepair(41));
+    Native().localTime.wYear = 2000;
+    EXPECT_EQ(2040, YearAfterRepair(40));
+    EXPECT_EQ(1941, YearAfterRepair(41));
+    NativeReset();
+}
+#endif
+
 TEST(ValidDate, ARepairedYearLiesIn1900To2099)
 {
     EXPECT_EQ(1900, YearAfterRepair(1900));
@@ -183,8 +204,9 @@ TEST(ValidTime, ChecksAndRepairsWhatCounts)
     for (const TimeCase& test : timeCases) {
         DateTimeRec rec = test.rec;
         const int   row = static_cast<int>(&test - timeCases);
-        EXPECT_EQ(test.result, ValidTime(&rec, test.repair, test.twelveHour, test.checks.year, test.checks.month,
-                                         test.checks.day)) << "row " << row;
+        EXPECT_EQ(test.result,
+                  ValidTime(&rec, test.repair, test.twelveHour, test.checks.year, test.checks.month, test.checks.day))
+            << "row " << row;
         EXPECT_EQ(test.after, rec) << "row " << row;
     }
 }
