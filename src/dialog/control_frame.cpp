@@ -92,23 +92,25 @@ LRESULT OnGetFont(ControlHeader* header, WPARAM, LPARAM)
     return reinterpret_cast<LRESULT>(header->hFont);
 }
 
+// clang-format off
 constexpr MessageEntry<StdHandler> fontMessages[] = {
     { WM_SETFONT, OnSetFont },
     { WM_GETFONT, OnGetFont },
 };
 
 constexpr MessageEntry<StdHandler> controlMessages[] = {
-    { WWM_GETCHANGED, OnGetChanged },
-    { WWM_SETCHANGED, OnSetChanged },
+    { WWM_GETCHANGED,  OnGetChanged },
+    { WWM_SETCHANGED,  OnSetChanged },
     { WWM_SETUPDATING, OnSetUpdating },
     { WWM_GETUPDATING, OnGetUpdating },
-    { WWM_GETPARENT, OnGetParent },
-    { WWM_SETPARENT, OnSetParent },
-    { WWM_GETSTYLE, OnGetStyle },
-    { WWM_SETSTYLE, OnSetStyle },
-    { WWM_CANCEL, OnCancel },
-    { WWM_ISNULL, OnIsNull },
+    { WWM_GETPARENT,   OnGetParent },
+    { WWM_SETPARENT,   OnSetParent },
+    { WWM_GETSTYLE,    OnGetStyle },
+    { WWM_SETSTYLE,    OnSetStyle },
+    { WWM_CANCEL,      OnCancel },
+    { WWM_ISNULL,      OnIsNull },
 };
+// clang-format on
 
 constexpr auto fontHandlers = ByNumber<WM_SETFONT, WM_GETFONT>(fontMessages);
 constexpr auto controlHandlers = ByNumber<WWM_GETCHANGED, WWM_ISNULL>(controlMessages);
@@ -126,13 +128,15 @@ struct ColorKind {
     UINT message;
 };
 
+// clang-format off
 constexpr ColorKind colorKinds[] = {
-    { 1, WM_CTLCOLOREDIT },
-    { 2, WM_CTLCOLORLISTBOX },
-    { 3, WM_CTLCOLORBTN },
-    { 6, WM_CTLCOLORSTATIC },
+    { 1,  WM_CTLCOLOREDIT },
+    { 2,  WM_CTLCOLORLISTBOX },
+    { 3,  WM_CTLCOLORBTN },
+    { 6,  WM_CTLCOLORSTATIC },
     { 21, HGM_CTLCOLOR },
 };
+// clang-format on
 
 } // namespace
 

@@ -36,8 +36,8 @@ HWND TopWindow(HWND hwnd)
 // Orders the first count characters of a against those of b without case.
 int CompareStarts(const char* a, const char* b, int count)
 {
-    char startA[classNameSize];
-    char startB[classNameSize];
+    char      startA[classNameSize];
+    char      startB[classNameSize];
     const int size = std::min(count + 1, classNameSize);
     _fstrnzcpy(startA, a, size);
     _fstrnzcpy(startB, b, size);
@@ -65,7 +65,7 @@ DWORD WINAPI GetBaseUnits(HFONT hFont)
         return 0;
     }
     const SelectedObject font(screen.hdc, hFont ? hFont : GetStockObject(SYSTEM_FONT));
-    SIZE size = {};
+    SIZE                 size = {};
     GetTextExtentPointA(screen.hdc, allLetters, letterCount, &size);
     return static_cast<DWORD>(MAKELONG(size.cx / letterCount, size.cy));
 }
@@ -83,7 +83,7 @@ int HWinVersion()
 
 int HIsCombo(HWND hwnd)
 {
-    char name[10] = "";
+    char      name[10] = "";
     const int length = GetClassNameA(hwnd, name, sizeof name);
     // Settled: class names in front of "HComb", and the lack of one, count as a combo too.
     return CompareStarts(name, "HComb", length) <= 0;

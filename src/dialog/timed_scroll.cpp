@@ -13,10 +13,15 @@ struct KeyBit {
     WPARAM bit;
 };
 
+// clang-format off
 constexpr KeyBit keyBits[] = {
-    { VK_LBUTTON, MK_LBUTTON }, { VK_RBUTTON, MK_RBUTTON }, { VK_MBUTTON, MK_MBUTTON },
-    { VK_CONTROL, MK_CONTROL }, { VK_SHIFT, MK_SHIFT },
+    { VK_LBUTTON, MK_LBUTTON },
+    { VK_RBUTTON, MK_RBUTTON },
+    { VK_MBUTTON, MK_MBUTTON },
+    { VK_CONTROL, MK_CONTROL },
+    { VK_SHIFT,   MK_SHIFT },
 };
+// clang-format on
 
 // Settled: only the first key that is down is told.
 WPARAM KeyState()
@@ -46,12 +51,9 @@ LPARAM PackPoint(POINT point)
 bool HandOn(const MSG& message)
 {
     switch (message.message) {
-    case WM_MOUSEMOVE:
-        return false;
+    case WM_MOUSEMOVE: return false;
     case WM_LBUTTONUP:
-    case WM_RBUTTONUP:
-        SendMessageA(message.hwnd, message.message, message.wParam, message.lParam);
-        return true;
+    case WM_RBUTTONUP: SendMessageA(message.hwnd, message.message, message.wParam, message.lParam); return true;
     case WM_QUIT:
         // The host's own loop has to see it.
         PostQuitMessage(static_cast<int>(message.wParam));

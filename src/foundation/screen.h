@@ -15,7 +15,7 @@ int  DpiX();
 int  DpiY();
 int  DpiPercent();
 
-int    ScaleX(int v);   // design units to pixels
+int    ScaleX(int v); // design units to pixels
 int    ScaleY(int v);
 int    UnscaleX(int v); // pixels to design units
 int    UnscaleY(int v);

@@ -100,7 +100,7 @@ void WINAPI WidgetsInit(void)
 int WINAPI RegisterControl(UINT style, WNDPROC wndProc, int clsExtra, int wndExtra, HINSTANCE instance, HICON icon,
                            HCURSOR cursor, HBRUSH background, const char* menuName, const char* className)
 {
-    const WNDCLASSA windowClass = { style, wndProc, clsExtra, wndExtra,  instance,
+    const WNDCLASSA windowClass = { style, wndProc, clsExtra,   wndExtra, instance,
                                     icon,  cursor,  background, menuName, className };
     return RegisterClassA(&windowClass);
 }

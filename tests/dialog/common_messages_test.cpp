@@ -30,7 +30,9 @@ struct FlagMessage {
 TEST(IsStdMessage, TellsOfFlags)
 {
     constexpr FlagMessage rows[] = {
-        { WWM_GETCHANGED, CF_CHANGED }, { WWM_GETUPDATING, CF_UPDATING }, { WWM_ISNULL, CF_NULL },
+        { WWM_GETCHANGED, CF_CHANGED },
+        { WWM_GETUPDATING, CF_UPDATING },
+        { WWM_ISNULL, CF_NULL },
     };
     for (const FlagMessage& row : rows) {
         ControlHeader header = {};
@@ -100,9 +102,22 @@ TEST(IsStdMessage, AnswersZeroWithoutARecord)
 
 TEST(IsStdMessage, LeavesAllOthersAlone)
 {
-    constexpr UINT others[] = { WM_NULL,  WM_SETTEXT,         WM_SIZE,           WM_NCDESTROY,     WM_SETFONT - 1,
-                                WM_GETFONT + 1, WWM_GETCHANGED - 1, WWM_SETCHANGED + 1, WWM_CHILDFOCUS, WWM_CHILDBLUR,
-                                WWM_GETSTATE, WWM_SETSTATE, 1153, 1154, WWM_ISNULL + 1, 0xFFFF };
+    constexpr UINT others[] = { WM_NULL,
+                                WM_SETTEXT,
+                                WM_SIZE,
+                                WM_NCDESTROY,
+                                WM_SETFONT - 1,
+                                WM_GETFONT + 1,
+                                WWM_GETCHANGED - 1,
+                                WWM_SETCHANGED + 1,
+                                WWM_CHILDFOCUS,
+                                WWM_CHILDBLUR,
+                                WWM_GETSTATE,
+                                WWM_SETSTATE,
+                                1153,
+                                1154,
+                                WWM_ISNULL + 1,
+                                0xFFFF };
     for (const UINT message : others) {
         ControlHeader header = {};
         LRESULT       result = -99;

@@ -85,8 +85,8 @@ struct ColorRow {
 TEST_F(NotifyTest, AsksTheParentForTheBrushOfAKind)
 {
     constexpr ColorRow rows[] = {
-        { 1, WM_CTLCOLOREDIT }, { 2, WM_CTLCOLORLISTBOX }, { 3, WM_CTLCOLORBTN }, { 6, WM_CTLCOLORSTATIC },
-        { 21, HGM_CTLCOLOR },
+        { 1, WM_CTLCOLOREDIT },   { 2, WM_CTLCOLORLISTBOX }, { 3, WM_CTLCOLORBTN },
+        { 6, WM_CTLCOLORSTATIC }, { 21, HGM_CTLCOLOR },
     };
     const HWND   hwnd = CreateWithRecord();
     const HDC    hdc = reinterpret_cast<HDC>(INT_PTR{ 0x1230 });

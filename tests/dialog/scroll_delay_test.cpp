@@ -25,10 +25,10 @@ void ExpectDelays(const DelayRow* rows, size_t count, bool horizontal)
 
 TEST(ScrollDelay, GetsShorterWithTheDistanceBelowAndAbove)
 {
-    const ScreenResolution   screen(96);
-    constexpr DelayRow rows[] = {
-        { 10, 101, 200 }, { 10, 105, 200 }, { 10, 119, 200 }, { 10, 120, 200 }, { 10, 125, 150 }, { 10, 139, 10 },
-        { 10, 140, 0 },   { 10, 141, 0 },   { 10, 145, 0 },   { 10, -5, 200 },  { 10, -25, 150 }, { 10, -45, 0 },
+    const ScreenResolution screen(96);
+    constexpr DelayRow     rows[] = {
+            { 10, 101, 200 }, { 10, 105, 200 }, { 10, 119, 200 }, { 10, 120, 200 }, { 10, 125, 150 }, { 10, 139, 10 },
+            { 10, 140, 0 },   { 10, 141, 0 },   { 10, 145, 0 },   { 10, -5, 200 },  { 10, -25, 150 }, { 10, -45, 0 },
     };
     ExpectDelays(rows, std::size(rows), false);
     ExpectDelays(rows, std::size(rows), true);
@@ -36,10 +36,10 @@ TEST(ScrollDelay, GetsShorterWithTheDistanceBelowAndAbove)
 
 TEST(ScrollDelay, CountsTheDistanceAcrossOnlyWhenAsked)
 {
-    const ScreenResolution   screen(96);
-    constexpr DelayRow across[] = {
-        { 305, 50, 200 }, { 309, 50, 200 }, { 310, 50, 200 }, { 315, 50, 150 },
-        { 330, 50, 0 },   { 331, 50, 0 },   { -15, 50, 150 }, { -40, 50, 0 },
+    const ScreenResolution screen(96);
+    constexpr DelayRow     across[] = {
+            { 305, 50, 200 }, { 309, 50, 200 }, { 310, 50, 200 }, { 315, 50, 150 },
+            { 330, 50, 0 },   { 331, 50, 0 },   { -15, 50, 150 }, { -40, 50, 0 },
     };
     ExpectDelays(across, std::size(across), true);
     constexpr DelayRow ignored[] = { { 305, 50, 0 }, { 315, 50, 0 }, { -15, 50, 0 } };
@@ -62,8 +62,8 @@ TEST(ScrollDelay, TheDistanceDownComesFirst)
 
 TEST(ScrollDelay, MeasuresInDesignUnits)
 {
-    const ScreenResolution   screen(192);
-    constexpr DelayRow rows[] = { { 10, 139, 200 }, { 10, 150, 150 }, { 10, 180, 0 }, { 10, 181, 0 } };
+    const ScreenResolution screen(192);
+    constexpr DelayRow     rows[] = { { 10, 139, 200 }, { 10, 150, 150 }, { 10, 180, 0 }, { 10, 181, 0 } };
     ExpectDelays(rows, std::size(rows), true);
     EXPECT_EQ(150u, ScrollDelay(client, { 330, 50 }, true));
 }

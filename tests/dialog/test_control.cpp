@@ -45,7 +45,8 @@ LRESULT CALLBACK TestControl::WndProc(HWND hwnd, UINT message, WPARAM wParam, LP
     return HandleMsg(hwnd, message, wParam, lParam, Handler, gTest->offset);
 }
 
-LRESULT CALLBACK TestControl::Handler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record)
+LRESULT CALLBACK TestControl::Handler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault,
+                                      void* record)
 {
     gTest->handled.push_back({ message, record });
     if (message == WM_NCDESTROY && gTest->dropsRecord) {

@@ -23,11 +23,11 @@ protected:
         void* record;
     };
     std::vector<Handled> handled; // what reached the handler
-    bool Reached(UINT message) const;
+    bool                 Reached(UINT message) const;
 
     // The handler; without it every message asks for the default.
     std::function<LRESULT(UINT message, WPARAM wParam, LPARAM lParam, int* pDefault)> handler;
-    int           offset = 0; // place of the record in the extra bytes
+    int           offset = 0;         // place of the record in the extra bytes
     bool          dropsRecord = true; // as controls do at WM_NCDESTROY
     ControlHeader record = {};
 

@@ -21,8 +21,9 @@ protected:
     {
         handler = [this](UINT message, WPARAM wParam, LPARAM lParam, int* pDefault) -> LRESULT {
             if (message == WM_MOUSEMOVE) {
-                OnMove({ GetTickCount(), wParam, { static_cast<short>(LOWORD(lParam)),
-                                                   static_cast<short>(HIWORD(lParam)) } });
+                OnMove({ GetTickCount(),
+                         wParam,
+                         { static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)) } });
             }
             ups_ += message == WM_LBUTTONUP || message == WM_RBUTTONUP;
             *pDefault = 1;
@@ -58,11 +59,11 @@ protected:
 
     DWORD Duration() const { return moves_.back().time - moves_.front().time; }
 
-    HWND                  control_;
-    std::vector<Move>     moves_;
-    int                   ups_ = 0;
-    int                   endAt_ = 1;
-    std::function<void()> onEnd_ = [this] { PostMessageA(control_, WM_LBUTTONUP, 0, 0); };
+    HWND                   control_;
+    std::vector<Move>      moves_;
+    int                    ups_ = 0;
+    int                    endAt_ = 1;
+    std::function<void()>  onEnd_ = [this] { PostMessageA(control_, WM_LBUTTONUP, 0, 0); };
     const ScreenResolution screen_{ 96 };
 };
 
@@ -131,7 +132,7 @@ TEST_F(TimedScrollTest, EndsAtTheRightButtonToo)
 
 TEST_F(TimedScrollTest, DropsRealMovesAndDispatchesTheRest)
 {
-    int user = 0;
+    int        user = 0;
     const auto inner = handler;
     handler = [&](UINT message, WPARAM wParam, LPARAM lParam, int* pDefault) {
         user += message == WM_USER;

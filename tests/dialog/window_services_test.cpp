@@ -35,7 +35,8 @@ private:
 
 HWND ChildOf(HWND parent)
 {
-    return CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 10, 10, parent, nullptr, GetModuleHandleA(nullptr), nullptr);
+    return CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 10, 10, parent, nullptr, GetModuleHandleA(nullptr),
+                           nullptr);
 }
 
 struct HostRow {
@@ -46,7 +47,7 @@ struct HostRow {
 TEST_F(WindowServices, ParentModGoesByTheFirstLettersOfTheTopWindowWithoutCase)
 {
     constexpr HostRow rows[] = {
-        { "RWSWnd", 2834 },  { "rwswndow", 2834 }, { "RwsWNDClass7", 2834 }, { "RWSWn", 0 },  { "xRWSWnd", 0 },
+        { "RWSWnd", 2834 },  { "rwswndow", 2834 },  { "RwsWNDClass7", 2834 }, { "RWSWn", 0 },  { "xRWSWnd", 0 },
         { "DlgEdit", 2609 }, { "DLGEDITOR", 2609 }, { "DlgEdi", 0 },          { "Dialog", 0 },
     };
     for (const HostRow& row : rows) {
@@ -70,8 +71,8 @@ struct ComboRow {
 TEST_F(WindowServices, ComboIsWhatComparesNotAboveTheName)
 {
     constexpr ComboRow rows[] = {
-        { "HComb", 1 }, { "hCOMB", 1 }, { "HCom", 1 }, { "HAaaaaaaaaaaa", 1 }, { "Abc", 1 },
-        { "HCombo", 0 }, { "HDropTest", 0 }, { "TestList", 0 },
+        { "HComb", 1 }, { "hCOMB", 1 },  { "HCom", 1 },      { "HAaaaaaaaaaaa", 1 },
+        { "Abc", 1 },   { "HCombo", 0 }, { "HDropTest", 0 }, { "TestList", 0 },
     };
     for (const ComboRow& row : rows) {
         const NamedWindow window(row.className);

@@ -200,7 +200,7 @@ TEST(DllDrawing, AButtonFillsItsFace)
 
 TEST_F(DllFrame, PaintsItsFrame)
 {
-    const HWND framed = Create("STATIC", "", WS_BORDER, 3, { 200, 200, 80, 40 });
+    const HWND   framed = Create("STATIC", "", WS_BORDER, 3, { 200, 200, 80, 40 });
     const Pixels before = ShotOfWindow(framed);
     HNCPaint(framed, 0);
     EXPECT_EQ(80, before.width);

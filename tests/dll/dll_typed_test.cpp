@@ -9,10 +9,10 @@ namespace {
 
 TEST(DllTyped, ReadsDescriptors)
 {
-    char dataClass = 0;
-    char dataType = 0;
-    char dataClass2 = 0;
-    char dataType2 = 0;
+    char              dataClass = 0;
+    char              dataType = 0;
+    char              dataClass2 = 0;
+    char              dataType2 = 0;
     const char* const text = "%dl%nbrest";
     EXPECT_EQ(text + 6, GetDataTypes(text, &dataClass, &dataType, &dataClass2, &dataType2));
     EXPECT_EQ('d', dataClass);

@@ -6,9 +6,9 @@
 
 #include <stddef.h>
 
-#define CHECK(condition)                                                                                              \
-    if (!(condition)) {                                                                                               \
-        return __LINE__;                                                                                              \
+#define CHECK(condition)                                                                                               \
+    if (!(condition)) {                                                                                                \
+        return __LINE__;                                                                                               \
     }
 
 static int CheckHeader(void)

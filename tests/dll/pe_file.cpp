@@ -124,7 +124,8 @@ std::vector<std::string> PeFile::ImportedNames(const std::string& library) const
             continue;
         }
         DWORD rva = import.OriginalFirstThunk;
-        for (auto* thunk = At<IMAGE_THUNK_DATA>(rva); thunk && thunk->u1.AddressOfData; thunk = At<IMAGE_THUNK_DATA>(rva)) {
+        for (auto* thunk = At<IMAGE_THUNK_DATA>(rva); thunk && thunk->u1.AddressOfData;
+             thunk = At<IMAGE_THUNK_DATA>(rva)) {
             if (!IMAGE_SNAP_BY_ORDINAL(thunk->u1.Ordinal)) {
                 names.push_back(TextAt(static_cast<DWORD>(thunk->u1.AddressOfData) + sizeof(WORD)));
             }

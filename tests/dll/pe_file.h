@@ -24,9 +24,9 @@ private:
     {
         return reinterpret_cast<const T*>(Bytes(rva, sizeof(T)));
     }
-    const BYTE* Bytes(DWORD rva, size_t size) const;
-    std::string TextAt(DWORD rva) const;
-    DWORD       Directory(int index) const;
+    const BYTE*                          Bytes(DWORD rva, size_t size) const;
+    std::string                          TextAt(DWORD rva) const;
+    DWORD                                Directory(int index) const;
     std::vector<IMAGE_IMPORT_DESCRIPTOR> Imports() const;
 
     std::vector<BYTE>       file_;

@@ -121,10 +121,20 @@ TEST(Screen, EveryConversionAsksFirst)
     POINT point = {};
     RECT  rect = {};
     void (*const conversions[])() = {
-        [] { ScaleX(1); },      [] { ScaleY(1); },    [] { UnscaleX(1); },       [] { UnscaleY(1); },
-        [] { ScaleXF(1); },     [] { ScaleYF(1); },   [] { UnscaleXF(1); },      [] { UnscaleYF(1); },
-        [] { PointsToPixels(1); }, [] { DpiX(); },    [] { DpiY(); },            [] { DpiPercent(); },
-        [] { ScreenWidthUnits(); }, [] { ScreenHeightUnits(); },
+        [] { ScaleX(1); },
+        [] { ScaleY(1); },
+        [] { UnscaleX(1); },
+        [] { UnscaleY(1); },
+        [] { ScaleXF(1); },
+        [] { ScaleYF(1); },
+        [] { UnscaleXF(1); },
+        [] { UnscaleYF(1); },
+        [] { PointsToPixels(1); },
+        [] { DpiX(); },
+        [] { DpiY(); },
+        [] { DpiPercent(); },
+        [] { ScreenWidthUnits(); },
+        [] { ScreenHeightUnits(); },
     };
     for (size_t i = 0; i < std::size(conversions); ++i) {
         DpiReset();

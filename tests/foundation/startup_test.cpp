@@ -120,8 +120,8 @@ TEST(WidgetsInit, KeepsTheCursorOfTheGrid)
 TEST(RegisterControl, TakesTheFieldsInTheOrderOfTheStructure)
 {
     const HBRUSH brush = GetSysColorBrush(COLOR_BTNFACE);
-    const int    atom = RegisterControl(CS_DBLCLKS, OtherProc, 4, 8, hInstance, StockIcon(),
-                                        hCurArrow, brush, nullptr, "TestRegistered");
+    const int    atom = RegisterControl(CS_DBLCLKS, OtherProc, 4, 8, hInstance, StockIcon(), hCurArrow, brush, nullptr,
+                                        "TestRegistered");
     EXPECT_NE(0, atom);
     WNDCLASSA info = {};
     ASSERT_NE(0, GetClassInfoA(hInstance, "TestRegistered", &info));

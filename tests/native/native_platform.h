@@ -36,21 +36,21 @@ struct NativeMessage {
 
 struct NativePlatform {
     // Set by tests
-    SYSTEMTIME                  localTime = { 2024, 2, 4, 29, 13, 14, 15, 160 };
-    DWORD                       tickCount = 1000;
-    DWORD                       version = 0x0A; // as GetVersion: major in the low byte
-    bool                        hasScreen = true; // GetDC gives a DC
-    int                         dpiX = 96;
-    int                         dpiY = 96;
-    std::map<int, int>          systemMetrics; // by SM_ index; 0 where nothing is set
-    int                         charWidth = 8; // of the one font there is
-    int                         charHeight = 16;
-    std::vector<NativeResource> resources;
+    SYSTEMTIME                                         localTime = { 2024, 2, 4, 29, 13, 14, 15, 160 };
+    DWORD                                              tickCount = 1000;
+    DWORD                                              version = 0x0A;   // as GetVersion: major in the low byte
+    bool                                               hasScreen = true; // GetDC gives a DC
+    int                                                dpiX = 96;
+    int                                                dpiY = 96;
+    std::map<int, int>                                 systemMetrics; // by SM_ index; 0 where nothing is set
+    int                                                charWidth = 8; // of the one font there is
+    int                                                charHeight = 16;
+    std::vector<NativeResource>                        resources;
     std::function<LRESULT(HWND, UINT, WPARAM, LPARAM)> onSendMessage;
 
     // Seen by tests
     int                          beeps = 0;
-    std::vector<std::string>     debugOutput; // a text a call of OutputDebugStringA
+    std::vector<std::string>     debugOutput;     // a text a call of OutputDebugStringA
     int                          screenReads = 0; // calls of GetDeviceCaps for LOGPIXELSX
     int                          openDCs = 0;
     std::vector<NativeMessage>   posted; // by PostMessageA

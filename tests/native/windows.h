@@ -1,6 +1,6 @@
 /*
- * The small <windows.h> of the native build: the types, constants and functions that portable sources need, and no more.
- * native_platform.cpp supplies the functions. Keep each section in the order of the alphabet when you add to it.
+ * The small <windows.h> of the native build: the types, constants and functions that portable sources need, and no
+ * more. native_platform.cpp supplies the functions. Keep each section in the order of the alphabet when you add to it.
  */
 #ifndef TESTS_NATIVE_WINDOWS_H
 #define TESTS_NATIVE_WINDOWS_H
@@ -49,10 +49,10 @@ typedef const char*    LPCSTR;
 typedef char*          LPSTR;
 
 /* Handles: each kind is a pointer type of its own. */
-#define DECLARE_HANDLE(name)                                                                                         \
-    struct name##__ {                                                                                                \
-        int unused;                                                                                                  \
-    };                                                                                                               \
+#define DECLARE_HANDLE(name)                                                                                           \
+    struct name##__ {                                                                                                  \
+        int unused;                                                                                                    \
+    };                                                                                                                 \
     typedef struct name##__* name
 
 typedef void* HANDLE;
@@ -158,7 +158,7 @@ typedef struct tagTEXTMETRICA {
 #define HIBYTE(value) ((BYTE)((((DWORD_PTR)(value)) >> 8) & 0xFF))
 #define MAKEINTRESOURCEA(id) ((LPSTR)((ULONG_PTR)((WORD)(id))))
 #define RGB(r, g, b) ((COLORREF)((BYTE)(r) | ((DWORD)(BYTE)(g) << 8) | ((DWORD)(BYTE)(b) << 16)))
-#define GetRValue(color) ((BYTE)((color) & 0xFF))
+#define GetRValue(color) ((BYTE)((color)&0xFF))
 #define GetGValue(color) ((BYTE)(((color) >> 8) & 0xFF))
 #define GetBValue(color) ((BYTE)(((color) >> 16) & 0xFF))
 
@@ -317,71 +317,71 @@ typedef struct tagTEXTMETRICA {
 
 /* KERNEL32 */
 
-HRSRC   WINAPI FindResourceA(HMODULE module, const char* name, const char* type);
-BOOL    WINAPI FreeResource(HGLOBAL resource);
-void    WINAPI GetLocalTime(SYSTEMTIME* time);
-DWORD   WINAPI GetTickCount(void);
-DWORD   WINAPI GetVersion(void);
+HRSRC WINAPI   FindResourceA(HMODULE module, const char* name, const char* type);
+BOOL WINAPI    FreeResource(HGLOBAL resource);
+void WINAPI    GetLocalTime(SYSTEMTIME* time);
+DWORD WINAPI   GetTickCount(void);
+DWORD WINAPI   GetVersion(void);
 HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size);
 HGLOBAL WINAPI GlobalFree(HGLOBAL block);
 HGLOBAL WINAPI LoadResource(HMODULE module, HRSRC resource);
-void*   WINAPI LockResource(HGLOBAL resource);
-int     WINAPI MulDiv(int number, int numerator, int denominator);
-HFILE   WINAPI OpenFile(const char* name, OFSTRUCT* ofs, UINT style);
-void    WINAPI OutputDebugStringA(const char* text);
-DWORD   WINAPI SizeofResource(HMODULE module, HRSRC resource);
-HFILE   WINAPI _lclose(HFILE file);
-LONG    WINAPI _llseek(HFILE file, LONG offset, int origin);
-UINT    WINAPI _lread(HFILE file, void* buffer, UINT count);
-char*   WINAPI lstrcpynA(char* dest, const char* src, int size);
+void* WINAPI   LockResource(HGLOBAL resource);
+int WINAPI     MulDiv(int number, int numerator, int denominator);
+HFILE WINAPI   OpenFile(const char* name, OFSTRUCT* ofs, UINT style);
+void WINAPI    OutputDebugStringA(const char* text);
+DWORD WINAPI   SizeofResource(HMODULE module, HRSRC resource);
+HFILE WINAPI   _lclose(HFILE file);
+LONG WINAPI    _llseek(HFILE file, LONG offset, int origin);
+UINT WINAPI    _lread(HFILE file, void* buffer, UINT count);
+char* WINAPI   lstrcpynA(char* dest, const char* src, int size);
 
 /* USER32 */
 
-LRESULT  WINAPI DefWindowProcA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-BOOL     WINAPI DestroyWindow(HWND hwnd);
-int      WINAPI DrawTextA(HDC hdc, const char* text, int count, RECT* rect, UINT format);
-BOOL     WINAPI EqualRect(const RECT* a, const RECT* b);
-HDC      WINAPI BeginPaint(HWND hwnd, PAINTSTRUCT* ps);
-BOOL     WINAPI EndPaint(HWND hwnd, const PAINTSTRUCT* ps);
-int      WINAPI GetClassNameA(HWND hwnd, char* name, int size);
-BOOL     WINAPI GetClientRect(HWND hwnd, RECT* rect);
-HDC      WINAPI GetDC(HWND hwnd);
-HWND     WINAPI GetParent(HWND hwnd);
-int      WINAPI GetSystemMetrics(int index);
-LONG     WINAPI GetWindowLongA(HWND hwnd, int index);
+LRESULT WINAPI  DefWindowProcA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+BOOL WINAPI     DestroyWindow(HWND hwnd);
+int WINAPI      DrawTextA(HDC hdc, const char* text, int count, RECT* rect, UINT format);
+BOOL WINAPI     EqualRect(const RECT* a, const RECT* b);
+HDC WINAPI      BeginPaint(HWND hwnd, PAINTSTRUCT* ps);
+BOOL WINAPI     EndPaint(HWND hwnd, const PAINTSTRUCT* ps);
+int WINAPI      GetClassNameA(HWND hwnd, char* name, int size);
+BOOL WINAPI     GetClientRect(HWND hwnd, RECT* rect);
+HDC WINAPI      GetDC(HWND hwnd);
+HWND WINAPI     GetParent(HWND hwnd);
+int WINAPI      GetSystemMetrics(int index);
+LONG WINAPI     GetWindowLongA(HWND hwnd, int index);
 LONG_PTR WINAPI GetWindowLongPtrA(HWND hwnd, int index);
-BOOL     WINAPI InflateRect(RECT* rect, int dx, int dy);
-BOOL     WINAPI IntersectRect(RECT* out, const RECT* a, const RECT* b);
-BOOL     WINAPI InvalidateRect(HWND hwnd, const RECT* rect, BOOL erase);
-BOOL     WINAPI IsRectEmpty(const RECT* rect);
-BOOL     WINAPI IsWindow(HWND hwnd);
-BOOL     WINAPI IsWindowVisible(HWND hwnd);
-BOOL     WINAPI MessageBeep(UINT type);
-BOOL     WINAPI OffsetRect(RECT* rect, int dx, int dy);
-BOOL     WINAPI PostMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-BOOL     WINAPI PtInRect(const RECT* rect, POINT point);
-int      WINAPI ReleaseDC(HWND hwnd, HDC hdc);
-LRESULT  WINAPI SendMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-BOOL     WINAPI SetRect(RECT* rect, int left, int top, int right, int bottom);
-BOOL     WINAPI SetRectEmpty(RECT* rect);
-LONG     WINAPI SetWindowLongA(HWND hwnd, int index, LONG value);
+BOOL WINAPI     InflateRect(RECT* rect, int dx, int dy);
+BOOL WINAPI     IntersectRect(RECT* out, const RECT* a, const RECT* b);
+BOOL WINAPI     InvalidateRect(HWND hwnd, const RECT* rect, BOOL erase);
+BOOL WINAPI     IsRectEmpty(const RECT* rect);
+BOOL WINAPI     IsWindow(HWND hwnd);
+BOOL WINAPI     IsWindowVisible(HWND hwnd);
+BOOL WINAPI     MessageBeep(UINT type);
+BOOL WINAPI     OffsetRect(RECT* rect, int dx, int dy);
+BOOL WINAPI     PostMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+BOOL WINAPI     PtInRect(const RECT* rect, POINT point);
+int WINAPI      ReleaseDC(HWND hwnd, HDC hdc);
+LRESULT WINAPI  SendMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+BOOL WINAPI     SetRect(RECT* rect, int left, int top, int right, int bottom);
+BOOL WINAPI     SetRectEmpty(RECT* rect);
+LONG WINAPI     SetWindowLongA(HWND hwnd, int index, LONG value);
 LONG_PTR WINAPI SetWindowLongPtrA(HWND hwnd, int index, LONG_PTR value);
-BOOL     WINAPI UnionRect(RECT* out, const RECT* a, const RECT* b);
-BOOL     WINAPI UpdateWindow(HWND hwnd);
+BOOL WINAPI     UnionRect(RECT* out, const RECT* a, const RECT* b);
+BOOL WINAPI     UpdateWindow(HWND hwnd);
 int             wsprintfA(char* out, const char* format, ...);
-int      WINAPI wvsprintfA(char* out, const char* format, va_list args);
+int WINAPI      wvsprintfA(char* out, const char* format, va_list args);
 
 /* GDI32 */
 
-BOOL    WINAPI DeleteObject(HGDIOBJ object);
-int     WINAPI GetDeviceCaps(HDC hdc, int index);
+BOOL WINAPI    DeleteObject(HGDIOBJ object);
+int WINAPI     GetDeviceCaps(HDC hdc, int index);
 HGDIOBJ WINAPI GetStockObject(int object);
-BOOL    WINAPI GetTextExtentPoint32A(HDC hdc, const char* text, int count, SIZE* size);
-BOOL    WINAPI GetTextExtentPointA(HDC hdc, const char* text, int count, SIZE* size);
-BOOL    WINAPI GetTextMetricsA(HDC hdc, TEXTMETRICA* metrics);
-int     WINAPI IntersectClipRect(HDC hdc, int left, int top, int right, int bottom);
-BOOL    WINAPI RestoreDC(HDC hdc, int saved);
-int     WINAPI SaveDC(HDC hdc);
+BOOL WINAPI    GetTextExtentPoint32A(HDC hdc, const char* text, int count, SIZE* size);
+BOOL WINAPI    GetTextExtentPointA(HDC hdc, const char* text, int count, SIZE* size);
+BOOL WINAPI    GetTextMetricsA(HDC hdc, TEXTMETRICA* metrics);
+int WINAPI     IntersectClipRect(HDC hdc, int left, int top, int right, int bottom);
+BOOL WINAPI    RestoreDC(HDC hdc, int saved);
+int WINAPI     SaveDC(HDC hdc);
 HGDIOBJ WINAPI SelectObject(HDC hdc, HGDIOBJ object);
 
 /* The C runtime's 64-bit clock: it ends with the year 3000 and refuses times before 1970. */

@@ -35,10 +35,10 @@ std::string DumpField(HGridData* grid, int col)
     if (!field) {
         return Format("  col %d: no field\n", col);
     }
-    return Format("  col %d: pos %d offset %d size %d %%%c%c %%%c%c kind %c flags %04X style %08X width %d band %d ", col,
-                  HGColToPos(grid, col), field->nOffset, field->cbSize, Letter(field->cClass), Letter(field->cType),
-                  Letter(field->cClass2), Letter(field->cType2), Letter(field->cKind), unsigned{ field->wFlags },
-                  static_cast<unsigned>(field->dwCtlStyle), field->nWidth, field->nBand) +
+    return Format("  col %d: pos %d offset %d size %d %%%c%c %%%c%c kind %c flags %04X style %08X width %d band %d ",
+                  col, HGColToPos(grid, col), field->nOffset, field->cbSize, Letter(field->cClass),
+                  Letter(field->cType), Letter(field->cClass2), Letter(field->cType2), Letter(field->cKind),
+                  unsigned{ field->wFlags }, static_cast<unsigned>(field->dwCtlStyle), field->nWidth, field->nBand) +
            "title " + Quoted(field->pszTitle) + " format " + Quoted(field->pszFormat) + "\n";
 }
 
@@ -87,13 +87,12 @@ std::string DumpGrid(HGridData* grid)
     if (!grid) {
         return "no grid\n";
     }
-    std::string text = Format("grid version %04X style %08X style2 %08X fixed %d row height %d header %d by %d min rows %d ",
-                              unsigned{ grid->wVersion }, static_cast<unsigned>(grid->dwStyle),
-                              static_cast<unsigned>(grid->dwStyle2), grid->cFixedCols, grid->nRowHeight,
-                              grid->nHdrWidth, grid->nHdrHeight, grid->cMinRows) +
-                       "title " + Quoted(grid->pszTitle) +
-                       Format(" row size %d%s\n", grid->pRows ? grid->pRows->cbItem : -1,
-                              grid->pFieldMap ? " with map" : "");
+    std::string text =
+        Format("grid version %04X style %08X style2 %08X fixed %d row height %d header %d by %d min rows %d ",
+               unsigned{ grid->wVersion }, static_cast<unsigned>(grid->dwStyle), static_cast<unsigned>(grid->dwStyle2),
+               grid->cFixedCols, grid->nRowHeight, grid->nHdrWidth, grid->nHdrHeight, grid->cMinRows) +
+        "title " + Quoted(grid->pszTitle) +
+        Format(" row size %d%s\n", grid->pRows ? grid->pRows->cbItem : -1, grid->pFieldMap ? " with map" : "");
     for (int col = 0; col < HGColCount(grid); ++col) {
         text += DumpField(grid, col);
     }
@@ -110,7 +109,7 @@ std::string DumpList(HLList* list)
     }
     std::string text = Format("list of %d, item size %d, flags %04X, cursor at %d\n", list->cItems, list->cbItem,
                               unsigned{ list->wFlags }, list->iCursor);
-    void* node = list->pHead;
+    void*       node = list->pHead;
     for (int i = 0; i < list->cItems && node; ++i) {
         text += Format("  %d:", i) + DumpPayload(list, node) + (node == list->pCursor ? " <- cursor" : "") + "\n";
         if (i == list->cItems - 1 && (node != list->pTail || HNodeLink(node) != list->pHead)) {

@@ -13,7 +13,8 @@ TEST(DumpList, ShowsTextsAndCursor)
     HLListAdd(list, "one");
     HLListAdd(list, "two");
     HLListGetItem(list, 1);
-    EXPECT_EQ("list of 2, item size -1, flags 0001, cursor at 1\n  0: \"one\"\n  1: \"two\" <- cursor\n", DumpList(list));
+    EXPECT_EQ("list of 2, item size -1, flags 0001, cursor at 1\n  0: \"one\"\n  1: \"two\" <- cursor\n",
+              DumpList(list));
     HLListDestroy(list);
 }
 

@@ -109,9 +109,9 @@ void ReplaceMaker(ULONG_PTR* slot, const char* imported, const char* name)
 }
 
 #define MAKER(function) ReplaceMaker<__LINE__, decltype(function)>(slot, imported, #function)
-#define ENDER(function)                                                                                              \
-    if (std::strcmp(imported, #function) == 0) {                                                                     \
-        Replace(slot, Counted##function, &g##function);                                                              \
+#define ENDER(function)                                                                                                \
+    if (std::strcmp(imported, #function) == 0) {                                                                       \
+        Replace(slot, Counted##function, &g##function);                                                                \
     }
 
 void ReplaceImport(ULONG_PTR* slot, const char* imported)
@@ -149,7 +149,8 @@ void ReplaceImportsFrom(BYTE* base, const IMAGE_IMPORT_DESCRIPTOR& import)
     for (; name->u1.AddressOfData; ++name, ++slot) {
         if (!IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal)) {
             const auto* const byName = reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + name->u1.AddressOfData);
-            ReplaceImport(reinterpret_cast<ULONG_PTR*>(&slot->u1.Function), reinterpret_cast<const char*>(byName->Name));
+            ReplaceImport(reinterpret_cast<ULONG_PTR*>(&slot->u1.Function),
+                          reinterpret_cast<const char*>(byName->Name));
         }
     }
 }

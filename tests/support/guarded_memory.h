@@ -11,11 +11,11 @@ void FailAllocationsFrom(int n);
 // Whether the failure that was asked for has happened since.
 bool AllocationFailed();
 
-int    AllocationCount();             // allocations tried since the start, failed ones included
-int    LiveBlocks();                  // blocks that weren't freed
-size_t BlockSize(const void* block);  // bytes asked for; 0 if it is no live block
-size_t LastBlockSize();               // of the last allocation that wasn't made to fail
-UINT   LastBlockFlags();              // as GlobalAlloc would get them
+int    AllocationCount();            // allocations tried since the start, failed ones included
+int    LiveBlocks();                 // blocks that weren't freed
+size_t BlockSize(const void* block); // bytes asked for; 0 if it is no live block
+size_t LastBlockSize();              // of the last allocation that wasn't made to fail
+UINT   LastBlockFlags();             // as GlobalAlloc would get them
 
 // Fails each allocation of a piece of code in turn, until it runs through without one:
 //     for (FailEachAllocation each; each.Next();) { run the code, see that it failed cleanly or passed }

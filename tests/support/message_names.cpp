@@ -14,7 +14,11 @@ struct Named {
     const char* name;
 };
 
-#define N(name) Named{ name, #name }
+#define N(name)                                                                                                        \
+    Named                                                                                                              \
+    {                                                                                                                  \
+        name, #name                                                                                                    \
+    }
 
 // clang-format off
 constexpr Named platformMessages[] = {

@@ -40,7 +40,7 @@ void Settle(HWND hwnd)
 std::string TestName()
 {
     const testing::TestInfo* const info = testing::UnitTest::GetInstance()->current_test_info();
-    std::string name = info ? std::string(info->test_suite_name()) + "." + info->name() : "pixels";
+    std::string                    name = info ? std::string(info->test_suite_name()) + "." + info->name() : "pixels";
     std::ranges::replace(name, '/', '_');
     return name;
 }
@@ -115,7 +115,7 @@ Pixels ShotOfDC(HDC hdc, int width, int height)
     const HGDIOBJ    old = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, width, height, hdc, 0, 0, SRCCOPY);
     GdiFlush();
-    Pixels result = { width, height, {} };
+    Pixels            result = { width, height, {} };
     const auto* const dib = static_cast<const DWORD*>(bits);
     for (int i = 0; i < width * height; ++i) {
         result.colors.push_back(FromDib(dib[i]));

@@ -88,8 +88,8 @@ void Recorder::Watch(HWND control)
 {
     gRecorder = this;
     className_ = ClassOf(control);
-    watched_[control] = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrA(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WatchProc)));
+    watched_[control] =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrA(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WatchProc)));
 }
 
 LRESULT CALLBACK Recorder::WatchProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)

@@ -64,8 +64,8 @@ public:
 
 private:
     static LRESULT CALLBACK WatchProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-    bool        IsNoise(UINT message) const;
-    std::string Print(std::span<const Seen> lines) const;
+    bool                    IsNoise(UINT message) const;
+    std::string             Print(std::span<const Seen> lines) const;
 
     std::vector<Seen>       seen_;
     std::vector<UINT>       skipped_;

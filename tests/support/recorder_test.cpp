@@ -177,7 +177,8 @@ TEST(Pixels, TellsAndKeepsADifference)
     EXPECT_TRUE(SamePixels(before, before));
     const testing::AssertionResult result = SamePixels(before, after);
     EXPECT_FALSE(result);
-    EXPECT_NE(nullptr, std::strstr(result.message(), "1 pixels differ, first at 3, 4: expected 0xFFFFFF, seen 0x0000FF"))
+    EXPECT_NE(nullptr,
+              std::strstr(result.message(), "1 pixels differ, first at 3, 4: expected 0xFFFFFF, seen 0x0000FF"))
         << result.message();
     EXPECT_EQ(1, after.Count(RGB(255, 0, 0), after.Bounds()));
     EXPECT_EQ(CLR_INVALID, after.At(10, 0));

@@ -107,10 +107,9 @@ WindowTest::~WindowTest()
 
 HWND WindowTest::Create(const char* className, const char* text, DWORD style, int id, RECT rect)
 {
-    const HWND hwnd = CreateWindowExA(0, className, text, WS_CHILD | WS_VISIBLE | style, rect.left, rect.top,
-                                      rect.right, rect.bottom, parent.hwnd(),
-                                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr),
-                                      nullptr);
+    const HWND hwnd = CreateWindowExA(
+        0, className, text, WS_CHILD | WS_VISIBLE | style, rect.left, rect.top, rect.right, rect.bottom, parent.hwnd(),
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
     EXPECT_NE(nullptr, hwnd) << className << " can't be made, error " << GetLastError();
     return hwnd;
 }

@@ -35,14 +35,14 @@ public:
 
 private:
     static LRESULT CALLBACK WndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT Receive(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT                 Receive(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT                 Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
-    HWND                                                      hwnd_ = nullptr;
-    Recorder*                                                 recorder_;
-    std::map<int, std::function<void()>>                      handlers_;
-    std::map<UINT, std::function<LRESULT(WPARAM, LPARAM)>>    messageHandlers_;
-    std::map<int, int>                                        counts_;
+    HWND                                                   hwnd_ = nullptr;
+    Recorder*                                              recorder_;
+    std::map<int, std::function<void()>>                   handlers_;
+    std::map<UINT, std::function<LRESULT(WPARAM, LPARAM)>> messageHandlers_;
+    std::map<int, int>                                     counts_;
 };
 
 class WindowTest : public testing::Test {
@@ -51,7 +51,8 @@ protected:
     ~WindowTest() override;
 
     // A visible child of the parent. rect is { x, y, width, height }.
-    HWND Create(const char* className, const char* text, DWORD style = 0, int id = 100, RECT rect = { 10, 10, 400, 200 });
+    HWND Create(const char* className, const char* text, DWORD style = 0, int id = 100,
+                RECT rect = { 10, 10, 400, 200 });
 
     static LRESULT Send(HWND hwnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     // With a pointer as lParam.
