@@ -180,7 +180,7 @@ int WINAPI IsStdMessage(void* record, UINT message, WPARAM wParam, LPARAM lParam
 int WINAPI Notify(void* record, int code)
 {
     ControlHeader* const header = static_cast<ControlHeader*>(record);
-    if (!header->hParent) {
+    if (!header || !header->hParent) {
         return 0;
     }
     SetFlag(header, CF_CANCEL, false);
@@ -205,7 +205,7 @@ HBRUSH WINAPI FireCtlColorMsg(void* record, int kind, HDC hdc)
 {
     const ControlHeader* const header = static_cast<const ControlHeader*>(record);
     for (const ColorKind& entry : colorKinds) {
-        if (entry.kind == kind) {
+        if (header && entry.kind == kind) {
             return reinterpret_cast<HBRUSH>(SendMessageA(header->hParent, entry.message, reinterpret_cast<WPARAM>(hdc),
                                                          reinterpret_cast<LPARAM>(header->hWnd)));
         }

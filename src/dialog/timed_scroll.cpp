@@ -92,11 +92,11 @@ bool RunsOnOldSystem()
 void WINAPI TimedScroll(void* record, int horizontal)
 {
     ControlHeader* const header = static_cast<ControlHeader*>(record);
-    const HWND           hwnd = header->hWnd;
-    if (RunsOnOldSystem()) {
+    if (!header || RunsOnOldSystem()) {
         return;
     }
-    RECT client = {};
+    const HWND hwnd = header->hWnd;
+    RECT       client = {};
     GetClientRect(hwnd, &client);
     DWORD last = 0;
     DWORD delay = 0;
@@ -108,7 +108,7 @@ void WINAPI TimedScroll(void* record, int horizontal)
             return;
         }
         const DWORD now = GetTickCount();
-        if (now > last + delay) {
+        if (now - last > delay) {
             SendMessageA(hwnd, WM_MOUSEMOVE, KeyState(), PackPoint(point));
             UpdateWindow(hwnd);
             last = now;

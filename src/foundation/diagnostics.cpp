@@ -18,7 +18,7 @@ void __cdecl WriteDebug(const char* format, ...)
     char    line[formatSize];
     va_list args;
     va_start(args, format);
-    wvsprintfA(line, format, args);
+    wvsprintfA(line, format ? format : "", args);
     va_end(args);
     // Bounded: a longer line isn't written past its buffer but cut.
     line[lineSize - 1] = 0;

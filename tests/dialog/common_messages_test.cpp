@@ -134,6 +134,16 @@ TEST(Notify, GivesZeroWithoutAParentAndKeepsTheVeto)
     EXPECT_EQ(CF_CANCEL, header.wFlags);
 }
 
+TEST(Notify, GivesZeroWithoutARecord)
+{
+    EXPECT_EQ(0, Notify(nullptr, 5));
+}
+
+TEST(FireCtlColorMsg, GivesTheWhiteBrushWithoutARecord)
+{
+    EXPECT_EQ(GetStockObject(WHITE_BRUSH), FireCtlColorMsg(nullptr, 1, nullptr));
+}
+
 TEST(FireCtlColorMsg, GivesTheWhiteBrushForAnUnknownKind)
 {
     ControlHeader header = {};

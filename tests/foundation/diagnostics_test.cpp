@@ -36,6 +36,13 @@ TEST(WriteDebug, TakesALineLongerThanThePlatformFormats)
     EXPECT_EQ(Texts{ std::string(255, 'y') }, output.Texts());
 }
 
+TEST(WriteDebug, TakesNullForAnEmptyLine)
+{
+    const DebugOutput output;
+    WriteDebug(nullptr);
+    EXPECT_EQ(Texts{ "" }, output.Texts());
+}
+
 TEST(AssertFailedLineDeathTest, EndsTheProcess)
 {
     EXPECT_DEATH(AssertFailedLine(), "");
