@@ -15,8 +15,9 @@ endif()
 
 find_program(CCACHE ccache)
 if(CCACHE)
+    # What ccache has to overlook for sources with a precompiled header.
     set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
 endif()
 
 if(NOT WIN32)
@@ -68,4 +69,10 @@ add_library(widgets_test_flags INTERFACE)
 target_link_libraries(widgets_test_flags INTERFACE widgets_common_flags)
 if(MSVC)
     target_compile_options(widgets_test_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:/EHsc>)
+else()
+    # Tests are compiled more often than they run, and what they test has the flags of the product.
+    target_compile_options(widgets_test_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-O0;-g0>)
+    if(NOT WIN32)
+        target_compile_options(widgets_test_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:SHELL:-Xclang -fno-pch-timestamp>)
+    endif()
 endif()
