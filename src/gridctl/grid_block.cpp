@@ -160,7 +160,8 @@ bool AllocFront(const HGridCtl* ctl, FrontRows* front)
 {
     const int room = rowLimit - HGRowCount(ctl->pData);
     front->rowSize = static_cast<size_t>(ctl->pData->pRows->cbItem);
-    front->count = static_cast<int>(std::min<LONG>(std::min(front->count, room), ctl->lRowBase));
+    const LONG recordsBefore = ctl->lRowBase;
+    front->count = static_cast<int>(std::min<LONG>(std::min(front->count, room), recordsBefore));
     if (front->count <= 0 || front->rowSize == 0 || !ctl->pfnRowSource) {
         return false;
     }
@@ -361,8 +362,9 @@ void HGFetchTotal(HGridCtl* ctl)
 int HGFillBlock(HGridCtl* ctl, bool atFront)
 {
     const int before = HGRowCount(ctl->pData);
-    ctl->cHeldRows = std::clamp<short>(ctl->cHeldRows, 0, rowLimit);
-    const int missing = ctl->cHeldRows - before;
+    const int held = std::clamp<int>(ctl->cHeldRows, 0, rowLimit);
+    const int missing = held - before;
+    ctl->cHeldRows = static_cast<short>(held);
     if (missing > 0 && HasFlag(ctl, fetching)) {
         return 0;
     }

@@ -133,6 +133,7 @@ int      HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band); // for 
 void    HGRecalc(HGridCtl* ctl);
 void    HGRefresh(HGridCtl* ctl, bool erase);
 bool    HGCountRows(HGridCtl* ctl); // loads the block and counts; false if the window went
+void    HGRaiseTotal(HGridCtl* ctl); // there are at least as many records as are loaded
 int     HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord);
 void    HGRestoreTop(HGridCtl* ctl, LONG record);
 void    HGScrollBy(HGridCtl* ctl, int dx, int dy, bool moveEditor);

@@ -9,8 +9,13 @@ int InsertNode(HGridCtl* ctl, const void* data, int row)
         return HLListInsert(ctl->pData->pRows, row, data);
     }
     const OfferedRow offered(ctl, data);
-    const bool taken = HGOfferRow(ctl, offered, HGSRC_INSERT, RecordOfRow(ctl, row));
-    return taken && HGHasRowRoom(ctl) ? HLListInsert(ctl->pData->pRows, row, offered.data) : -1;
+    if (!HGOfferRow(ctl, offered, HGSRC_INSERT, RecordOfRow(ctl, row)) || !HGHasRowRoom(ctl)) {
+        return -1;
+    }
+    const int index = HLListInsert(ctl->pData->pRows, row, offered.data);
+    // The row that the block drops for it is a record still.
+    HGRaiseTotal(ctl);
+    return index;
 }
 
 // A changed record goes back to the source. False if the window went.

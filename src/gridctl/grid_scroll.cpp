@@ -85,7 +85,8 @@ bool AskForRows(HGridCtl* ctl, std::int64_t* dy)
 // Step 3, with the way bounded to the records. False if the window went.
 bool ScrollToRecord(HGridCtl* ctl, LONG record, Scroll* scroll)
 {
-    const int rows = HGSetTop(ctl, std::min(record, ctl->lTotalRows));
+    const LONG total = ctl->lTotalRows;
+    const int rows = HGSetTop(ctl, std::min(record, total));
     if (!IsWindow(scroll->hwnd)) {
         return false;
     }

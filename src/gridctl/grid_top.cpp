@@ -42,6 +42,12 @@ void BringPageIn(HGridCtl* ctl, LONG record)
 
 } // namespace
 
+void HGRaiseTotal(HGridCtl* ctl)
+{
+    const LONG total = ctl->lTotalRows;
+    ctl->lTotalRows = std::max(total, RecordOfRow(ctl, HGRowCount(ctl->pData)));
+}
+
 bool HGCountRows(HGridCtl* ctl)
 {
     if (!HasFlag(ctl, HGC_VIRTUAL)) {
@@ -51,9 +57,10 @@ bool HGCountRows(HGridCtl* ctl)
         if (!LoadBlock(ctl)) {
             return false;
         }
-        ctl->lTotalRows = std::max(ctl->lTotalRows, RecordOfRow(ctl, HGRowCount(ctl->pData)));
+        HGRaiseTotal(ctl);
     }
-    ctl->nVScale = (std::max<LONG>(ctl->lTotalRows, 1) - 1) / scrollUnits + 1;
+    const LONG total = ctl->lTotalRows;
+    ctl->nVScale = (std::max<LONG>(total, 1) - 1) / scrollUnits + 1;
     return true;
 }
 
@@ -63,7 +70,7 @@ void HGRestoreTop(HGridCtl* ctl, LONG record)
     const int lastFirst = std::max(fixed, LastCol(ctl));
     const std::int64_t top = static_cast<std::int64_t>(record) - ctl->lRowBase;
     constexpr std::int64_t highest = 0x7FFF;
-    ctl->lTotalRows = std::max(ctl->lTotalRows, RecordOfRow(ctl, HGRowCount(ctl->pData)));
+    HGRaiseTotal(ctl);
     ctl->nFirstCol = static_cast<WORD>(std::clamp<int>(ctl->nFirstCol, fixed, lastFirst));
     ctl->nTopRow = static_cast<short>(std::clamp<std::int64_t>(top, 0, highest));
 }
@@ -80,8 +87,9 @@ int HGSetTop(HGridCtl* ctl, LONG record)
         }
     }
     const int lastTop = std::max(PartialRow(ctl) + HGRowCount(ctl->pData) - ctl->cPageRows, 0);
-    const LONG top = std::clamp(record, ctl->lRowBase, RecordOfRow(ctl, lastTop));
-    ctl->nTopRow = static_cast<short>(top - ctl->lRowBase);
+    const LONG base = ctl->lRowBase;
+    const LONG top = std::clamp(record, base, RecordOfRow(ctl, lastTop));
+    ctl->nTopRow = static_cast<short>(top - base);
     if (ctl->lTotalRows != oldTotal) {
         HGRecalc(ctl);
     }
