@@ -548,7 +548,7 @@ void WINAPI HNCPaint(HWND hwnd, int fBorder);
  * @param rect       The face; under DPB_INNERRECT it becomes the inner face.
  * @param flags      DPB_ bits.
  * @param text       Caption; '^' breaks the line. May be null.
- * @param font       Font of the text; null: that of dc.
+ * @param font       Font of the text; null: the system font.
  * @param bitmap     Drawn instead of the text, pure green being transparent. May be null.
  * @param textColor  Colour of the text.
  * @param image      Index in the library's image strip, drawn instead of all else; -1 for none.
