@@ -31,7 +31,9 @@ int main()
     WidgetsInit();
     const HWND parent = MakeParent();
     const std::vector<std::string> texts = MakeTexts();
+    std::fprintf(stderr, "list-view\n");
     const Timings list = RunListView(parent, texts);
+    std::fprintf(stderr, "grid\n");
     const Timings grid = RunGrid(parent, texts);
     DestroyWindow(parent);
 
