@@ -77,11 +77,15 @@ apt_get() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 "$@"
 }
 
-# A mirror in the middle of an update refuses for a while; that is why it is asked three times.
+# A mirror in the middle of an update refuses for a while; that is why it is asked three times. Lists of the last ten
+# minutes are good for the first time.
 install_packages() {
     local try
     for try in 1 2 3; do
-        apt_get update || true
+        if [ $try != 1 ] || [ -z "$(find "$logs/lists-updated" -mmin -10 2>/dev/null)" ]; then
+            apt_get update || true
+            touch "$logs/lists-updated"
+        fi
         apt_get install --no-install-recommends "$@" && return 0
         echo "apt-get failed, try $try"
         [ "$try" = 3 ] || sleep $((5 * try))

@@ -50,6 +50,8 @@ wine32_from_packages() {
     apt_get install --no-install-recommends --no-remove "${wine32_packages[@]}" && return 0
 
     if [ -n "$added" ]; then
+        # Before, there was no package of this architecture at all.
+        apt_get purge '?and(?installed,?architecture(i386))' || true
         as_root dpkg --remove-architecture i386 || true
         apt_get update || true
     fi
