@@ -7,7 +7,7 @@ build_packages=(cmake ninja-build ccache g++-mingw-w64-x86-64-posix g++-mingw-w6
 test_packages=(googletest clang libclang-rt-14-dev llvm)
 wine_packages=(wine64 xvfb imagemagick fonts-liberation fonts-wine
     libxrender1 libxcursor1 libxi6 libxrandr2 libxfixes3 libxcomposite1 libxinerama1)
-native32_packages=(libc6-dev-i386 lib32gcc-12-dev lib32stdc++-12-dev)
+native32_packages=(gcc-multilib lib32stdc++-12-dev)
 wine32_packages=(wine32:i386 libxrender1:i386 libxcursor1:i386 libxi6:i386 libxrandr2:i386 libxfixes3:i386
     libxcomposite1:i386 libxinerama1:i386)
 
@@ -111,7 +111,5 @@ setup_prefixes() {
 
 # The 32-bit native build is a bonus where the machine's packages allow it.
 has_native32() {
-    [ -z "$(missing_packages "${native32_packages[@]}")" ] && return 0
-    # Debian's g++-multilib brings the same files under other names of packages.
-    [ -z "$(missing_packages g++-multilib)" ]
+    [ -z "$(missing_packages "${native32_packages[@]}")" ]
 }
