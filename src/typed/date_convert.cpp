@@ -29,7 +29,7 @@ struct StoredCalendar {
     int yearDay;
     int daylight;
 };
-static_assert(sizeof(StoredCalendar) == 36);
+static_assert(sizeof(StoredCalendar) == 36 && sizeof(DateTimeRec) == 10);
 
 // Settled: it lives as long as the library, and a date up to 1900 leaves the year of the last call in it.
 tm gCalendar;
