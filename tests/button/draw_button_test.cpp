@@ -430,13 +430,13 @@ TEST_F(CaptionTest, OfOneLineThatIsTooWideBeginsAtTheLeft)
 {
     const char wide[] = "A title that is much too wide";
     EXPECT_TRUE(SamePixels(Draw(wide, DPB_LEFT), Draw(wide)));
-    EXPECT_FALSE(SamePixels(Draw("short", DPB_LEFT), Draw("short")));
+    EXPECT_TRUE(Draw("short", DPB_LEFT).colors != Draw("short").colors);
 }
 
 TEST_F(CaptionTest, OfSeveralLinesStaysCentredThoughItIsTooWide)
 {
     const char wide[] = "A title that is much too wide^H";
-    EXPECT_FALSE(SamePixels(Draw(wide, DPB_LEFT), Draw(wide)));
+    EXPECT_TRUE(Draw(wide, DPB_LEFT).colors != Draw(wide).colors);
     const RECT narrow = BoundsOf(Draw("^H"), red); // the second line of the same height of lines
     EXPECT_NEAR(narrow.left + narrow.right, 100, 3);
 }

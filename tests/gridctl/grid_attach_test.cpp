@@ -49,12 +49,25 @@ TEST_F(GridAttach, WindowTextFollowsTheTitle)
     EXPECT_STREQ("test grid", title);
 }
 
-TEST_F(GridAttach, MissingRowsAreAddedAndTheEntryRowComesLast)
+TEST_F(GridAttach, MissingRowsAreAdded)
 {
+    MakeGrid(GridOf({ Text() }, gridStyle, 0, 4));
+    EXPECT_EQ(4, Send(grid, HGM_GETROWCOUNT));
+}
+
+TEST_F(GridAttach, EntryRowOfAnEmptyGridIsMarkedNew)
+{
+    MakeGrid(GridOf({ Text() }, gridStyle | HGS_NEWROW));
+    ASSERT_EQ(1, Send(grid, HGM_GETROWCOUNT));
+    EXPECT_TRUE(RowFlags(0) & HGR_NEW);
+}
+
+TEST_F(GridAttach, LastOfTheMissingRowsServesAsTheEntryRow)
+{
+    // Behind a row that nobody has written to, no new one is added.
     MakeGrid(GridOf({ Text() }, gridStyle | HGS_NEWROW, 0, 4));
-    EXPECT_EQ(5, Send(grid, HGM_GETROWCOUNT));
+    ASSERT_EQ(4, Send(grid, HGM_GETROWCOUNT));
     EXPECT_FALSE(RowFlags(3) & HGR_NEW);
-    EXPECT_TRUE(RowFlags(4) & HGR_NEW);
 }
 
 TEST_F(GridAttach, FixedColumnsAreAtMostAllColumns)

@@ -260,6 +260,6 @@ constexpr SortCase sortCases[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Values, SortAgainstSteps, testing::ValuesIn(sortCases),
-                         [](const testing::TestParamInfo<SortCase>& info) { return std::string(info.param.name); });
+                         [](const testing::TestParamInfo<SortCase>& each) { return std::string(each.param.name); });
 
 } // namespace

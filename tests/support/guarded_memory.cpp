@@ -35,7 +35,12 @@ constexpr size_t        maxGuarded = 8000;
 constexpr size_t        maxQuarantine = 256;
 constexpr unsigned char slackMark = 0xA5;
 
-std::deque<void*> gQuarantine; // pages of freed blocks, which fault when they are touched
+// Pages of freed blocks, which fault when they are touched. Tables of tests free some before main() runs.
+std::deque<void*>& Quarantine()
+{
+    static std::deque<void*> pages;
+    return pages;
+}
 
 size_t PageSize()
 {
@@ -97,10 +102,10 @@ void DropBlock(void* block, const Block& entry)
     if (entry.used) {
         VirtualFree(entry.pages, entry.used, MEM_DECOMMIT);
     }
-    gQuarantine.push_back(entry.pages);
-    if (gQuarantine.size() > maxQuarantine) {
-        VirtualFree(gQuarantine.front(), 0, MEM_RELEASE);
-        gQuarantine.pop_front();
+    Quarantine().push_back(entry.pages);
+    if (Quarantine().size() > maxQuarantine) {
+        VirtualFree(Quarantine().front(), 0, MEM_RELEASE);
+        Quarantine().pop_front();
     }
 }
 
