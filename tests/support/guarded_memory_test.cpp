@@ -73,14 +73,19 @@ TEST(GuardedMemory, FailsEachAllocationOfAPieceOfCodeInTurn)
     EXPECT_EQ(3, rounds) << "two that fail and one that runs through";
 }
 
+#ifdef _WIN32
+LONG WINAPI EndQuietly(EXCEPTION_POINTERS*)
+{
+    TerminateProcess(GetCurrentProcess(), 3);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
+#endif
+
 // The end of the process is what the guard is for. It needs no debugger to look at it.
 void TouchAndEnd(volatile BYTE* byte)
 {
 #ifdef _WIN32
-    SetUnhandledExceptionFilter([](EXCEPTION_POINTERS*) -> LONG {
-        TerminateProcess(GetCurrentProcess(), 3);
-        return EXCEPTION_EXECUTE_HANDLER;
-    });
+    SetUnhandledExceptionFilter(EndQuietly);
 #endif
     *byte = 1;
 }
