@@ -13,6 +13,7 @@ constexpr int windowWidth = 1000;
 constexpr int windowHeight = 700;
 constexpr int paintCount = 200;
 constexpr int columnWidth = 120;
+constexpr int roundCount = 5;
 
 // Texts of all cells, row after row; the same for both controls, and the same in every run.
 std::vector<std::string> MakeTexts();
@@ -27,6 +28,8 @@ struct Timings {
     double   sort = 0;
     double   paint = 0; // one full repaint
     unsigned checksum = 0;
+
+    void TakeBetter(const Timings& other);
 };
 
 double Milliseconds(); // a clock that only goes on

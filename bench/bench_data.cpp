@@ -37,6 +37,15 @@ std::vector<std::string> MakeTexts()
     return texts;
 }
 
+void Timings::TakeBetter(const Timings& other)
+{
+    const auto better = [](double known, double now) { return known > 0 && known < now ? known : now; };
+    load = better(load, other.load);
+    sort = better(sort, other.sort);
+    paint = better(paint, other.paint);
+    checksum = other.checksum;
+}
+
 double Milliseconds()
 {
     LARGE_INTEGER frequency;

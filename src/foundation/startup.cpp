@@ -115,6 +115,17 @@ WNDPROC WINAPI SubclassWW(HWND hwnd, WNDPROC wndProc)
     return old;
 }
 
+void* ControlRecord(HWND hwnd)
+{
+    const auto wndProc = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(hwnd, GWLP_WNDPROC));
+    for (const ControlClass& entry : controlClasses) {
+        if (entry.wndProc == wndProc) {
+            return reinterpret_cast<void*>(GetWindowLongPtrA(hwnd, 0));
+        }
+    }
+    return reinterpret_cast<void*>(SendMessageA(hwnd, WWM_GETSTATE, 0, 0));
+}
+
 const char* WINAPI GetHelpName(void)
 {
     return "Widgets.hlp";

@@ -29,6 +29,10 @@ void LibraryStartState();
 void LibraryAttach(HINSTANCE module);
 void LibraryDetach();
 
+// What WWM_GETSTATE answers. It is sent only to a window whose procedure isn't that of a class of ours: every access to
+// a cell begins here, and a message costs more than the rest of it.
+void* ControlRecord(HWND hwnd);
+
 // For a developer who wants times in the debugger.
 void DebugTimerStart();
 void DebugTimerReport(const char* label);

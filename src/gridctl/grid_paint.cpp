@@ -307,7 +307,10 @@ void HGInvalidateCell(HGridCtl* ctl, int col, int row)
 {
     RECT rect;
     HGCellRect(ctl, &rect, col, row, true);
-    InvalidateRect(ctl->hWnd, &rect, FALSE);
+    // A host that fills thousands of cells out of view pays for no call of the window manager.
+    if (!IsRectEmpty(&rect)) {
+        InvalidateRect(ctl->hWnd, &rect, FALSE);
+    }
 }
 
 void HGInvalidateRange(HGridCtl* ctl, int col1, int row1, int col2, int row2)

@@ -1,6 +1,8 @@
 // The grid's window procedure and the sorting of its messages: each case is one call, its work is elsewhere.
 #include "gridctl/grid_handlers.h"
 
+#include "foundation/startup.h"
+
 namespace {
 
 LRESULT OnDlgCode(HGridCtl* ctl)
@@ -125,7 +127,7 @@ LRESULT OnOwnMessage(HGridCtl* ctl, const MsgArgs& args)
 
 HGridCtl* HGFromWindow(HWND hwnd)
 {
-    return reinterpret_cast<HGridCtl*>(SendMessageA(hwnd, WWM_GETSTATE, 0, 0));
+    return static_cast<HGridCtl*>(ControlRecord(hwnd));
 }
 
 LRESULT CALLBACK HGridMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record)

@@ -2,6 +2,7 @@
 // The row surgery is in grid_rows_bytes.cpp; what the window does with a change is the grid control's.
 #include "griddata/cell_access.h"
 
+#include "foundation/startup.h"
 #include "griddata/child_messages.h"
 #include "griddata/grid_services.h"
 
@@ -12,7 +13,7 @@ namespace {
 
 HGridCtl* FromWindow(HWND hwnd)
 {
-    return reinterpret_cast<HGridCtl*>(SendMessageA(hwnd, WWM_GETSTATE, 0, 0));
+    return static_cast<HGridCtl*>(ControlRecord(hwnd));
 }
 
 HGridData* DataOf(HGridCtl* ctl)
@@ -126,13 +127,17 @@ void MarkWritten(HGridCtl* ctl, int col, int row)
     }
 }
 
-bool SourceRefuses(HGridCtl* ctl, int col, int row, const void* value)
+// Asks the source of a virtual grid. False, too, if it took the window or the data meanwhile.
+bool SourceTakes(HGridCtl* ctl, int col, int row, const void* value)
 {
     if ((ctl->wFlags & HGC_VIRTUAL) == 0 || !ctl->pfnRowSource) {
-        return false;
+        return true;
     }
+    const HWND hwnd = ctl->hWnd;
+    const HGridData* const grid = ctl->pData;
     const int cell = static_cast<int>((static_cast<DWORD>(row & 0xFFFF) << 16) | static_cast<DWORD>(col & 0xFFFF));
-    return ctl->pfnRowSource(ctl->hWnd, HGSRC_CELL, cell, const_cast<void*>(value)) != 0;
+    const bool refused = ctl->pfnRowSource(hwnd, HGSRC_CELL, cell, const_cast<void*>(value)) != 0;
+    return !refused && (!hwnd || IsWindow(hwnd)) && ctl->pData == grid;
 }
 
 // After the parent has agreed: the row's follow-up, the repaint and the changed bit. 0 if the window went meanwhile.
@@ -217,13 +222,10 @@ int HGWriteCell(HGridCtl* ctl, int col, int row, const void* value)
 
     const TempBlock zeros(value ? 0 : static_cast<size_t>(field->cbSize));
     const void* const bytes = value ? value : zeros.p;
-    const HWND hwnd = ctl->hWnd;
-    if (!bytes || SourceRefuses(ctl, col, row, bytes)) {
+    if (!bytes || !SourceTakes(ctl, col, row, bytes)) {
         return 0;
     }
-    // The source may have changed the grid under the write: what it took away isn't written.
-    const bool stillThere = (!hwnd || IsWindow(hwnd)) && ctl->pData == grid && HGGetField(grid, col) == field;
-    BYTE* const target = stillThere ? HGCellPtr(grid, col, row) : nullptr;
+    BYTE* const target = HGGetField(ctl->pData, col) == field ? HGCellPtr(ctl->pData, col, row) : nullptr;
     if (!target) {
         return 0;
     }
