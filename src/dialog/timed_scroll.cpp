@@ -107,11 +107,10 @@ void WINAPI TimedScroll(void* record, int horizontal)
             PostMessageA(hwnd, WM_LBUTTONUP, 0, PackPoint(point));
             return;
         }
-        const DWORD now = GetTickCount();
-        if (now - last > delay) {
+        if (GetTickCount() - last > delay) {
             SendMessageA(hwnd, WM_MOUSEMOVE, KeyState(), PackPoint(point));
             UpdateWindow(hwnd);
-            last = now;
+            last = GetTickCount();
         }
         delay = ScrollDelay(client, point, horizontal != 0);
         if (DrainEndsDrag()) {

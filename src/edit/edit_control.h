@@ -53,6 +53,7 @@ struct HEditCtl {
     WORD       wBounds;     // bit 0: dMin applies; bit 1: dMax applies
 };
 #pragma pack(pop)
+static_assert(sizeof(void*) != 4 || (sizeof(HEditCtl) == 136 && offsetof(HEditCtl, pszFormat) == 94));
 
 // Text layout
 int  MeasureText(HDC hdc, const char* text, int count);

@@ -154,7 +154,7 @@ int WINAPI HLListEmpty(HLList* list)
     if (!list) {
         return 0;
     }
-    // The list is empty before the first node goes: whoever looks into it from a pfnFree meets no freed node.
+    // Bounded: the list is empty before the first node goes, so a pfnFree that looks into it meets no freed node.
     void* node = list->pHead;
     if (node) {
         HSetNodeLink(list->pTail, nullptr);

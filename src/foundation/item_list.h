@@ -3,6 +3,11 @@
 
 #include <widgets/widgets.h>
 
+#include <cstddef>
+
+static_assert(sizeof(void*) != 4 || (sizeof(HArray) == 24 && offsetof(HArray, pItems) == 20));
+static_assert(sizeof(void*) != 4 || (sizeof(HLList) == 52 && offsetof(HLList, wFlags) == 36));
+
 // The link word that every node begins with.
 inline void* HNodeLink(const void* node)
 {

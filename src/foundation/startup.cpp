@@ -26,14 +26,15 @@ struct ControlClass {
     ClassCursor cursor;
     WORD        iconId;     // 0: none
     INT_PTR     background; // as in hbrBackground: a system colour + 1, or 0
+    int         recordWord; // which of the extra words holds the record
 };
 
 // In the order of registration.
 // clang-format off
 constexpr ControlClass controlClasses[] = {
-    { "HEdit_SS", 0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0 },
-    { "HEdit",    0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0 },
-    { "HGrid",    0x4008, HGridWnd, 1, ClassCursor::Grid,  gridIconId, COLOR_WINDOW + 1 },
+    { "HEdit_SS", 0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
+    { "HEdit",    0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
+    { "HGrid",    0x4008, HGridWnd, 1, ClassCursor::Grid,  gridIconId, COLOR_WINDOW + 1, 0 },
 };
 // clang-format on
 
@@ -120,7 +121,7 @@ void* ControlRecord(HWND hwnd)
     const auto wndProc = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(hwnd, GWLP_WNDPROC));
     for (const ControlClass& entry : controlClasses) {
         if (entry.wndProc == wndProc) {
-            return reinterpret_cast<void*>(GetWindowLongPtrA(hwnd, 0));
+            return reinterpret_cast<void*>(GetWindowLongPtrA(hwnd, entry.recordWord * static_cast<int>(sizeof(LONG_PTR))));
         }
     }
     return reinterpret_cast<void*>(SendMessageA(hwnd, WWM_GETSTATE, 0, 0));

@@ -12,7 +12,8 @@
 #include <cstddef>
 #include <cstdint>
 
-static_assert(sizeof(void*) != 4 || (offsetof(HGridCtl, hBkBrush) == 18 && offsetof(HGridCtl, pData) == 52));
+static_assert(sizeof(void*) != 4 || (sizeof(HGridCtl) == 126 && offsetof(HGridCtl, hBkBrush) == 18 &&
+                                     offsetof(HGridCtl, pData) == 52));
 
 // A cell: -1 names a header, or the whole row or column in a move.
 struct Cell {

@@ -7,6 +7,12 @@
 
 #include <widgets/widgets.h>
 
+#include <cstddef>
+
+static_assert(sizeof(void*) != 4 || (sizeof(HGridData) == 44 && offsetof(HGridData, pRows) == 30));
+static_assert(sizeof(void*) != 4 || (sizeof(HGField) == 38 && offsetof(HGField, nOffset) == 26));
+static_assert(sizeof(void*) != 4 || (sizeof(HGStash) == 166 && offsetof(HGStash, szName) == 16));
+
 // A row node is the link, a word of HGR_ flags, and the row's data: values, then one flag word for each cell.
 constexpr int rowHeadSize = static_cast<int>(sizeof(void*)) + 2;
 // The row list never grows to this size.

@@ -179,7 +179,7 @@ StoredCalendar Stored(const tm& calendar)
 }
 
 // Runs the record through the retained calendar record; -1 if the clock cannot show it.
-// Settled: weekday, day of year and daylight stay as the last call left them, and the runtime looks at the last.
+// Settled: the year stays as the last call left it where the record has none that the calendar can show.
 __time64_t ClockOf(const DateTimeRec& rec)
 {
     gCalendar.tm_sec = rec.second;
@@ -190,6 +190,8 @@ __time64_t ClockOf(const DateTimeRec& rec)
     if (rec.year > calendarYear) {
         gCalendar.tm_year = rec.year - calendarYear;
     }
+    // The runtime finds out about daylight saving: what the last call left there would move the time by an hour.
+    gCalendar.tm_isdst = -1;
     // Runtimes differ on times before 1970 and on what a failure leaves in the record, so neither is left to them.
     tm               normal = gCalendar;
     const __time64_t clock = _mktime64(&normal);

@@ -61,8 +61,9 @@ bool IsMinute(const Printer& printer)
 void Put(Printer* printer, char ch)
 {
     if (printer->length < printer->outSize - 1) {
-        printer->out[printer->length++] = ch;
+        printer->out[printer->length] = ch;
     }
+    printer->length++;
 }
 
 // A letter that stands for itself, an index behind the place in the picture.
@@ -323,7 +324,7 @@ int FormatDateTime(const DateTimeRec* rec, const char* format, char* out, int ou
     while (picture[printer.at] && printer.length < outSize) {
         PrintNext(&printer);
     }
-    // Bounded: the end never lies past the last byte of out, so length and text agree.
-    out[printer.length] = 0;
+    // Bounded: the end of the text never lies past the last byte of out. Settled: what was cut off counts in the result.
+    out[std::min(printer.length, outSize - 1)] = 0;
     return printer.length;
 }

@@ -90,8 +90,7 @@ void SetMonthOrMinute(Reader* reader, int value)
 
 void SetYear(Reader* reader, int value)
 {
-    const short year = static_cast<short>(value);
-    reader->rec->year = year == 0 ? static_cast<short>(reader->now.wYear) : year;
+    reader->rec->year = static_cast<short>(value == 0 ? reader->now.wYear : value);
 }
 
 void SetHour(Reader* reader, int value)

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace {
 
 LRESULT CALLBACK OtherProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
@@ -66,6 +68,9 @@ TEST(WidgetsInit, ASecondCallKeepsWhatAHostHasSet)
     SetGridDrawPartFnc(PaintNothing);
     SetGridAppDPIScaling(0);
     SetDateSep('-');
+    SetGridBckgndColors(0x010203, 0x040506, 0x070809);
+    SetGridSelectColor(0x0A0B0C);
+    const std::array<HBRUSH, 4> brushes = { hFaceBrush, hSecondBrush, hThirdBrush, hSelectBrush };
 
     WidgetsInit();
 
@@ -74,6 +79,7 @@ TEST(WidgetsInit, ASecondCallKeepsWhatAHostHasSet)
     EXPECT_EQ(0, fDpiScaling);
     EXPECT_EQ(144, nDpiX);
     EXPECT_EQ('-', WWGetIntlInfo()->chDateSep);
+    EXPECT_EQ((std::array<HBRUSH, 4>{ hFaceBrush, hSecondBrush, hThirdBrush, hSelectBrush }), brushes);
     EXPECT_EQ(images, hCheckImages);
     EXPECT_EQ(cursor, hCurGrid);
 
@@ -81,6 +87,8 @@ TEST(WidgetsInit, ASecondCallKeepsWhatAHostHasSet)
     SetGridDrawPartFnc(nullptr);
     SetGridAppDPIScaling(1);
     SetDateSep('.');
+    SetGridBckgndColors(0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF);
+    SetGridSelectColor(0xFFFFFFFF);
 }
 
 struct ClassRow {

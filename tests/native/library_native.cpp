@@ -1,4 +1,4 @@
-// The library's start for a test program without windows: its state, and the way to a record by the fake message.
+// Brings the state of the library to its start values for a test program without windows.
 #include "foundation/startup.h"
 
 #include <gtest/gtest.h>
@@ -17,8 +17,3 @@ public:
 testing::Environment* const gStart = testing::AddGlobalTestEnvironment(new LibraryStart);
 
 } // namespace
-
-void* ControlRecord(HWND hwnd)
-{
-    return reinterpret_cast<void*>(SendMessageA(hwnd, WWM_GETSTATE, 0, 0));
-}

@@ -7,6 +7,8 @@
 
 #include "native_platform.h"
 
+#include "foundation/startup.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
@@ -381,6 +383,12 @@ LRESULT WINAPI SendMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPara
     }
     const NativeWindow* const window = FindWindow(hwnd);
     return window && window->wndProc ? window->wndProc(hwnd, message, wParam, lParam) : 0;
+}
+
+// The library's classes aren't registered here, so each record is asked for.
+void* ControlRecord(HWND hwnd)
+{
+    return reinterpret_cast<void*>(SendMessageA(hwnd, WWM_GETSTATE, 0, 0));
 }
 
 BOOL WINAPI SetRect(RECT* rect, int left, int top, int right, int bottom)

@@ -284,11 +284,14 @@ TEST_F(DateFormat, PrintsFieldsThatAreOutOfRange)
 TEST_F(DateFormat, CutsTheTextToItsRoom)
 {
     const std::string whole = "friday, 09. february 2024";
+    // Where the pieces of the picture end: the one that meets the end of the room counts whole in the result.
+    constexpr int ends[] = { 6, 7, 8, 10, 11, 12, 20, 21, 25 };
     for (int size = 1; size <= 40; ++size) {
         std::vector<char> out(static_cast<size_t>(size) + 1, '#');
         const int         length = FormatDateTime(&friday, "dddd, dd. mmmm yyyy", out.data(), size, false, true, false);
         EXPECT_EQ(whole.substr(0, static_cast<size_t>(size) - 1), out.data()) << size;
-        EXPECT_EQ(std::strlen(out.data()), static_cast<size_t>(length)) << size;
+        const int* const end = std::lower_bound(std::begin(ends), std::end(ends), size);
+        EXPECT_EQ(end == std::end(ends) ? 25 : *end, length) << size;
         EXPECT_EQ('#', out.back()) << size;
     }
 }
