@@ -66,10 +66,14 @@ become_root_able() {
     sudo -v || die "sudo refuses"
 }
 
+# A package may be there for the foreign architecture alone, which doesn't count.
 missing_packages() {
-    local package
+    local package native
+    native=$(dpkg --print-architecture)
     for package in "$@"; do
-        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || echo "$package"
+        # shellcheck disable=SC2016 # dpkg's own placeholders
+        dpkg-query -W -f '${db:Status-Status} ${Architecture}\n' "$package" 2>/dev/null |
+            grep -qxE "installed ($native|all)" || echo "$package"
     done
 }
 

@@ -87,6 +87,19 @@ TEST(SetRowSize, WithoutMemoryKeepsTheOldSizeAndEveryRow)
     }
 }
 
+TEST(SetRowSize, ThatShrinksWithoutMemoryLeavesNoRowTooShort)
+{
+    for (int n = 1; n <= 3; n++) {
+        const GridPtr grid = GridOf({ Text("a", 200) }, 0, 3);
+        FailAllocation(n);
+        EXPECT_EQ(0, HGSetRowSize(grid.get(), 3)) << n;
+        FailAllocation(0);
+        for (int row = 0; row < 3; row++) {
+            EXPECT_LE(rowHeadSize + 202u, BlockSize(HGRowNode(grid.get(), row))) << n << ' ' << row;
+        }
+    }
+}
+
 TEST(ShiftRowBytes, MovesBytesAndZeroesTheGapBehindThem)
 {
     struct {
