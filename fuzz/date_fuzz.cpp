@@ -50,12 +50,16 @@ void Require(bool holds)
     }
 }
 
+// The text ends where its room does. The result counts what was cut off, up to the end of the piece that met the end.
 void Print(const DateTimeRec& rec, const char* format, bool editForm, bool wantDate, bool wantTime)
 {
+    constexpr int longestPiece = sizeof "wednesday" - 1;
     for (const int size : { 1, 2, 11, 17, 300 }) {
         std::vector<char> out(static_cast<size_t>(size), '#');
         const int         length = FormatDateTime(&rec, format, out.data(), size, editForm, wantDate, wantTime);
-        Require(length >= 0 && length < size && out[static_cast<size_t>(length)] == 0);
+        const auto        end = std::find(out.begin(), out.end(), '\0');
+        Require(length >= 0 && length < size + longestPiece);
+        Require(end - out.begin() == std::min(length, size - 1));
     }
 }
 
