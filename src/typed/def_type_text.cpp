@@ -54,6 +54,8 @@ void AppendCaption(Target* target, const char* caption)
     target->length += static_cast<int>(length);
 }
 
+// Bounded: behind a caption that takes all of the size there is no room that the caller promised, so even the
+// separator stays away.
 void AppendImages(Target* target, UINT id)
 {
     if (id == noImages || target->size - target->length < 2) {

@@ -255,20 +255,26 @@ void FindExponent(DecimalDigits* out)
     out->iExponent = zeros < out->cDigits ? -zeros : 0;
 }
 
-// The digits of a decimal text as one whole number, and how many of them stood behind the point.
-int ReadDigits(const char* text, Whole* digits)
+struct DigitCounts {
+    int all;
+    int behind; // the point
+};
+
+// The digits of a decimal text as one whole number, and how many there were.
+DigitCounts ReadDigits(const char* text, Whole* digits)
 {
-    bool point = false;
-    int  behind = 0;
+    bool        point = false;
+    DigitCounts counts = {};
     for (; (*text >= '0' && *text <= '9') || (*text == '.' && !point); ++text) {
         if (*text == '.') {
             point = true;
             continue;
         }
         MultiplyAdd(digits, 10, static_cast<uint32_t>(*text - '0'));
-        behind += point ? 1 : 0;
+        ++counts.all;
+        counts.behind += point ? 1 : 0;
     }
-    return behind;
+    return counts;
 }
 
 uint64_t ToUint64(const Whole& whole)
@@ -344,7 +350,8 @@ double FromDecimalText(const char* text)
     const bool minus = *text == '-';
     Whole      digits;
     SetWhole(&digits, 0);
-    const int    behind = ReadDigits(minus ? text + 1 : text, &digits);
-    const double size = QuotientOf(&digits, behind);
-    return minus ? -size : size;
+    // A sign alone, as of a half-typed number, is a plain zero.
+    const DigitCounts counts = ReadDigits(minus ? text + 1 : text, &digits);
+    const double      size = QuotientOf(&digits, counts.behind);
+    return minus && counts.all > 0 ? -size : size;
 }

@@ -26,5 +26,5 @@ struct DecimalDigits {
 void ToDecimalDigits(double value, int places, DecimalDigits* out);
 
 // Reads an optional '-', digits and an optional '.' with digits, up to the first character that doesn't belong there.
-// The nearest double; 0.0 without a digit. Up to 127 characters.
+// The nearest double; 0.0 without a digit, whatever the sign. Up to 127 characters.
 double FromDecimalText(const char* text);

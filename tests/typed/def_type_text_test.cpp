@@ -60,6 +60,15 @@ TEST(LoadDefTypeText, AppendsACaptionWholeWhateverTheSize)
     EXPECT_EQ("441;" + std::string(40, 'x'), buffer.Text());
 }
 
+TEST(LoadDefTypeText, LeavesTheImagesAwayWhereTheCaptionTakesTheSize)
+{
+    const std::string caption(40, 'x');
+    const std::string expected = "333w;" + caption;
+    ExactBuffer       buffer(expected.size() + 1);
+    EXPECT_EQ(static_cast<int>(expected.size()), LoadDefTypeText(2, buffer.Get(), 6, caption.c_str()));
+    EXPECT_EQ(expected, buffer.Text());
+}
+
 TEST(LoadDefTypeText, GivesNothingWithoutABuffer)
 {
     char buffer[] = "?";

@@ -238,7 +238,15 @@ TEST_F(StringToDoubleTest, GivesZeroForNull)
 TEST_F(StringToDoubleTest, KeepsTheSignOfZero)
 {
     EXPECT_TRUE(std::signbit(StringToDouble("-0")));
+    EXPECT_TRUE(std::signbit(StringToDouble("-.0")));
     EXPECT_FALSE(std::signbit(StringToDouble("0")));
+}
+
+TEST_F(StringToDoubleTest, GivesNoSignWithoutADigit)
+{
+    for (const char* const text : { "-", "-.", "--5", "-.-5", "abc-" }) {
+        EXPECT_FALSE(std::signbit(StringToDouble(text))) << text;
+    }
 }
 
 TEST_F(StringToDoubleTest, TakesTheSeparatorOfTheSettingsForThePoint)
