@@ -270,7 +270,9 @@ int WINAPI GetDataSize(char dataClass, char dataType);
  * @param outSize      Bytes of out, at least 2.
  * @param outNegative  Receives 1 if the value shows in its negative colour, else 0; may be null.
  * @param editForm     Non-zero: the form for editing (dates and numbers differ from the display form).
- * @return Length of the text, or 0 on failure. A number too wide for out fills it with '#' and gives 0.
+ * @return Length of the text, or 0 on failure. A number too wide for out fills it with '#' and gives 0. A date's
+ *         length counts what out cuts off, and a number's is that of DoubleToString: take strlen of out to go by the
+ *         text.
  */
 int WINAPI FormatData(const void* data, char dataClass, char dataType, const char* format, char* out, int outSize,
                       int* outNegative, int editForm);
@@ -322,7 +324,9 @@ double WINAPI NumToDouble(const void* data, char dataType);
  * @param out       Receives the text.
  * @param outSize   Bytes of out, at least 2.
  * @param editForm  Non-zero: without literals and grouping, the minus sign always printed.
- * @return Length of the text; 0 if it did not fit, with out full of '#'.
+ * @return Length of the display text; 0 if it did not fit, with out full of '#'. Where a ',' stands behind the point
+ *         of the picture it counts although it isn't printed, and in edit form the decimal separator isn't counted:
+ *         take strlen of out.
  */
 int WINAPI DoubleToString(double value, const char* picture, char* out, int outSize, int editForm);
 /** Reads digits, the decimal separator and '-'; drops all else. @return The number; 0.0 for null. */
@@ -715,7 +719,13 @@ HGField* WINAPI HGFieldCreate(const char* title, WORD flags, short width, WORD h
 int WINAPI HGFieldDestroy(HGField* field);
 /** @return A copy of a column (its width passes the DPI scaling once more), or null. */
 HGField* WINAPI HGFldDup(HGField* field);
-/** Inserts a column; rows keep their values. @return Its index, or -1. A position past the end appends. */
+/**
+ * Inserts a column; rows keep their values.
+ *
+ * @param field     The column; the grid owns it from then on.
+ * @param position  Its index; past the end it is appended.
+ * @return Its index; -1 without memory or room in the row, and the column stays the caller's.
+ */
 int WINAPI HGInsertFld(HGridData* grid, HGField* field, short position);
 /** Computes the offsets of all columns and the row size anew. */
 void WINAPI HGFixOffsets(HGridData* grid);
@@ -1002,11 +1012,17 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGM_GETTITLE 1354
 /** lParam: text, copied; null gives 0. Default. */
 #define HGM_SETTITLE 1355
-/** lParam: HGField, owned by the grid from then on. Gives the index at which it stands, or -1. */
+/**
+ * lParam: HGField, owned by the grid from then on. Gives the index at which it stands; -1 without memory or room in
+ * the row, and the column stays the caller's.
+ */
 #define HGM_ADDFIELD 1356
 /** wParam: c. Gives 1; 0 for a bad column. */
 #define HGM_DELETEFIELD 1357
-/** wParam: c. lParam: HGField, owned by the grid from then on. Gives its index, or -1. */
+/**
+ * wParam: c. lParam: HGField, owned by the grid from then on. Gives its index; -1 without memory or room in the row,
+ * and the column stays the caller's.
+ */
 #define HGM_INSERTFIELD 1358
 /** wParam: from. lParam: to. Gives the new index, or -1. */
 #define HGM_MOVEFIELD 1359
