@@ -146,8 +146,10 @@ int FinishWrite(HGridCtl* ctl, int col, int row)
     if (!HGRowNode(ctl->pData, row)) {
         return 1;
     }
-    const bool isVirtual = (ctl->wFlags & HGC_VIRTUAL) != 0 && ctl->pfnRowSource;
-    if (!(isVirtual ? FollowUpRecord(ctl, row) : FollowUpEntryRow(ctl, row))) {
+    const bool isVirtual = (ctl->wFlags & HGC_VIRTUAL) != 0;
+    // Bounded: without a source nobody is there to take the row.
+    const bool stays = !isVirtual ? FollowUpEntryRow(ctl, row) : !ctl->pfnRowSource || FollowUpRecord(ctl, row);
+    if (!stays) {
         return 0;
     }
     HGInvalidateCell(ctl, col, row);

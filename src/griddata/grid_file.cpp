@@ -67,7 +67,8 @@ int HeaderPlaces(int version)
     return version >= completeVersion ? headerPlaceCount : shortHeaderPlaces;
 }
 
-// A text of no characters isn't transferred at all.
+// A text of no characters isn't transferred at all: a host's function that reads or writes one item of count bytes
+// would take an empty one for a failure.
 bool RunText(const Transfer& transfer, void* buffer, int length)
 {
     return length == 0 || transfer.Run(buffer, length);

@@ -29,6 +29,7 @@ inline int HGCellSize(const HGField* field)
     return field && field->cbSize > 0 ? field->cbSize : 0;
 }
 
+// Bounded: under the style without a map there is nothing to keep up, and columns move as if the style were off.
 inline bool HGKeepsMap(const HGridData* grid)
 {
     return (grid->dwStyle & HGS_COLMAP) != 0 && grid->pFieldMap != nullptr;
@@ -49,6 +50,7 @@ inline void HGSetMapEntry(HLList* map, int pos, int col)
 }
 
 // The row list's cursor after its rows were replaced: on the tail, under the tail's own index again.
+// Bounded: left with the index that it had before, the next lookup by index would meet another row and write into it.
 inline void HGSettleRowCursor(HGridData* grid)
 {
     if (HGRowCount(grid)) {

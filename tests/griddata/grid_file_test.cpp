@@ -293,18 +293,42 @@ TEST(GridLoadBytes, CutsTextsAtAZero)
     EXPECT_STREQ("T", grid->pszTitle);
 }
 
+// A file of four columns that ends so many bytes into the last one, whose caption is "four" and its format "@@".
+GridPtr LoadedUpTo(size_t bytesOfTheFourth)
+{
+    constexpr size_t fourthSize = 17 + 2 + 4 + 2 + 2;
+    const GridPtr    source =
+        GridOf({ Text("one", 9), Text("two", 9), Text("three", 9), AnyField("four", 's', 's', 9, "@@") });
+    Bytes bytes = SavedBytes(source.get(), 0x484A);
+    bytes.resize(bytes.size() - fourthSize + bytesOfTheFourth);
+    return GridPtr(LoadBytes(bytes));
+}
+
 TEST(GridLoadBytes, GivesTheWholeFieldsOfAShortFile)
 {
-    GridPtr source = EmptyGrid();
-    for (const char* const name : { "one", "two", "three", "four", "five" }) {
-        HGAddFld(source.get(), Text(name, 9));
+    for (const size_t cut : { 0u, 1u, 16u, 18u, 19u, 20u, 22u, 24u, 25u, 26u }) {
+        const GridPtr grid = LoadedUpTo(cut);
+        ASSERT_NE(nullptr, grid) << cut;
+        EXPECT_EQ((std::vector<std::string>{ "one", "two", "three" }), Captions(grid.get())) << cut;
+        EXPECT_EQ(3 * (9 + 2), grid->pRows->cbItem) << cut;
     }
-    Bytes bytes = SavedBytes(source.get(), 0x484A);
-    bytes.resize(bytes.size() - 30); // into the fourth field
-    const GridPtr grid(LoadBytes(bytes));
-    ASSERT_NE(nullptr, grid);
-    EXPECT_EQ((std::vector<std::string>{ "one", "two", "three" }), Captions(grid.get()));
-    EXPECT_EQ(3 * (9 + 2), grid->pRows->cbItem);
+}
+
+// A length that can't be read says 0, and a text of that length is whole.
+TEST(GridLoadBytes, TakesAFieldForWholeThatEndsBeforeALength)
+{
+    struct {
+        size_t      cut;
+        const char* caption;
+        const char* format;
+    } const rows[] = { { 17, "", "" }, { 19 + 4, "four", "" }, { 17 + 2 + 4 + 2 + 2, "four", "@@" } };
+    for (const auto& row : rows) {
+        const GridPtr grid = LoadedUpTo(row.cut);
+        ASSERT_NE(nullptr, grid) << row.cut;
+        ASSERT_EQ(4, HGColCount(grid.get())) << row.cut;
+        EXPECT_STREQ(row.caption, HGGetField(grid.get(), 3)->pszTitle) << row.cut;
+        EXPECT_STREQ(row.format, HGGetField(grid.get(), 3)->pszFormat) << row.cut;
+    }
 }
 
 // A file that ends after so many bytes, read as the loader has to: a length is what there is of it.
