@@ -4,11 +4,13 @@
 
 #include "foundation/screen.h"
 #include "foundation/startup.h"
+#include "griddata/cell_access.h"
 #include "griddata/child_messages.h"
 #include "native/grid_fakes.h"
 #include "native/native_platform.h"
 
-#include <map>
+#include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -190,16 +192,37 @@ protected:
     {
         EXPECT_EQ(child.hWnd, hwnd);
         messages++;
-        if (message == HLM_FINDCODE) {
-            EXPECT_EQ(0u, wParam);
-            const LONG code = LoadAs<LONG>(reinterpret_cast<void*>(lParam));
-            return code < static_cast<LONG>(items.size()) ? code : -1;
+        void* const bytes = reinterpret_cast<void*>(lParam);
+        const int   index = static_cast<int>(wParam);
+        switch (message) {
+        case HLM_FINDCODE: EXPECT_EQ(0, index); return IndexOfCode(LoadAs<LONG>(bytes));
+        case HLM_FINDDATA: EXPECT_EQ(0, index); return IndexOfData(static_cast<const char*>(bytes));
+        case HLM_GETDATA: return CopyData(index, static_cast<char*>(bytes));
+        case HLM_GETCODE: return CopyCode(index, bytes);
+        default: ADD_FAILURE() << message; return 0;
         }
-        EXPECT_EQ(HLM_GETDATA, message);
-        if (static_cast<int>(wParam) < 0) {
+    }
+    bool Has(LONG index) const { return index >= 0 && index < static_cast<LONG>(items.size()); }
+    int  IndexOfCode(LONG code) const { return Has(code - firstCode) ? code - firstCode : -1; }
+    int  IndexOfData(const std::string& data) const
+    {
+        const auto found = std::find(items.begin(), items.end(), data);
+        return found == items.end() ? -1 : static_cast<int>(found - items.begin());
+    }
+    int CopyData(int index, char* out) const
+    {
+        if (!Has(index)) {
             return 0;
         }
-        _fstrnzcpy(reinterpret_cast<char*>(lParam), items[wParam].c_str(), 256);
+        _fstrnzcpy(out, items[static_cast<size_t>(index)].c_str(), 256);
+        return 1;
+    }
+    int CopyCode(int index, void* out) const
+    {
+        if (!Has(index)) {
+            return 0;
+        }
+        StoreAs<LONG>(out, index + firstCode);
         return 1;
     }
     void Fill(const std::vector<LONG>& codes)
@@ -221,6 +244,7 @@ protected:
     ControlHeader            child = {};
     GridPtr                  grid;
     std::vector<std::string> items = { "pear", "apple", "fig" };
+    LONG                     firstCode = 0; // that of the first item; the others count up
     int                      messages = 0;
 };
 
@@ -272,6 +296,101 @@ TEST_F(CodedColumn, StopsSortingIfTheListTakesRowsAway)
     };
     HGSortRows(grid.get(), 0, true, nullptr);
     EXPECT_EQ((std::vector<LONG>{ 1 }), Codes());
+}
+
+// A column of codes 70, 71 and 72 whose cells are read and written as texts.
+class CodedCell : public CodedColumn {
+protected:
+    void SetUp() override
+    {
+        CodedColumn::SetUp();
+        firstCode = 70;
+        AddRows(grid.get(), 1);
+        ctl = ControlOf(grid.get());
+    }
+    HGField* Field() { return HGGetField(grid.get(), 0); }
+    LONG     Code() { return CellOf<LONG>(grid.get(), 0, 0); }
+    void     SetCode(LONG code) { SetCell<LONG>(grid.get(), 0, 0, code); }
+    int      Parse(const char* text) { return HGParseCell(&ctl, 0, 0, text); }
+    // The text, which is as long as the result says.
+    std::string Format()
+    {
+        char      out[20] = "?";
+        const int length = HGFormatCell(&ctl, 0, 0, out, sizeof out, 0);
+        EXPECT_EQ(std::strlen(out), static_cast<size_t>(length));
+        return out;
+    }
+
+    HGridCtl ctl = {};
+};
+
+TEST_F(CodedCell, ShowsTheDataOfItsCode)
+{
+    SetCode(71);
+    for (const char kind : { 'l', 'd', 'c' }) {
+        Field()->cKind = kind;
+        EXPECT_EQ("apple", Format()) << kind;
+    }
+}
+
+TEST_F(CodedCell, ShowsAnUnknownCodeAsAnEmptyValue)
+{
+    SetCode(9);
+    EXPECT_EQ("", Format());
+    EXPECT_EQ(1, messages) << "nothing is asked for an item that isn't there";
+    Field()->cClass = 'n';
+    Field()->cType = 'l';
+    EXPECT_EQ("0", Format()) << "the empty value of a number is a zero";
+}
+
+TEST_F(CodedCell, ShowsItsOwnBytesInAKindWithoutAList)
+{
+    SetCode(71);
+    Field()->cKind = 'e';
+    Field()->cClass = 'n';
+    Field()->cType = 'l';
+    EXPECT_EQ("71", Format());
+    EXPECT_EQ(0, messages);
+}
+
+TEST_F(CodedCell, StoresTheCodeOfItsData)
+{
+    for (const char kind : { 'l', 'd' }) {
+        SetCode(0);
+        Field()->cKind = kind;
+        EXPECT_EQ(1, Parse("fig")) << kind;
+        EXPECT_EQ(72, Code()) << kind;
+    }
+}
+
+TEST_F(CodedCell, OfKindCStoresParsedDataAsTheyStandAlthoughTheListKnowsACode)
+{
+    items = { "12", "13" };
+    Field()->cKind = 'c';
+    EXPECT_EQ(1, Parse("13"));
+    EXPECT_EQ(0, std::memcmp("13\0", CellAt(grid.get(), 0, 0), 4)) << "the text, not code 71";
+    EXPECT_EQ(0, messages);
+}
+
+TEST_F(CodedCell, AsksForTheCodeOfIndexMinusOneWhereTheListDoesNotKnowTheData)
+{
+    int asked = 0;
+    Native().onSendMessage = [&](HWND, UINT message, WPARAM wParam, LPARAM) {
+        asked += message == HLM_GETCODE && static_cast<int>(wParam) == -1;
+        return LRESULT{ message == HLM_FINDDATA ? -1 : 0 };
+    };
+    EXPECT_EQ(1, Parse("fig"));
+    EXPECT_EQ(1, asked);
+    EXPECT_EQ(0, std::memcmp("fig", CellAt(grid.get(), 0, 0), 4)) << "the bytes of the data, which nothing overwrote";
+}
+
+TEST_F(CodedCell, WithoutItsListHasNoTextAndTakesNone)
+{
+    SetCode(71);
+    Field()->pCtl = nullptr;
+    EXPECT_EQ("", Format());
+    EXPECT_EQ(0, Parse("fig"));
+    EXPECT_EQ(71, Code());
 }
 
 } // namespace
