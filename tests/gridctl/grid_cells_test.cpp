@@ -2,6 +2,7 @@
 #include "gridctl/grid_window.h"
 
 #include <cstring>
+#include <vector>
 
 namespace {
 
@@ -231,32 +232,40 @@ TEST_F(GridCells, ParentMayEmptyTheGridWhileACellIsWritten)
     EXPECT_EQ(0, Send(grid, HGM_GETROWCOUNT));
 }
 
-// A source of ten records that tells what it was asked and answers as a test wants.
+// A source of some records that tells what it was asked and answers as a test wants. It has what it appended.
 struct SourceLog {
+    int         count = 10;
     int         cellAnswer = 0;
     int         updateAnswer = 1;
     int         appendAnswer = 1;
     std::string asked;
+
+    int Append()
+    {
+        count += appendAnswer;
+        return appendAnswer;
+    }
 };
 SourceLog gSource;
 
 int CALLBACK Source(HWND, int operation, int record, void*)
 {
     switch (operation) {
-    case HGSRC_FETCH:  return record < 10;
-    case HGSRC_COUNT:  return 10;
+    case HGSRC_FETCH:  return record < gSource.count;
+    case HGSRC_COUNT:  return gSource.count;
     case HGSRC_CELL:   gSource.asked += "cell" + std::to_string(record) + " "; return gSource.cellAnswer;
     case HGSRC_UPDATE: gSource.asked += "update" + std::to_string(record) + " "; return gSource.updateAnswer;
-    case HGSRC_APPEND: gSource.asked += "append" + std::to_string(record) + " "; return gSource.appendAnswer;
+    case HGSRC_APPEND: gSource.asked += "append" + std::to_string(record) + " "; return gSource.Append();
     default:           return 1;
     }
 }
 
 class VirtualCells : public GridWindow {
 protected:
-    void MakeVirtual(DWORD style = gridStyle)
+    void MakeVirtual(DWORD style = gridStyle, int records = 10)
     {
         gSource = SourceLog();
+        gSource.count = records;
         MakeGrid(GridOf({ Number(), Number() }, style));
         SendPtr(grid, HGM_SETROWSOURCE, 0, reinterpret_cast<const void*>(Source));
         PumpPending();
@@ -292,13 +301,102 @@ TEST_F(VirtualCells, RecordThatTheSourceDoesNotStoreStaysDirty)
     EXPECT_EQ(1, Send(grid, WWM_GETCHANGED));
 }
 
-TEST_F(VirtualCells, EntryRowIsAppendedThroughTheSource)
+// A grid whose last row waits for a new record; what it is sent from then on is recorded.
+class EntryRecord : public VirtualCells {
+protected:
+    void MakeEntry(int records)
+    {
+        MakeVirtual(gridStyle | HGS_NEWROW, records);
+        entry = static_cast<int>(Send(grid, HGM_GETROWCOUNT)) - 1;
+        ASSERT_EQ(records, entry);
+        ASSERT_EQ(HGR_NEW, RowFlags(entry));
+        seen.Watch(grid);
+    }
+    std::vector<Seen> Got(UINT message)
+    {
+        std::vector<Seen> got;
+        for (const Seen& line : seen.All()) {
+            if (line.direction == ToGrid && line.code == message) {
+                got.push_back(line);
+            }
+        }
+        return got;
+    }
+
+    int entry = -1;
+};
+
+TEST_F(EntryRecord, IsAppendedThroughTheSource)
 {
-    MakeVirtual(gridStyle | HGS_NEWROW);
+    MakeEntry(10);
+    EXPECT_EQ(1, HGSetCellText(grid, 0, entry, "5"));
+    EXPECT_EQ("cell655360 append10 ", gSource.asked);
+}
+
+TEST_F(EntryRecord, BehindThePageIsHeldAndComesInsideByAPostedMessage)
+{
+    MakeEntry(10);
+    ASSERT_GE(entry, ctl->cPageRows);
+    const int held = ctl->cHeldRows;
+    EXPECT_EQ(1, HGSetCellText(grid, 0, entry, "5"));
+    EXPECT_EQ(0, RowFlags(entry));
+    EXPECT_EQ(0, Send(grid, WWM_GETCHANGED));
+    EXPECT_TRUE(Got(HGM_REFRESH).empty());
+    ASSERT_EQ(1u, Got(HGM_SETHELD).size());
+    EXPECT_EQ(0, Got(HGM_SETHELD)[0].wParam.value);
+    EXPECT_EQ(held + 1, Got(HGM_SETHELD)[0].lParam.value);
+    EXPECT_TRUE(Got(HGM_SETTOPRECORD).empty()) << "it is posted";
+    const LONG top = ctl->lRowBase + ctl->nTopRow;
+    PumpPending();
+    ASSERT_EQ(1u, Got(HGM_SETTOPRECORD).size());
+    EXPECT_EQ(top + 1, Got(HGM_SETTOPRECORD)[0].wParam.value);
+    EXPECT_EQ(0, Got(HGM_SETTOPRECORD)[0].lParam.value);
+    EXPECT_EQ(top + 1, Send(grid, HGM_GETTOPRECORD));
+}
+
+TEST_F(EntryRecord, InsideThePageIsFollowedByARefresh)
+{
+    MakeEntry(3);
+    ASSERT_LT(entry, ctl->cPageRows);
+    EXPECT_EQ(1, HGSetCellText(grid, 0, entry, "5"));
+    EXPECT_EQ(0, RowFlags(entry));
+    EXPECT_EQ(0, Send(grid, WWM_GETCHANGED));
+    ASSERT_EQ(1u, Got(HGM_REFRESH).size());
+    EXPECT_EQ(0, Got(HGM_REFRESH)[0].wParam.value);
+    PumpPending();
+    EXPECT_TRUE(Got(HGM_SETHELD).empty());
+    EXPECT_TRUE(Got(HGM_SETTOPRECORD).empty());
+}
+
+TEST_F(EntryRecord, ThatTheSourceDoesNotStoreStaysNewAndDirty)
+{
+    for (const int records : { 3, 10 }) {
+        MakeEntry(records);
+        gSource.appendAnswer = 0;
+        EXPECT_EQ(1, HGSetCellText(grid, 0, entry, "5"));
+        EXPECT_EQ(HGR_NEW | HGR_DIRTY, RowFlags(entry)) << records;
+        EXPECT_EQ(1, Send(grid, WWM_GETCHANGED)) << records;
+        PumpPending();
+        for (const UINT message : { HGM_REFRESH, HGM_SETHELD, HGM_SETTOPRECORD }) {
+            EXPECT_TRUE(Got(message).empty()) << records << " records, message " << message;
+        }
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(VirtualCells, WithoutASourceTheLastRowBringsNoOther)
+{
+    MakeGrid(GridOf({ Number() }, gridStyle | HGS_NEWROW), 2);
+    Send(grid, HGM_SETFLAGS, 1, HGC_VIRTUAL);
     const int last = static_cast<int>(Send(grid, HGM_GETROWCOUNT)) - 1;
-    ASSERT_TRUE(RowFlags(last) & HGR_NEW);
+    seen.Watch(grid);
     EXPECT_EQ(1, HGSetCellText(grid, 0, last, "5"));
-    EXPECT_NE(std::string::npos, gSource.asked.find("append10"));
+    for (const Seen& line : seen.All()) {
+        EXPECT_TRUE(line.direction != ToGrid || line.code != HGM_REFRESH);
+    }
+    EXPECT_TRUE(RowFlags(last) & HGR_DIRTY);
+    EXPECT_EQ(1, Send(grid, WWM_GETCHANGED));
+    EXPECT_EQ(last + 1, Send(grid, HGM_GETROWCOUNT));
 }
 
 } // namespace
