@@ -56,7 +56,15 @@ void SetBound(HEditCtl* ctl, int which, const void* data)
         ctl->dMax = bound;
     }
     ctl->wBounds = static_cast<WORD>(ctl->wBounds | which);
+    // A linked buffer is the master: it is bounded too, or the next refresh would bring the old value back.
+    const bool linked = ctl->pLinked && ctl->pData;
+    if (linked) {
+        CopyValue(ctl, ctl->pData, ctl->pLinked);
+    }
     BoundMinMax(ctl);
+    if (linked) {
+        CopyValue(ctl, ctl->pLinked, ctl->pData);
+    }
 }
 
 bool ComparableValue(const HEditCtl* ctl, double* value)

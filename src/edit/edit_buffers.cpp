@@ -49,7 +49,9 @@ bool ResizeBuffers(HEditCtl* ctl, int size, const void* value)
         HBlockFree(text);
         return false;
     }
-    CopyText(data, static_cast<const char*>(value), size);
+    if (value) {
+        CopyText(data, static_cast<const char*>(value), size);
+    }
     text[size - 1] = 0;
     HBlockFree(ctl->pData);
     HBlockFree(ctl->pszText);
@@ -60,33 +62,36 @@ bool ResizeBuffers(HEditCtl* ctl, int size, const void* value)
     return true;
 }
 
+// A block that a failure has left missing is made here too.
 bool GrowText(HEditCtl* ctl, int size)
 {
-    if (size <= ctl->cbText) {
+    if (ctl->pszText && size <= ctl->cbText) {
         return true;
     }
-    char* const text = static_cast<char*>(Resized(ctl->pszText, ctl->cbText, size));
+    const int wanted = std::max(size, static_cast<int>(ctl->cbText));
+    char* const text = static_cast<char*>(Resized(ctl->pszText, ctl->cbText, wanted));
     if (!text) {
         return false;
     }
     HBlockFree(ctl->pszText);
     ctl->pszText = text;
-    ctl->cbText = size;
+    ctl->cbText = wanted;
     return true;
 }
 
 bool GrowData(HEditCtl* ctl, int size)
 {
-    if (size <= ctl->cbData) {
+    if (ctl->pData && size <= ctl->cbData) {
         return true;
     }
-    void* const data = Resized(ctl->pData, ctl->cbData, size);
+    const int wanted = std::max(size, static_cast<int>(ctl->cbData));
+    void* const data = Resized(ctl->pData, ctl->cbData, wanted);
     if (!data) {
         return false;
     }
     HBlockFree(ctl->pData);
     ctl->pData = data;
-    ctl->cbData = size;
+    ctl->cbData = wanted;
     return true;
 }
 

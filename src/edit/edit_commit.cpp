@@ -178,7 +178,8 @@ int CommitText(HEditCtl* ctl, const char* text)
     }
     if (!verdict.status) {
         SetFlag(ctl, HEF_DIRTY, false);
-        SetFlag(ctl, CF_NULL, isEmpty && HasFlag(ctl, CF_NULL));
+        // An old value that came back is null again if it was.
+        SetFlag(ctl, CF_NULL, (isEmpty || verdict.restore) && HasFlag(ctl, CF_NULL));
     }
     return verdict.status;
 }

@@ -78,6 +78,26 @@ struct FieldDC {
     HDC hdc() const { return window.hdc; }
 };
 
+// CF_UPDATING is set while one of these lives, by the messages that a subclass can see, and gets its old state back.
+struct UpdatingScope {
+    HWND hwnd;
+    bool was;
+    explicit UpdatingScope(HWND window);
+    ~UpdatingScope();
+    UpdatingScope(const UpdatingScope&) = delete;
+    UpdatingScope& operator=(const UpdatingScope&) = delete;
+};
+
+// The window doesn't repaint while one of these lives.
+struct RedrawScope {
+    HWND hwnd;
+    bool off;
+    explicit RedrawScope(HWND window);
+    ~RedrawScope();
+    RedrawScope(const RedrawScope&) = delete;
+    RedrawScope& operator=(const RedrawScope&) = delete;
+};
+
 // Window text and bounds (portable)
 const char* DefaultEditFormat(char dataClass, char dataType);
 bool        ReadWinText(HEditCtl* ctl, const char* text); // HEParseWinText but for the scroll range
@@ -100,7 +120,19 @@ int  LimitText(HEditCtl* ctl, int limit);
 void UndoTyping(HEditCtl* ctl);
 void ClearValue(HEditCtl* ctl);
 
+// Keyboard, mouse, clipboard
+LRESULT OnKeyDown(HEditCtl* ctl, const MsgArgs& args);
+LRESULT OnKeyUp(HEditCtl* ctl, const MsgArgs& args);
+LRESULT OnSysKeyDown(HEditCtl* ctl, const MsgArgs& args);
+LRESULT OnMouse(HEditCtl* ctl, const MsgArgs& args);
+LRESULT OnSetCursor(HEditCtl* ctl, const MsgArgs& args);
+LRESULT CutSelection(HEditCtl* ctl);
+LRESULT CopySelection(HEditCtl* ctl);
+LRESULT PasteText(HEditCtl* ctl);
+
 // Layout and painting
+// What typing repaints: from there to the end, or from the start to that many characters behind it.
+void InvalidateTyped(HEditCtl* ctl, int from, int count);
 void InvalidateRange(HEditCtl* ctl, int start, int end, bool erase);
 void RepaintFrame(HEditCtl* ctl);
 void RebuildCaret(HEditCtl* ctl); // where the window has one

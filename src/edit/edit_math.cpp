@@ -2,7 +2,17 @@
 #include "edit/edit_math.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
+
+namespace {
+
+bool IsSpace(char ch)
+{
+    return std::isspace(static_cast<unsigned char>(ch)) != 0;
+}
+
+} // namespace
 
 int ClampIndex(int index, int length)
 {
@@ -20,6 +30,30 @@ void RangeWithout(TextRange range, TextRange other, TextRange* before, TextRange
 {
     *before = { range.lo, std::min(range.hi, other.lo) };
     *behind = { std::max(range.lo, other.hi), range.hi };
+}
+
+int NextWord(const char* text, int from)
+{
+    int at = from;
+    while (text[at] && !IsSpace(text[at])) {
+        ++at;
+    }
+    while (text[at] && IsSpace(text[at])) {
+        ++at;
+    }
+    return at;
+}
+
+int PreviousWord(const char* text, int from)
+{
+    int at = from;
+    while (at > 0 && IsSpace(text[at - 1])) {
+        --at;
+    }
+    while (at > 0 && !IsSpace(text[at - 1])) {
+        --at;
+    }
+    return at;
 }
 
 int NearestCount(WidthOf widthOf, const void* context, int distance, int estimate, int count)

@@ -13,6 +13,10 @@ TextRange OrderedRange(int a, int b, int length);
 // Parts of a range that are outside another one: before it and behind it. Empty ones have lo >= hi.
 void RangeWithout(TextRange range, TextRange other, TextRange* before, TextRange* behind);
 
+// Starts of words: the next one behind a place, the end of the text without one, and the one before it, or 0.
+int NextWord(const char* text, int from);
+int PreviousWord(const char* text, int from);
+
 // Width of the first, or the last, count characters.
 using WidthOf = int (*)(const void* context, int count);
 // The count whose width comes nearest to distance, sought from an estimate; on a tie the count reached later.

@@ -208,6 +208,9 @@ void ClearValue(HEditCtl* ctl)
         return;
     }
     std::memset(ctl->pData, 0, static_cast<size_t>(ctl->cbData));
+    if (ctl->pLinked) {
+        CopyValue(ctl, ctl->pLinked, ctl->pData);
+    }
     const HWND hwnd = ctl->hWnd;
     SetSelection(ctl, 0, 0, -1);
     if (IsWindow(hwnd)) {

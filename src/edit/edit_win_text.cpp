@@ -114,6 +114,10 @@ void InstallText(HEditCtl* ctl, const char* text)
     if (ctl->pData) {
         _fstrnzcpy(static_cast<char*>(ctl->pData), text, ctl->cchMax + 1);
     }
+    // An initial text shows, also in a field that was null before.
+    if (*text) {
+        ctl->wFlags = static_cast<WORD>(ctl->wFlags & ~CF_NULL);
+    }
 }
 
 void InstallTyped(HEditCtl* ctl, const char* format)

@@ -69,6 +69,19 @@ LRESULT OnGetModify(HEditCtl* ctl, const MsgArgs& args)
     return CommitBeforeAsking(ctl) ? AskDefault(args) : 0;
 }
 
+LRESULT OnReplaceSel(HEditCtl* ctl, const MsgArgs& args)
+{
+    const char* const text = reinterpret_cast<const char*>(args.lParam);
+    ReplaceSelection(ctl, text ? text : "");
+    return 1;
+}
+
+LRESULT OnChar(HEditCtl* ctl, const MsgArgs& args)
+{
+    CharInput(ctl, static_cast<char>(args.wParam));
+    return IsWindow(args.hwnd) ? AskDefault(args) : 0;
+}
+
 LRESULT Done(void (*step)(HEditCtl*), HEditCtl* ctl)
 {
     step(ctl);
@@ -88,7 +101,11 @@ LRESULT OnEditMessage(HEditCtl* ctl, const MsgArgs& args)
     case EM_CANUNDO:     return 1;
     case EM_UNDO:
     case WM_UNDO:        return Done(UndoTyping, ctl);
+    case EM_REPLACESEL:  return OnReplaceSel(ctl, args);
     case WM_CLEAR:       return Done(ClearValue, ctl);
+    case WM_CUT:         return CutSelection(ctl);
+    case WM_COPY:        return CopySelection(ctl);
+    case WM_PASTE:       return PasteText(ctl);
     case WM_SETTEXT:     return SetText(ctl, reinterpret_cast<const char*>(args.lParam));
     case WM_GETTEXT:     return OnGetText(ctl, args);
     case WM_GETTEXTLENGTH: return TextLength(ctl);
@@ -114,6 +131,22 @@ LRESULT OnWindowMessage(HEditCtl* ctl, const MsgArgs& args)
     }
 }
 
+LRESULT OnInput(HEditCtl* ctl, const MsgArgs& args)
+{
+    switch (args.message) {
+    case WM_KEYDOWN:     return OnKeyDown(ctl, args);
+    case WM_KEYUP:       return OnKeyUp(ctl, args);
+    case WM_SYSKEYDOWN:  return OnSysKeyDown(ctl, args);
+    case WM_CHAR:        return OnChar(ctl, args);
+    case WM_SETCURSOR:   return OnSetCursor(ctl, args);
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+    case WM_MOUSEMOVE:   return OnMouse(ctl, args);
+    default:             return OnWindowMessage(ctl, args);
+    }
+}
+
 } // namespace
 
 LRESULT CALLBACK HEditMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record)
@@ -133,7 +166,7 @@ LRESULT CALLBACK HEditMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
     if (const EditHandler handler = FindEditHandler(message)) {
         return handler(ctl, args);
     }
-    return OnWindowMessage(ctl, args);
+    return OnInput(ctl, args);
 }
 
 LRESULT CALLBACK HEditWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)

@@ -67,6 +67,19 @@ TEST(GrowData, KeepsTheValueOnFailure)
     EXPECT_EQ(3, +edit.ctl.cbData);
 }
 
+TEST(GrowData, MakesABlockThatAFailureLeftMissing)
+{
+    EditRecord edit("%nl");
+    // The copy of the window text, the text, the value.
+    FailAllocation(3);
+    ASSERT_FALSE(ReadWinText(&edit.ctl, "%ms####"));
+    FailAllocation(0);
+    ASSERT_EQ(nullptr, +edit.ctl.pData);
+    EXPECT_TRUE(GrowData(&edit.ctl, 2));
+    EXPECT_EQ(5, +edit.ctl.cbData);
+    EXPECT_EQ("", edit.Text());
+}
+
 TEST(CopyValue, CopiesTheBytesOfAFixedType)
 {
     EditRecord edit("%nl");

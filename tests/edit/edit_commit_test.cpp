@@ -146,6 +146,17 @@ TEST_F(EditCommit, FailureOnANullValueRestoresIt)
     EXPECT_TRUE(HasFlag(Ctl(), CF_NULL));
 }
 
+TEST_F(EditCommit, VetoOfBadInputLeavesANullValueNull)
+{
+    Create("%dl");
+    Send(HEM_SETDATA, 0, 0);
+    Veto(HEN_BADINPUT);
+    Replace(DateText(31, 4, 2024).c_str());
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_TRUE(HasFlag(Ctl(), CF_NULL));
+    EXPECT_FALSE(HasFlag(Ctl(), HEF_DIRTY));
+}
+
 TEST_F(EditCommit, NumberAboveTheMaximumMovesToIt)
 {
     Create("%nl|0;100;|");
@@ -377,6 +388,39 @@ TEST_F(EditCommit, HostMayChangeTheTypeInANotification)
     Replace("500");
     Send(HEM_COMMIT, 1, 1);
     EXPECT_EQ('s', Send(HEM_GETCLASS));
+}
+
+constexpr Seen vetoedInput[] = {
+    { 0, ToControl, HEM_COMMIT, 1, 0 },
+    { 1, ToParent, HEN_BADINPUT, 7 },
+    { 2, ToControl, WWM_CANCEL },
+};
+
+TEST_F(EditCommit, VetoComesBackFromInsideTheNotification)
+{
+    Create("%dl");
+    Veto(HEN_BADINPUT);
+    Replace(DateText(31, 4, 2024).c_str());
+    seen.Watch(edit);
+    Send(HEM_COMMIT, 1, 0);
+    EXPECT_SEEN(vetoedInput);
+}
+
+constexpr Seen leavingBadNumber[] = {
+    { 0, ToControl, WM_KILLFOCUS },
+    { 1, ToParent, HEN_ABOVEMAX, 7 },
+    { 1, ToParent, HEN_KILLFOCUS, 7 },
+};
+
+TEST_F(EditCommit, BoundsAreToldBeforeTheLossOfTheFocus)
+{
+    Create("%nl|0;100;|");
+    Focus();
+    Replace("150");
+    seen.Clear();
+    seen.Watch(edit);
+    Blur();
+    EXPECT_SEEN(leavingBadNumber);
 }
 
 TEST_F(EditCommit, FocusShowsTheEditFormAndSelectsAll)

@@ -77,6 +77,24 @@ TEST(RangeWithout, LeavesExactlyWhatTheOtherRangeDoesNotHold)
     }
 }
 
+TEST(NextWord, SkipsTheRestOfTheWordThenTheBlanks)
+{
+    EXPECT_EQ(4, NextWord("one two", 0));
+    EXPECT_EQ(4, NextWord("one two", 3)) << "from the blank";
+    EXPECT_EQ(7, NextWord("one two", 4)) << "the end";
+    EXPECT_EQ(6, NextWord("one\t  two", 1));
+    EXPECT_EQ(0, NextWord("", 0));
+}
+
+TEST(PreviousWord, StepsOverTheBlanksThenTheWord)
+{
+    EXPECT_EQ(4, PreviousWord("one two", 7));
+    EXPECT_EQ(4, PreviousWord("one two", 5));
+    EXPECT_EQ(0, PreviousWord("one two", 4));
+    EXPECT_EQ(0, PreviousWord("   ", 2));
+    EXPECT_EQ(0, PreviousWord("", 0));
+}
+
 TEST(NearestCount, TakesTheCountWhoseWidthIsNearer)
 {
     EXPECT_EQ(2, NearestCount(FixedWidth, nullptr, 2 * charWidth + 3, 2, 10));

@@ -145,6 +145,36 @@ TEST_F(EditValue, LinkedBufferIsTheMasterWhenTheTextIsRebuilt)
     EXPECT_EQ(12, Number());
 }
 
+TEST_F(EditValue, LinkedBufferIsHeldWithinBounds)
+{
+    Create("%nl");
+    int linked = 50;
+    Send(HEM_LINKDATA, 1, AsParam(&linked));
+    const int most = 10;
+    Send(HEM_SETMAX, 0, AsParam(&most));
+    EXPECT_EQ(10, linked);
+    EXPECT_EQ("10", Text());
+}
+
+TEST_F(EditValue, LinkedBufferIsClearedWithTheValue)
+{
+    Create("%nl");
+    int linked = 50;
+    Send(HEM_LINKDATA, 1, AsParam(&linked));
+    Send(WM_CLEAR);
+    EXPECT_EQ(0, linked);
+    EXPECT_EQ("0", Text());
+}
+
+TEST_F(EditValue, InitialTextOfANewWindowTextShowsInANullField)
+{
+    Create("%dd");
+    Send(HEM_SETDATA, 0, 0);
+    SendText(WM_SETTEXT, 0, "%ss20abc");
+    EXPECT_EQ("abc", Text());
+    EXPECT_EQ(0, Send(WWM_ISNULL));
+}
+
 TEST_F(EditValue, LinkedTextIsCutToTheField)
 {
     Create("abc");

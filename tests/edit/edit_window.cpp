@@ -3,11 +3,6 @@
 
 #include <cstdio>
 
-EditWindow::EditWindow()
-{
-    seen.NotificationsOnly();
-}
-
 EditWindow::~EditWindow()
 {
     SetOverwriteMode(0);
@@ -101,7 +96,9 @@ EditWindow::Codes EditWindow::Told()
 {
     Codes codes;
     for (const Seen& line : seen.All()) {
-        codes.push_back(static_cast<int>(line.code));
+        if (line.direction == ToParent) {
+            codes.push_back(static_cast<int>(line.code));
+        }
     }
     seen.Clear();
     return codes;

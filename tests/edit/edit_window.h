@@ -11,7 +11,6 @@ class EditWindow : public WindowTest {
 protected:
     using Codes = std::vector<int>;
 
-    EditWindow();
     ~EditWindow() override;
 
     // Makes a visible field at 10, 10 of the parent with the id 7. The first one, or the first after edit was set to

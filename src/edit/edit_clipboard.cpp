@@ -1,0 +1,82 @@
+// Cut, copy and paste of an edit control.
+#include "edit/edit_internal.h"
+#include "foundation/memory.h"
+
+namespace {
+
+LRESULT Refuse()
+{
+    MessageBeep(0);
+    return 0;
+}
+
+// The clipboard owns the block once it has it.
+void GiveToClipboard(const char* text, int count)
+{
+    const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, static_cast<size_t>(count) + 1);
+    void* const   bytes = block ? GlobalLock(block) : nullptr;
+    if (!bytes) {
+        return;
+    }
+    std::memcpy(bytes, text, static_cast<size_t>(count));
+    GlobalUnlock(block);
+    EmptyClipboard();
+    if (!SetClipboardData(CF_TEXT, block)) {
+        GlobalFree(block);
+    }
+}
+
+void CopyRange(HEditCtl* ctl, TextRange range)
+{
+    if (range.lo < range.hi && OpenClipboard(ctl->hWnd)) {
+        GiveToClipboard(FieldText(ctl) + range.lo, range.hi - range.lo);
+        CloseClipboard();
+    }
+}
+
+// A copy of the clipboard's text, since its own is gone once the clipboard is closed.
+char* TextOfClipboard(HWND hwnd)
+{
+    if (!IsClipboardFormatAvailable(CF_TEXT) || !OpenClipboard(hwnd)) {
+        return nullptr;
+    }
+    const HANDLE      block = GetClipboardData(CF_TEXT);
+    const char* const bytes = block ? static_cast<const char*>(GlobalLock(block)) : nullptr;
+    char* const       text = hstrdup(bytes);
+    if (bytes) {
+        GlobalUnlock(block);
+    }
+    CloseClipboard();
+    return text;
+}
+
+} // namespace
+
+LRESULT CutSelection(HEditCtl* ctl)
+{
+    if (HasStyle(ctl, HES_READONLY | HES_PASSWORD)) {
+        return Refuse();
+    }
+    CopyRange(ctl, SelectionOf(ctl));
+    DeleteSelection(ctl, HasStyle(ctl, HES_CLEARALL));
+    return 1;
+}
+
+LRESULT CopySelection(HEditCtl* ctl)
+{
+    if (HasStyle(ctl, HES_PASSWORD)) {
+        return Refuse();
+    }
+    CopyRange(ctl, SelectionOf(ctl));
+    return 1;
+}
+
+LRESULT PasteText(HEditCtl* ctl)
+{
+    char* const text = HasStyle(ctl, HES_READONLY) ? nullptr : TextOfClipboard(ctl->hWnd);
+    if (text) {
+        ReplaceSelection(ctl, text);
+        HBlockFree(text);
+    }
+    return 1;
+}

@@ -1,0 +1,148 @@
+// Deleting in an edit control: each character goes by the rule of the field's class.
+#include "edit/edit_internal.h"
+#include "typed/data_types.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int roomForDelete = 8; // characters that a delete step may put in
+
+void PlaceAt(HEditCtl* ctl, int index)
+{
+    SetSelection(ctl, 0, index, index);
+}
+
+// false: the window went.
+bool TellChanged(HEditCtl* ctl)
+{
+    SetFlag(ctl, HEF_DIRTY, true);
+    return Tell(ctl, HEN_CHANGE) != Told::Gone;
+}
+
+void EmptyText(HEditCtl* ctl)
+{
+    std::memset(ctl->pszText, 0, static_cast<size_t>(ctl->cbText));
+    SetFlag(ctl, CF_NULL, true);
+}
+
+// false: the window went.
+bool DeleteEach(HEditCtl* ctl, int count)
+{
+    const HWND hwnd = ctl->hWnd;
+    for (int i = 0; i < count; ++i) {
+        DeleteChar(ctl, true);
+        if (!IsWindow(hwnd)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Empties the selection, all at once or by the rule of the class. false: the window went.
+bool EmptySelection(HEditCtl* ctl, TextRange selection, bool clearAll)
+{
+    const HWND hwnd = ctl->hWnd;
+    const bool all = selection.lo == 0 && selection.hi == TextLength(ctl);
+    PlaceAt(ctl, selection.lo);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    if (clearAll && all) {
+        EmptyText(ctl);
+    } else if (!DeleteEach(ctl, selection.hi - selection.lo)) {
+        return false;
+    }
+    if (ctl->cClass != 'z') {
+        PlaceAt(ctl, selection.lo);
+    }
+    return IsWindow(hwnd);
+}
+
+} // namespace
+
+UpdatingScope::UpdatingScope(HWND window) : hwnd(window), was(SendMessageA(window, WWM_GETUPDATING, 0, 0) != 0)
+{
+    SendMessageA(hwnd, WWM_SETUPDATING, 1, 0);
+}
+
+UpdatingScope::~UpdatingScope()
+{
+    if (IsWindow(hwnd)) {
+        SendMessageA(hwnd, WWM_SETUPDATING, was, 0);
+    }
+}
+
+// Switching repainting on makes a window visible, so a hidden one, or one that doesn't repaint already, is left alone.
+RedrawScope::RedrawScope(HWND window) : hwnd(window), off((GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE) != 0)
+{
+    if (off) {
+        SendMessageA(hwnd, WM_SETREDRAW, FALSE, 0);
+    }
+}
+
+RedrawScope::~RedrawScope()
+{
+    if (off && IsWindow(hwnd)) {
+        SendMessageA(hwnd, WM_SETREDRAW, TRUE, 0);
+    }
+}
+
+void InvalidateTyped(HEditCtl* ctl, int from, int count)
+{
+    RECT rect = ctl->rcText;
+    if (HasFlag(ctl, HEF_RIGHT)) {
+        rect.right = CaretX(ctl, from + count);
+    } else {
+        rect.left = CaretX(ctl, from);
+    }
+    InvalidateRect(ctl->hWnd, &rect, TRUE);
+}
+
+void DeleteChar(HEditCtl* ctl, bool stepForward)
+{
+    const TextRange selection = SelectionOf(ctl);
+    if (selection.lo != selection.hi) {
+        DeleteSelection(ctl, HasStyle(ctl, HES_CLEARALL));
+        return;
+    }
+    if (!ctl->pszText || !GrowText(ctl, TextLength(ctl) + roomForDelete)) {
+        return;
+    }
+    const HWND hwnd = ctl->hWnd;
+    const int  step = DataCharDelete(ctl->cClass, ctl->cType, ctl->pszText, ctl->pszFormat, selection.lo);
+    if (Tell(ctl, HEN_UPDATE) == Told::Gone) {
+        return;
+    }
+    const int anchor = std::min(static_cast<int>(ctl->nAnchor), TextLength(ctl));
+    UpdateScrollRange(ctl);
+    InvalidateTyped(ctl, anchor, 1);
+    PlaceAt(ctl, anchor + (stepForward ? step : 0));
+    if (IsWindow(hwnd)) {
+        TellChanged(ctl);
+    }
+}
+
+void DeleteSelection(HEditCtl* ctl, bool clearAll)
+{
+    const TextRange selection = SelectionOf(ctl);
+    if (selection.lo == selection.hi || !ctl->pszText) {
+        return;
+    }
+    const HWND hwnd = ctl->hWnd;
+    {
+        const RedrawScope noRedraw(hwnd);
+        {
+            const UpdatingScope updating(hwnd);
+            if (!EmptySelection(ctl, selection, clearAll)) {
+                return;
+            }
+        }
+        if (Tell(ctl, HEN_UPDATE) == Told::Gone) {
+            return;
+        }
+    }
+    UpdateScrollRange(ctl);
+    InvalidateRect(hwnd, nullptr, TRUE);
+    TellChanged(ctl);
+}
