@@ -54,6 +54,26 @@ bool IsKeyForGrid(UINT vk, int kind)
     return false;
 }
 
+// A host may destroy a control that it got from the grid: neither column nor grid refers to its record then.
+// The columns are met by their links, since the list may be about to drop one.
+void ForgetControl(const ControlHeader* child)
+{
+    HGridCtl* const grid = HGFromWindow(child->hParent);
+    HLList* const   fields = grid && grid->pData ? grid->pData->pFields : nullptr;
+    void*           node = fields ? fields->pHead : nullptr;
+    for (int i = 0; i < HLListCount(fields); ++i) {
+        HGField* const field = HGNodeField(node);
+        if (field->pCtl == child) {
+            field->pCtl = nullptr;
+        }
+        node = HNodeLink(node);
+    }
+    if (grid && grid->hEditor == child->hWnd) {
+        grid->hEditor = nullptr;
+        SetFlag(grid, HGC_EDITORSHOWN | HGC_INEDIT, false);
+    }
+}
+
 } // namespace
 
 bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
@@ -100,6 +120,9 @@ LRESULT CALLBACK HGEditCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
     }
     const ControlHeader* const record =
         reinterpret_cast<const ControlHeader*>(HEditWnd(hwnd, WWM_GETSTATE, 0, 0));
+    if (record && message == WM_NCDESTROY) {
+        ForgetControl(record);
+    }
     LRESULT result = 0;
     if (record && HGCellForward(cellCodeEdit, record->hParent, message, wParam, lParam, &result)) {
         return result;

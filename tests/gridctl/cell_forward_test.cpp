@@ -16,6 +16,7 @@ protected:
         keys[VK_CONTROL] = static_cast<BYTE>(down ? 0x80 : 0);
         SetKeyboardState(keys);
     }
+    HWND Child(int col) { return reinterpret_cast<HWND>(Send(grid, HGM_GETFIELDCHILD, static_cast<WPARAM>(col))); }
     bool Forwards(int kind, UINT vk)
     {
         LRESULT result = 0;
@@ -106,6 +107,43 @@ TEST_F(CellForward, OtherMessagesStayWithTheControl)
     const HWND child = reinterpret_cast<HWND>(Send(grid, HGM_GETFIELDCHILD, 0));
     SendPtr(child, HEM_SETDATA, 0, "inside");
     EXPECT_EQ("inside", TextOf(child));
+}
+
+TEST_F(CellForward, AControlThatTheHostDestroysLeavesNoLinkInItsColumn)
+{
+    const HWND other = Child(1);
+    DestroyWindow(Child(0));
+    EXPECT_EQ(nullptr, HGGetField(ctl->pData, 0)->pCtl);
+    EXPECT_EQ(nullptr, Child(0));
+    EXPECT_EQ(other, Child(1));
+    InvalidateRect(grid, nullptr, TRUE);
+    UpdateWindow(grid);
+    EXPECT_EQ(1, Send(grid, HGM_DELETEFIELD, 0));
+    EXPECT_EQ(other, Child(0));
+}
+
+TEST_F(CellForward, AnEditorThatTheHostDestroysEndsTheEdit)
+{
+    MoveTo(0, 0);
+    const HWND editor = Child(0);
+    ASSERT_EQ(editor, ctl->hEditor);
+    SetFocus(editor);
+    ASSERT_TRUE(ctl->wFlags & HGC_INEDIT);
+    DestroyWindow(editor);
+    EXPECT_EQ(nullptr, ctl->hEditor);
+    EXPECT_EQ(0, ctl->wFlags & (HGC_INEDIT | HGC_EDITORSHOWN));
+    MoveTo(1, 2);
+    EXPECT_EQ((Cell{ 1, 2 }), Current());
+    EXPECT_EQ(Child(1), ctl->hEditor);
+}
+
+TEST_F(CellForward, AControlThatIsNotTheEditorsLeavesTheEditAlone)
+{
+    MoveTo(0, 0);
+    SetFocus(Child(0));
+    DestroyWindow(Child(1));
+    EXPECT_EQ(Child(0), ctl->hEditor);
+    EXPECT_TRUE(ctl->wFlags & HGC_INEDIT);
 }
 
 } // namespace
