@@ -2,6 +2,9 @@
 #include "support/pixels.h"
 #include "support/window_test.h"
 
+#include <cstdio>
+#include <fstream>
+
 namespace {
 
 // Two columns, a text and a number, and three blank rows.
@@ -139,6 +142,40 @@ TEST_F(DllGrid, ServesClassesOfTheHost)
         UnregisterClassA(names[i], GetModuleHandleA(nullptr));
     }
     EXPECT_EQ(0, HGridWnd(nullptr, WM_USER, 0, 0)) << "no window";
+}
+
+// A definition file of the bytes of this program's resource TESTGRID, for as long as a test runs.
+class ResourceInAFile {
+public:
+    ResourceInAFile()
+    {
+        const HRSRC found = FindResourceA(nullptr, "TESTGRID", MAKEINTRESOURCEA(300));
+        std::ofstream(name, std::ios::binary)
+            .write(static_cast<const char*>(LockResource(LoadResource(nullptr, found))),
+                   static_cast<std::streamsize>(SizeofResource(nullptr, found)));
+    }
+    ~ResourceInAFile() { std::remove(name); }
+
+    static constexpr char name[] = "dllgrid.GRS";
+};
+
+TEST_F(DllGrid, ATitleThatNamesAResourceOfTheCreatorGivesTheGridOfTheSameFile)
+{
+    const ResourceInAFile file;
+    const HWND            fromResource = Create("HGrid", "TESTGRID");
+    const HWND            fromFile = Create("HGrid", "dllgrid");
+    HGridData* const      data = RecordOf<HGridCtl>(fromResource)->pData;
+    EXPECT_EQ(2, Send(fromResource, HGM_GETCOLCOUNT));
+    EXPECT_STREQ("Orders", data->pszTitle);
+    EXPECT_EQ(0, HGridChanged(data, RecordOf<HGridCtl>(fromFile)->pData));
+}
+
+TEST_F(DllGrid, AResourceOfAnotherModuleIsNotTheCreators)
+{
+    const HWND other = CreateWindowExA(0, "HGrid", "TESTGRID", WS_CHILD, 0, 0, 100, 100, parent.hwnd(), nullptr,
+                                       GetModuleHandleA("widgets.dll"), nullptr);
+    ASSERT_NE(nullptr, other);
+    EXPECT_EQ(0, Send(other, HGM_GETCOLCOUNT));
 }
 
 } // namespace
