@@ -152,6 +152,9 @@ int HGCreateCellCtl(HGridCtl* ctl, HGridData*, HGField* field)
         return 0;
     }
     field->pCtl->hParent = ctl->hWnd;
-    SubclassWW(child, kind.wrap);
+    // Bounded: Windows would call a null procedure before a host can put its own there.
+    if (kind.wrap) {
+        SubclassWW(child, kind.wrap);
+    }
     return 1;
 }

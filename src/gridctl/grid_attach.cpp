@@ -32,10 +32,10 @@ void ReplaceData(HGridCtl* ctl, HGridData* data)
     }
 }
 
-void FixSizes(HGridCtl* ctl)
+void FixSizes(HGridCtl* ctl, bool isNew)
 {
     HGridData* const data = ctl->pData;
-    if (UsesDialogUnits(data)) {
+    if (isNew && UsesDialogUnits(data)) {
         HGridScale(data, reinterpret_cast<HFONT>(static_cast<INT_PTR>(-1)), nullptr);
     }
     data->cFixedCols = static_cast<short>(std::min<int>(data->cFixedCols, HGColCount(data)));
@@ -129,9 +129,10 @@ int HGAttachData(HGridCtl* ctl, HGridData* data)
     if (!ctl || !data || !data->pFields || !data->pRows) {
         return 0;
     }
+    const bool isNew = data != ctl->pData;
     ReplaceData(ctl, data);
     DefWindowProcA(ctl->hWnd, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(data->pszTitle));
-    FixSizes(ctl);
+    FixSizes(ctl, isNew);
     MakeCellControls(ctl);
     EnableWindow(ctl->hParent, !HasStyle(ctl, WS_POPUP));
     SetFirstCell(ctl);

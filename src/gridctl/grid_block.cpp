@@ -6,8 +6,6 @@
 
 namespace {
 
-// A bit of wFlags of our own: rows are being fetched. The source may call back, but doesn't start another fetch.
-constexpr WORD fetching = 0x0200;
 // So often a source may change the grid while it is asked for a record before it isn't asked again.
 constexpr int mostDisturbances = 16;
 
@@ -270,14 +268,14 @@ bool EndBlock(HGridCtl* ctl)
 bool FetchRows(HGridCtl* ctl, int missing, bool atFront)
 {
     const HWND hwnd = ctl->hWnd;
-    SetFlag(ctl, fetching, true);
+    SetFlag(ctl, HGC_FETCHING, true);
     const Fetched fetched = atFront ? FillFront(ctl, missing) : FillBehind(ctl);
     bool alive = IsWindow(hwnd) != 0;
     if (alive && !atFront && fetched == Fetched::Nothing) {
         alive = EndBlock(ctl);
     }
     if (alive) {
-        SetFlag(ctl, fetching, false);
+        SetFlag(ctl, HGC_FETCHING, false);
     }
     return alive;
 }
@@ -365,7 +363,7 @@ int HGFillBlock(HGridCtl* ctl, bool atFront)
     const int held = std::clamp<int>(ctl->cHeldRows, 0, rowLimit);
     const int missing = held - before;
     ctl->cHeldRows = static_cast<short>(held);
-    if (missing > 0 && HasFlag(ctl, fetching)) {
+    if (missing > 0 && HasFlag(ctl, HGC_FETCHING)) {
         return 0;
     }
     if (missing != 0 && !(missing < 0 ? DropRows(ctl, -missing, atFront) : FetchRows(ctl, missing, atFront))) {
@@ -378,7 +376,7 @@ int HGFillBlock(HGridCtl* ctl, bool atFront)
 void HGShiftBlock(HGridCtl* ctl, LONG record)
 {
     const LONG base = std::max<LONG>(record, 0);
-    if (base == ctl->lRowBase || HasFlag(ctl, fetching)) {
+    if (base == ctl->lRowBase || HasFlag(ctl, HGC_FETCHING)) {
         return;
     }
     const LONG current = KeptRecord(ctl, CurrentCell(ctl).row);

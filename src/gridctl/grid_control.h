@@ -15,6 +15,10 @@
 static_assert(sizeof(void*) != 4 || (sizeof(HGridCtl) == 126 && offsetof(HGridCtl, hBkBrush) == 18 &&
                                      offsetof(HGridCtl, pData) == 52));
 
+// A bit of wFlags that hosts neither see nor set: rows are being fetched. The source may call back meanwhile, but
+// starts no other fetch.
+constexpr WORD HGC_FETCHING = 0x0200;
+
 // A cell: -1 names a header, or the whole row or column in a move.
 struct Cell {
     int col;
@@ -183,6 +187,10 @@ extern int gSizeZone;  // what the mouse is over: 0 nothing, see the size zones
 extern int gGuideLine; // where the guide line stands, as x or y
 
 // Editing
+bool HGIsEditable(HGridCtl* ctl, int col); // false for a column that doesn't exist
+void HGTakeEditor(HGridCtl* ctl);          // gives the current cell its column's control, loaded but not shown
+bool HGBeginColumnChange(HGridCtl* ctl, bool* shown); // false if the window went; shown is for the end
+void HGEndColumnChange(HGridCtl* ctl, bool shown);
 int  HGReadEditor(HGridCtl* ctl);
 int  HGShowEditor(HGridCtl* ctl);
 int  HGHideEditor(HGridCtl* ctl);

@@ -34,7 +34,7 @@ using BandAbove = int (*)(const HGridCtl* ctl, int y, int band);
 
 int RowAbove(const HGridCtl* ctl)
 {
-    return HasStyle(ctl, HGS_COLHEADERS) || ctl->lRowBase != 0 ? -1 : 0;
+    return HasStyle(ctl, HGS_COLHEADERS) || ctl->lRowBase != 0 || HGRowCount(ctl->pData) == 0 ? -1 : 0;
 }
 
 void HitRow(HGridCtl* ctl, const RECT& data, int y, Cell* cell, int* band, BandAbove bandAbove)

@@ -117,7 +117,7 @@ LRESULT OnGetHeaderHeight(HGridCtl* ctl, const MsgArgs&)
 
 LRESULT OnSetHeaderHeight(HGridCtl* ctl, const MsgArgs& args)
 {
-    ctl->pData->nHdrHeight = static_cast<short>(std::max(static_cast<int>(args.wParam), 0));
+    ctl->pData->nHdrHeight = std::max<short>(static_cast<short>(args.wParam), 0);
     return RefreshIfAsked(ctl, args);
 }
 
@@ -128,7 +128,7 @@ LRESULT OnGetRowHdrWidth(HGridCtl* ctl, const MsgArgs&)
 
 LRESULT OnSetRowHdrWidth(HGridCtl* ctl, const MsgArgs& args)
 {
-    ctl->pData->nHdrWidth = static_cast<short>(std::max(static_cast<int>(args.wParam), 0));
+    ctl->pData->nHdrWidth = std::max<short>(static_cast<short>(args.wParam), 0);
     return RefreshIfAsked(ctl, args);
 }
 

@@ -37,7 +37,8 @@ LPARAM TopLeft(const GridPaint& paint)
 
 void FindLastCell(GridPaint& paint, int band)
 {
-    HGHitCell(paint.ctl, PackPoint(paint.invalid.right - 1, paint.invalid.bottom), &paint.last, &band);
+    // A hit takes the first pixel of a column for the one before, so it is sought one pixel on.
+    HGHitCell(paint.ctl, PackPoint(paint.invalid.right, paint.invalid.bottom), &paint.last, &band);
 }
 
 void FindCorners(GridPaint& paint)
@@ -155,7 +156,9 @@ bool DrawZone(const GridPaint& paint, int band, bool fixed, bool header)
         for (ColumnWalk walk = columns; walk.Next();) {
             HGDrawCell(paint.ctl, paint.hdc, walk.col, -1);
         }
-        if (!fixed) {
+        if (fixed) {
+            HGDrawFixedHeaderRest(paint.ctl, paint.hdc, band);
+        } else {
             HGDrawColumnHeaderRest(paint.ctl, paint.hdc, band);
         }
     }

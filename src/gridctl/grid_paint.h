@@ -27,6 +27,7 @@ void HGDrawColumnHeader(HGridCtl* ctl, HDC hdc, RECT rect, int col);
 void HGDrawRowHeader(HGridCtl* ctl, HDC hdc, RECT rect, int row);
 // What is left of the header strips behind the last column of a band and the row lastRow.
 void HGDrawColumnHeaderRest(HGridCtl* ctl, HDC hdc, int band);
+void HGDrawFixedHeaderRest(HGridCtl* ctl, HDC hdc, int band);
 void HGDrawRowHeaderRest(HGridCtl* ctl, HDC hdc, int lastRow);
 
 // The selection as it stands, over cells that were just painted.

@@ -67,7 +67,7 @@ HBRUSH StripeBrush(const HGridCtl* ctl)
 
 bool IsStripe(const HGridCtl* ctl, int row)
 {
-    return HasStyle(ctl, HGS_STRIPED) && ((ctl->lRowBase + row - 1) & 1) == 0;
+    return HasStyle(ctl, HGS_STRIPED) && (RecordOfRow(ctl, row) & 1) != 0;
 }
 
 // Under HGS_FACEBACK or HGS_STRIPED.

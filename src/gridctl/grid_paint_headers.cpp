@@ -76,7 +76,7 @@ void WriteRowCaption(const HGridCtl* ctl, int row, char* buffer)
         _fstrnzcpy(buffer, "*", captionSize);
         return;
     }
-    wsprintfA(buffer, "%ld", ctl->lRowBase + row + 1);
+    wsprintfA(buffer, "%ld", RecordOfRow(ctl, row + 1));
 }
 
 int LastColumn(HGridCtl* ctl, int band)
@@ -135,15 +135,14 @@ void HGDrawRowHeader(HGridCtl* ctl, HDC hdc, RECT rect, int row)
     DrawHeader(ctl, hdc, rect, static_cast<WORD>(look.flags | DPB_LIBFACE), buffer, look.font);
 }
 
-void HGDrawColumnHeaderRest(HGridCtl* ctl, HDC hdc, int band)
+namespace {
+
+// A strip of column header without a caption.
+void DrawStrip(HGridCtl* ctl, HDC hdc, int band, LONG left, LONG right)
 {
-    const int height = ctl->pData->nHdrHeight;
-    RECT      rect{ 0, std::max(band, 0) * height, 0, 0 };
-    if (!FindRestLeft(ctl, band, &rect.left)) {
-        return;
-    }
-    rect.right = rect.left + restLength;
-    rect.bottom = rect.top + height;
+    const int  height = ctl->pData->nHdrHeight;
+    const int  top = std::max(band, 0) * height;
+    const RECT rect{ left, top, right, top + height };
     if (!RectVisible(hdc, &rect)) {
         return;
     }
@@ -154,6 +153,33 @@ void HGDrawColumnHeaderRest(HGridCtl* ctl, HDC hdc, int band)
     SetDCPenColor(hdc, GetSysColor(COLOR_BTNHIGHLIGHT));
     const POINT edge[] = { { rect.left, rect.bottom - 2 }, { rect.left, rect.top }, { rect.right - 1, rect.top } };
     Polyline(hdc, edge, static_cast<int>(std::size(edge)));
+}
+
+} // namespace
+
+void HGDrawColumnHeaderRest(HGridCtl* ctl, HDC hdc, int band)
+{
+    LONG left = 0;
+    if (FindRestLeft(ctl, band, &left)) {
+        DrawStrip(ctl, hdc, band, left, left + restLength);
+    }
+}
+
+// The scrolling zone begins behind the widest band's fixed columns: what a narrower one leaves free before it.
+void HGDrawFixedHeaderRest(HGridCtl* ctl, HDC hdc, int band)
+{
+    RECT zone;
+    HGScrollRect(ctl, &zone);
+    RECT       content;
+    HGContentRect(ctl, &content);
+    ColumnWalk columns{ ctl, band, -1, ctl->pData->cFixedCols - 1 };
+    LONG       end = content.left;
+    while (columns.Next()) {
+        end += HGGetField(ctl->pData, columns.col)->nWidth;
+    }
+    if (end < zone.left) {
+        DrawStrip(ctl, hdc, band, end, zone.left);
+    }
 }
 
 void HGDrawRowHeaderRest(HGridCtl* ctl, HDC hdc, int lastRow)

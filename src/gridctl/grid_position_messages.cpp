@@ -16,11 +16,6 @@ bool ScrollQuietly(HGridCtl* ctl, int dx, int dy)
     return IsWindow(hwnd) != 0;
 }
 
-LONG TopRecord(const HGridCtl* ctl)
-{
-    return ctl->nTopRow + ctl->lRowBase;
-}
-
 LONG HigherOf(const MsgArgs& args)
 {
     return std::max(static_cast<LONG>(args.wParam), static_cast<LONG>(args.lParam));
@@ -48,12 +43,13 @@ LRESULT OnSetFirstCol(HGridCtl* ctl, const MsgArgs& args)
 
 LRESULT OnGetTopRecord(HGridCtl* ctl, const MsgArgs&)
 {
-    return TopRecord(ctl);
+    return HGTopRecord(ctl);
 }
 
 LRESULT OnSetTopRecord(HGridCtl* ctl, const MsgArgs& args)
 {
-    return ScrollQuietly(ctl, 0, HigherOf(args) - TopRecord(ctl)) ? TopRecord(ctl) : 0;
+    const LONG rows = BoundRecord(static_cast<std::int64_t>(HigherOf(args)) - HGTopRecord(ctl));
+    return ScrollQuietly(ctl, 0, rows) ? HGTopRecord(ctl) : 0;
 }
 
 LRESULT OnGetAnchor(HGridCtl* ctl, const MsgArgs& args)
@@ -99,12 +95,12 @@ LRESULT OnSetProposed(HGridCtl* ctl, const MsgArgs& args)
 
 LRESULT OnGetFlags(HGridCtl* ctl, const MsgArgs&)
 {
-    return ctl->wFlags;
+    return ctl->wFlags & static_cast<WORD>(~HGC_FETCHING);
 }
 
 LRESULT OnSetFlags(HGridCtl* ctl, const MsgArgs& args)
 {
-    SetFlag(ctl, LOWORD(args.lParam), args.wParam != 0);
+    SetFlag(ctl, static_cast<WORD>(args.lParam & ~HGC_FETCHING), args.wParam != 0);
     return AskDefault(args);
 }
 
@@ -198,7 +194,7 @@ LRESULT OnKeyMessage(HGridCtl* ctl, const MsgArgs& args)
 
 LONG DistanceTo(const HGridCtl* ctl, LONG record)
 {
-    return record - CurrentCell(ctl).row - ctl->lRowBase;
+    return BoundRecord(static_cast<std::int64_t>(record) - RecordOfRow(ctl, CurrentCell(ctl).row));
 }
 
 LRESULT OnGotoRecord(HGridCtl* ctl, const MsgArgs& args)

@@ -40,6 +40,19 @@ TEST_F(GridAttach, AttachingTheSameRecordAgainKeepsIt)
     EXPECT_EQ(2, Send(grid, HGM_GETROWCOUNT));
 }
 
+TEST_F(GridAttach, SizesInDialogUnitsAreScaledOnce)
+{
+    HGridData* const data = GridOf({ Text() });
+    data->dwStyle2 = HGX_DLGUNITS;
+    MakeGrid(data);
+    const LRESULT width = Send(grid, HGM_GETROWHDRWIDTH);
+    const LRESULT height = Send(grid, HGM_GETHEADERHEIGHT);
+    EXPECT_GT(width, 40) << "units are wider than pixels";
+    SendPtr(grid, HGM_SETDATA, 1, data);
+    EXPECT_EQ(width, Send(grid, HGM_GETROWHDRWIDTH));
+    EXPECT_EQ(height, Send(grid, HGM_GETHEADERHEIGHT));
+}
+
 TEST_F(GridAttach, WindowTextFollowsTheTitle)
 {
     MakeGrid(GridOf({ Text() }));

@@ -74,6 +74,7 @@ TEST_F(GridHit, NoRowsAtAllGiveRowMinusOne)
     EXPECT_HIT(0, -1, 60, 100);
     ctl->pData->dwStyle = 0;
     EXPECT_HIT(0, -1, 30, 100);
+    EXPECT_HIT(0, -1, 30, -5);
 }
 
 TEST_F(GridHit, NoColumnsGiveTheHeaderOrColumnZero)

@@ -21,6 +21,13 @@ TEST_F(GridMessages, HeightsAndWidthsAreBounded)
     EXPECT_EQ(0, Send(grid, HGM_GETROWHDRWIDTH));
     Send(grid, HGM_SETROWHDRWIDTH, 55);
     EXPECT_EQ(55, Send(grid, HGM_GETROWHDRWIDTH));
+    // Sizes are numbers of 16 bits, so these two are negative as well.
+    for (const WPARAM size : { 65531, 40000 }) {
+        Send(grid, HGM_SETHEADERHEIGHT, size);
+        EXPECT_EQ(0, Send(grid, HGM_GETHEADERHEIGHT)) << size;
+        Send(grid, HGM_SETROWHDRWIDTH, size);
+        EXPECT_EQ(0, Send(grid, HGM_GETROWHDRWIDTH)) << size;
+    }
 }
 
 TEST_F(GridMessages, ResetSizesGoesBackToTheDefaults)

@@ -17,12 +17,20 @@ constexpr COLORREF white = RGB(255, 255, 255);
 // A system colour until the end of the scope, where the platform's own may equal another.
 class SystemColor {
 public:
-    SystemColor(int index, COLORREF color) : index_(index), old_(GetSysColor(index)) { SetSysColors(1, &index, &color); }
-    ~SystemColor() { SetSysColors(1, &index_, &old_); }
+    SystemColor(int index, COLORREF color) : index_(index), old_(GetSysColor(index)) { Set(color); }
+    ~SystemColor() { Set(old_); }
     SystemColor(const SystemColor&) = delete;
     SystemColor& operator=(const SystemColor&) = delete;
 
 private:
+    // Every window is told, the desktop's too, and that repaints: over before anything else is looked at.
+    void Set(COLORREF color)
+    {
+        SetSysColors(1, &index_, &color);
+        SendMessageA(GetDesktopWindow(), WM_NULL, 0, 0);
+        PumpPending();
+    }
+
     int      index_;
     COLORREF old_;
 };

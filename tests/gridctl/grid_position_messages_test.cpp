@@ -64,6 +64,17 @@ TEST_F(GridPosition, FlagsAreSetAndClearedByMask)
     EXPECT_EQ(HGC_SELECTING, Send(grid, HGM_GETFLAGS) & (HGC_SELECTING | HGC_RANGE));
 }
 
+TEST_F(GridPosition, FlagOfTheFetchUnderWayIsTheGridsOwn)
+{
+    MakeGrid(GridOf({ Text() }), 1);
+    Send(grid, HGM_SETFLAGS, 1, HGC_FETCHING);
+    EXPECT_FALSE(HasFlag(ctl, HGC_FETCHING));
+    SetFlag(ctl, HGC_FETCHING, true);
+    EXPECT_EQ(0, Send(grid, HGM_GETFLAGS) & HGC_FETCHING);
+    Send(grid, HGM_SETFLAGS, 0, 0xFFFF);
+    EXPECT_TRUE(HasFlag(ctl, HGC_FETCHING));
+}
+
 TEST_F(GridPosition, ScrollingOnTheOwnersBehalfIsQuiet)
 {
     MakeGrid(GridOf({ Text(), Text(), Text(), Text(), Text(), Text(), Text(), Text() }), 50);
