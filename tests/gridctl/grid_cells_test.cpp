@@ -2,6 +2,8 @@
 #include "gridctl/grid_window.h"
 
 #include <cstring>
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -239,7 +241,16 @@ struct SourceLog {
     int         updateAnswer = 1;
     int         appendAnswer = 1;
     std::string asked;
+    // Runs at the first fetch behind an append.
+    std::function<void()> onFetch;
 
+    int Fetch(int record)
+    {
+        if (onFetch && asked.find("append") != std::string::npos) {
+            std::exchange(onFetch, nullptr)();
+        }
+        return record < count;
+    }
     int Append()
     {
         count += appendAnswer;
@@ -251,7 +262,7 @@ SourceLog gSource;
 int CALLBACK Source(HWND, int operation, int record, void*)
 {
     switch (operation) {
-    case HGSRC_FETCH:  return record < gSource.count;
+    case HGSRC_FETCH:  return gSource.Fetch(record);
     case HGSRC_COUNT:  return gSource.count;
     case HGSRC_CELL:   gSource.asked += "cell" + std::to_string(record) + " "; return gSource.cellAnswer;
     case HGSRC_UPDATE: gSource.asked += "update" + std::to_string(record) + " "; return gSource.updateAnswer;
@@ -323,8 +334,36 @@ protected:
         return got;
     }
 
+    bool IsInvalidAt(int x, int y)
+    {
+        const HRGN region = CreateRectRgn(0, 0, 0, 0);
+        GetUpdateRgn(grid, region, FALSE);
+        const bool inside = PtInRegion(region, x, y) != 0;
+        DeleteObject(region);
+        return inside;
+    }
+
     int entry = -1;
 };
+
+TEST_F(EntryRecord, IsRepaintedAsAWholeBeforeTheRefresh)
+{
+    MakeEntry(3);
+    RECT cell;
+    HGCellRect(ctl, &cell, 1, entry, true);
+    const int row = (cell.top + cell.bottom) / 2;
+    UpdateWindow(grid);
+    ValidateRect(grid, nullptr);
+    bool entryRow = false;
+    bool rowAbove = true;
+    gSource.onFetch = [&] {
+        entryRow = IsInvalidAt(5, row) && IsInvalidAt(cell.left + 5, row);
+        rowAbove = IsInvalidAt(5, row - 20);
+    };
+    EXPECT_EQ(1, HGSetCellText(grid, 0, entry, "5"));
+    EXPECT_TRUE(entryRow);
+    EXPECT_FALSE(rowAbove);
+}
 
 TEST_F(EntryRecord, IsAppendedThroughTheSource)
 {
