@@ -2,6 +2,15 @@
 
 if(WIDGETS_CONFIG STREQUAL native-asan)
     add_test(NAME ${WIDGETS_CONFIG}.include_layers COMMAND ${PROJECT_SOURCE_DIR}/tools/check_layers.sh)
+    # Files that scripts have written are what the scripts write.
+    find_program(WIDGETS_PYTHON python3 REQUIRED)
+    add_test(NAME ${WIDGETS_CONFIG}.reference
+        COMMAND ${WIDGETS_PYTHON} tools/make_reference.py --check include/widgets/widgets.h docs/reference.md
+        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+    add_test(NAME ${WIDGETS_CONFIG}.demo_definition
+        COMMAND ${WIDGETS_PYTHON} tools/make_definition.py --check
+            examples/demo/birdstrikes.grs.txt examples/demo/birdstrikes.grs
+        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
 endif()
 
 # Exports are the .def's names, imports the documented libraries: read by objdump, so with binutils only.

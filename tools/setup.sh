@@ -4,7 +4,7 @@
 # wine.sh. Everything is looked for first, so that a second run calls no package manager.
 
 build_packages=(cmake ninja-build ccache g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
-test_packages=(googletest clang libclang-rt-14-dev llvm)
+test_packages=(googletest clang libclang-rt-14-dev llvm python3)
 wine_packages=(wine64 xvfb imagemagick fonts-liberation fonts-wine
     libxrender1 libxcursor1 libxi6 libxrandr2 libxfixes3 libxcomposite1 libxinerama1)
 native32_packages=(gcc-multilib lib32stdc++-12-dev)
