@@ -7,6 +7,9 @@ if(WIDGETS_CONFIG STREQUAL native-asan)
     add_test(NAME ${WIDGETS_CONFIG}.reference
         COMMAND ${WIDGETS_PYTHON} tools/make_reference.py --check include/widgets/widgets.h docs/reference.md
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+    add_test(NAME ${WIDGETS_CONFIG}.resources_from_pictures
+        COMMAND ${WIDGETS_PYTHON} tools/make_resources.py --check
+        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
     add_test(NAME ${WIDGETS_CONFIG}.demo_definition
         COMMAND ${WIDGETS_PYTHON} tools/make_definition.py --check
             examples/demo/birdstrikes.grs.txt examples/demo/birdstrikes.grs
