@@ -35,35 +35,53 @@ int AppendField(HGridData* data, HGField* field)
                                 : HGAddFld(data, field);
 }
 
-LRESULT OnAddField(HGridCtl* ctl, const MsgArgs& args)
+// The new column gets its control and goes to the end of its band. Its index.
+int PlaceNewField(HGridCtl* ctl, HGField* field, int index)
 {
-    HGField* const field = reinterpret_cast<HGField*>(args.lParam);
-    int index = field ? AppendField(ctl->pData, field) : -1;
-    if (index < 0) {
-        return -1;
-    }
     HGCreateCellCtl(ctl, ctl->pData, field);
     BoundBand(ctl, field);
     const int place = ctl->cBands > 1 ? FirstOfHigherBand(ctl, field->nBand) : -1;
-    if (place >= 0 && HGMoveFld(ctl->pData, index, place) >= 0) {
-        index = place;
+    return place >= 0 && HGMoveFld(ctl->pData, index, place) >= 0 ? place : index;
+}
+
+LRESULT OnAddField(HGridCtl* ctl, const MsgArgs& args)
+{
+    HGField* const field = reinterpret_cast<HGField*>(args.lParam);
+    bool shown = false;
+    // Without bands the column stands behind all others, and an edit may go on.
+    const bool mayMove = field && ctl->cBands > 1;
+    if (mayMove && !HGBeginColumnChange(ctl, &shown)) {
+        return -1;
     }
-    HGRecalc(ctl);
+    int index = field ? AppendField(ctl->pData, field) : -1;
+    if (index >= 0) {
+        index = PlaceNewField(ctl, field, index);
+    }
+    if (index >= 0) {
+        HGRecalc(ctl);
+    }
+    if (mayMove && IsWindow(args.hwnd)) {
+        HGEndColumnChange(ctl, shown);
+    }
     return index;
 }
 
 LRESULT OnInsertField(HGridCtl* ctl, const MsgArgs& args)
 {
     HGField* const field = reinterpret_cast<HGField*>(args.lParam);
-    const int index = field ? HGInsertFld(ctl->pData, field, static_cast<short>(ColOf(args))) : -1;
-    if (!field) {
+    bool shown = false;
+    if (!field || !HGBeginColumnChange(ctl, &shown)) {
         return -1;
     }
+    const int index = HGInsertFld(ctl->pData, field, static_cast<short>(ColOf(args)));
     if (index >= 0) {
         BoundBand(ctl, field);
         HGCreateCellCtl(ctl, ctl->pData, field);
     }
     HGRecalc(ctl);
+    if (IsWindow(args.hwnd)) {
+        HGEndColumnChange(ctl, shown);
+    }
     return index;
 }
 
@@ -72,16 +90,29 @@ LRESULT OnDeleteField(HGridCtl* ctl, const MsgArgs& args)
     if (!HGGetField(ctl->pData, ColOf(args))) {
         return 0;
     }
+    bool shown = false;
+    if (!HGBeginColumnChange(ctl, &shown)) {
+        return 1;
+    }
     HGRemoveFld(ctl, ColOf(args));
     if (IsWindow(args.hwnd)) {
         HGRefresh(ctl, true);
+    }
+    if (IsWindow(args.hwnd)) {
+        HGEndColumnChange(ctl, shown);
     }
     return 1;
 }
 
 LRESULT OnMoveField(HGridCtl* ctl, const MsgArgs& args)
 {
-    return static_cast<short>(HGMoveFld(ctl->pData, ColOf(args), static_cast<int>(args.lParam)));
+    bool shown = false;
+    if (!HGBeginColumnChange(ctl, &shown)) {
+        return -1;
+    }
+    const int moved = HGMoveFld(ctl->pData, ColOf(args), static_cast<int>(args.lParam));
+    HGEndColumnChange(ctl, shown);
+    return static_cast<short>(moved);
 }
 
 LRESULT OnFindField(HGridCtl* ctl, const MsgArgs& args)
@@ -124,12 +155,8 @@ int PositionOf(const int* order, int count, int col)
 
 // Columns come to their places from the left on, so that those already placed stay. Columns that the array doesn't
 // name, or names twice, keep the order in which they are met.
-LRESULT OnSetColOrder(HGridCtl* ctl, const MsgArgs& args)
+void OrderColumns(HGridCtl* ctl, const int* order)
 {
-    const int* const order = reinterpret_cast<const int*>(args.lParam);
-    if (!HasStyle(ctl, HGS_COLMAP) || !order) {
-        return 0;
-    }
     const int count = HGColCount(ctl->pData);
     for (int target = 0; target < count; ++target) {
         const int pos = PositionOf(order, count, target);
@@ -138,7 +165,23 @@ LRESULT OnSetColOrder(HGridCtl* ctl, const MsgArgs& args)
             HGMoveFld(ctl->pData, col, target);
         }
     }
+}
+
+LRESULT OnSetColOrder(HGridCtl* ctl, const MsgArgs& args)
+{
+    const int* const order = reinterpret_cast<const int*>(args.lParam);
+    if (!HasStyle(ctl, HGS_COLMAP) || !order) {
+        return 0;
+    }
+    bool shown = false;
+    if (!HGBeginColumnChange(ctl, &shown)) {
+        return 1;
+    }
+    OrderColumns(ctl, order);
     HGRefresh(ctl, true);
+    if (IsWindow(args.hwnd)) {
+        HGEndColumnChange(ctl, shown);
+    }
     return 1;
 }
 

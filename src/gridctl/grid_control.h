@@ -15,9 +15,10 @@
 static_assert(sizeof(void*) != 4 || (sizeof(HGridCtl) == 126 && offsetof(HGridCtl, hBkBrush) == 18 &&
                                      offsetof(HGridCtl, pData) == 52));
 
-// A bit of wFlags that hosts neither see nor set: rows are being fetched. The source may call back meanwhile, but
-// starts no other fetch.
-constexpr WORD HGC_FETCHING = 0x0200;
+// Bits of wFlags that hosts neither see nor set.
+constexpr WORD HGC_TELLING = 0x0100;  // a move tells of itself, and no other move of the grid has been made since
+constexpr WORD HGC_FETCHING = 0x0200; // rows are being fetched: the source may call back, but starts no other fetch
+constexpr WORD hiddenFlags = HGC_TELLING | HGC_FETCHING;
 
 // A cell: -1 names a header, or the whole row or column in a move.
 struct Cell {

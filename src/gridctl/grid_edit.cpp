@@ -45,6 +45,15 @@ HGField* CurrentField(HGridCtl* ctl)
     return HGGetField(ctl->pData, CurrentCell(ctl).col);
 }
 
+// The column whose value the editor holds. Bounded: while a move is told, and for a host that changes columns meanwhile,
+// the editor may be another column's than the current one. Its value is of another type and size: it is neither read
+// nor loaded then.
+HGField* EditedField(HGridCtl* ctl)
+{
+    HGField* const field = IsWindow(ctl->hEditor) ? CurrentField(ctl) : nullptr;
+    return field && field->pCtl && field->pCtl->hWnd == ctl->hEditor ? field : nullptr;
+}
+
 // A combo with an edit face shows the text of its code's item, as far as its first tab.
 LRESULT LoadCodeText(HWND editor, const void* code)
 {
@@ -77,9 +86,52 @@ bool ReadValue(HWND editor, const HGField* field, char* buffer)
 
 } // namespace
 
+bool HGIsEditable(HGridCtl* ctl, int col)
+{
+    const HGField* const field = HGGetField(ctl->pData, col);
+    return field && (field->wFlags & HFF_READONLY) == 0 && !HasStyle(ctl, HGS_READONLY);
+}
+
+void HGTakeEditor(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    const HGField* const field = CurrentField(ctl);
+    const HWND editor = field && field->pCtl ? field->pCtl->hWnd : nullptr;
+    if (ctl->hEditor != editor && HasFlag(ctl, HGC_EDITORSHOWN)) {
+        HGHideEditor(ctl);
+    }
+    if (IsWindow(hwnd)) {
+        ctl->hEditor = editor;
+        HGLoadEditor(ctl);
+    }
+}
+
+// The edit ends while editor, column and cell still belong together.
+bool HGBeginColumnChange(HGridCtl* ctl, bool* shown)
+{
+    const HWND hwnd = ctl->hWnd;
+    *shown = HasFlag(ctl, HGC_EDITORSHOWN);
+    HGDetachEditor(ctl);
+    return IsWindow(hwnd) != 0;
+}
+
+// The current cell keeps its numbers, so another column's control may stand over it now.
+void HGEndColumnChange(HGridCtl* ctl, bool shown)
+{
+    const HWND hwnd = ctl->hWnd;
+    const bool isCell = HasFlag(ctl, HGC_CELLSHOWN) && !HasFlag(ctl, HGC_RANGE);
+    if (!isCell || !HGIsEditable(ctl, CurrentCell(ctl).col)) {
+        return;
+    }
+    HGTakeEditor(ctl);
+    if (IsWindow(hwnd) && shown) {
+        HGShowEditor(ctl);
+    }
+}
+
 int HGLoadEditor(HGridCtl* ctl)
 {
-    const HGField* const field = ctl->hEditor ? CurrentField(ctl) : nullptr;
+    const HGField* const field = EditedField(ctl);
     const Cell cell = CurrentCell(ctl);
     const BYTE* const bytes = field && field->cbSize >= 1 ? HGCellPtr(ctl->pData, cell.col, cell.row) : nullptr;
     const ValueMessages* const messages = bytes ? MessagesOf(field->cKind) : nullptr;
@@ -99,7 +151,7 @@ int HGLoadEditor(HGridCtl* ctl)
 int HGReadEditor(HGridCtl* ctl)
 {
     const HWND editor = ctl->hEditor;
-    const HGField* const field = editor ? CurrentField(ctl) : nullptr;
+    const HGField* const field = EditedField(ctl);
     if (!field || !SendMessageA(editor, WWM_GETCHANGED, 0, 0) || field->cbSize < 1) {
         return 1;
     }
@@ -112,6 +164,10 @@ int HGReadEditor(HGridCtl* ctl)
     const bool hasValue = ReadValue(editor, field, buffer);
     const int written = IsWindow(hwnd) ? HGWriteCell(ctl, cell.col, cell.row, hasValue ? buffer : nullptr) : 0;
     HBlockFree(buffer);
+    if (written && IsWindow(editor)) {
+        // What went in isn't pending any more: a later commit doesn't write it over what the host has stored since.
+        SendMessageA(editor, WWM_SETCHANGED, 0, 0);
+    }
     return written;
 }
 

@@ -192,17 +192,20 @@ LRESULT OnGetFieldFlags(HGridCtl*, const FieldRef& ref, LPARAM)
 // The current column becomes editable or stops being so, with its control standing over the cell or not.
 void FollowReadOnly(HGridCtl* ctl, const FieldRef& ref)
 {
+    const HWND hwnd = ctl->hWnd;
     if (ref.field->wFlags & HFF_READONLY) {
         HGHideEditor(ctl);
         return;
     }
-    if (HasStyle(ctl, HGS_READONLY)) {
+    // A selection of more than one cell has no editor.
+    if (HasStyle(ctl, HGS_READONLY) || HasFlag(ctl, HGC_RANGE)) {
         return;
     }
-    ctl->hEditor = ref.field->pCtl ? ref.field->pCtl->hWnd : nullptr;
-    // The control may hold what the column showed when it was last current.
-    HGLoadEditor(ctl);
-    HGShowEditor(ctl);
+    // Loads too: the control may hold what the column showed when it was last current.
+    HGTakeEditor(ctl);
+    if (IsWindow(hwnd)) {
+        HGShowEditor(ctl);
+    }
 }
 
 LRESULT OnSetFieldFlags(HGridCtl* ctl, const FieldRef& ref, LPARAM lParam)

@@ -12,7 +12,7 @@ struct Move {
     Cell to;
     bool extend;
     bool scroll;
-    LONG oldRecord; // record of the current row before the view moved
+    LONG oldRecord; // of the current row before the view moved: the block may shift, which changes row numbers alone
     bool range;     // a row, a column or more than one cell
     bool same;      // the current cell already
     bool focused;   // the selection is on the screen
@@ -92,12 +92,6 @@ bool BringRowIn(HGridCtl* ctl, Move* move)
     return true;
 }
 
-bool IsEditable(HGridCtl* ctl, int col)
-{
-    const HGField* const field = HGGetField(ctl->pData, col);
-    return field && (field->wFlags & HFF_READONLY) == 0 && !HasStyle(ctl, HGS_READONLY);
-}
-
 // Steps 10 to 14. The editor of the old cell goes where it can't stay.
 void Judge(HGridCtl* ctl, Move* move)
 {
@@ -110,7 +104,7 @@ void Judge(HGridCtl* ctl, Move* move)
         move->same = false;
     }
     move->focused = GetFocus() == move->hwnd || HasStyle(ctl, HGS_KEEPSEL) || HasFlag(ctl, HGC_INEDIT);
-    move->editable = !move->range && IsEditable(ctl, move->to.col);
+    move->editable = !move->range && HGIsEditable(ctl, move->to.col);
     move->showAgain = wasRange || !move->same || move->range;
     if (ctl->hEditor && (move->showAgain || !move->focused)) {
         HGHideEditor(ctl);
@@ -135,6 +129,13 @@ LONG RecordOrHeader(const HGridCtl* ctl, int row)
     return row < 0 ? row : RecordOfRow(ctl, row);
 }
 
+void FillMirror(HGridCtl* ctl)
+{
+    if (ctl->pRowMirror) {
+        HGCopyRow(ctl->pData, CurrentCell(ctl).row, ctl->pRowMirror, false);
+    }
+}
+
 // The state changes, and the parent hears of it. False if the window went.
 bool ChangeCell(HGridCtl* ctl, const Move& move)
 {
@@ -151,9 +152,7 @@ bool ChangeCell(HGridCtl* ctl, const Move& move)
     if (!rowChanged) {
         return true;
     }
-    if (ctl->pRowMirror) {
-        HGCopyRow(ctl->pData, move.to.row, ctl->pRowMirror, false);
-    }
+    FillMirror(ctl);
     return HGNotify(ctl, HGN_ROWCHANGED);
 }
 
@@ -166,34 +165,44 @@ void DrawNewSelection(HGridCtl* ctl, const Selection& old)
     HGDrawSelection(ctl, window.hdc, shown ? &anchor : nullptr, shown ? &current : nullptr);
 }
 
-// Steps 16 to 18. False if the move ends here: the window went, or the parent has moved on meanwhile.
-bool ShowMove(HGridCtl* ctl, const Move& move)
+// Rows that came or went while the parent was told have given the cell another number: the move ends there.
+void FollowCell(HGridCtl* ctl, Move* move)
+{
+    move->to = CurrentCell(ctl);
+    move->range = move->to.col == -1 || move->to.row == -1 || !(move->to == AnchorCell(ctl));
+    move->editable = !move->range && HGIsEditable(ctl, move->to.col);
+    FillMirror(ctl);
+}
+
+// Steps 16 to 18. False if the move ends here: the window or all cells went, or the parent has moved on meanwhile.
+bool ShowMove(HGridCtl* ctl, Move* move)
 {
     const Selection old = SelectionOf(ctl);
-    if (!move.same && !ChangeCell(ctl, move)) {
+    SetFlag(ctl, HGC_TELLING, true);
+    if (!move->same && !ChangeCell(ctl, *move)) {
         return false;
     }
-    const Selection wanted = { move.to, move.extend || move.same ? old.anchor : move.to };
+    const Selection wanted = { move->to, move->extend || move->same ? old.anchor : move->to };
     if (!IsSame(SelectionOf(ctl), wanted)) {
         // Old and new selection were drawn in the wrong order: only painting all of it anew is right.
         InvalidateRect(ctl->hWnd, nullptr, FALSE);
-        return false;
-    }
-    if (move.focused && !(move.same && move.range)) {
+        if (!HasFlag(ctl, HGC_TELLING) || !HasCells(ctl)) {
+            return false;
+        }
+        FollowCell(ctl, move);
+    } else if (move->focused && !(move->same && move->range)) {
         DrawNewSelection(ctl, old);
     }
-    SetFlag(ctl, HGC_RANGE, move.range);
+    SetFlag(ctl, HGC_RANGE, move->range);
     SetFlag(ctl, HGC_CELLSHOWN, true);
     return true;
 }
 
-// Steps 19 and 20.
+// Steps 19 and 20. The parent may have made the column read-only since.
 void GiveEditor(HGridCtl* ctl, const Move& move)
 {
-    if (move.editable) {
-        const HGField* const field = HGGetField(ctl->pData, move.to.col);
-        ctl->hEditor = field && field->pCtl ? field->pCtl->hWnd : nullptr;
-        HGLoadEditor(ctl);
+    if (move.editable && HGIsEditable(ctl, CurrentCell(ctl).col)) {
+        HGTakeEditor(ctl);
     } else {
         HGHideEditor(ctl);
         ctl->hEditor = nullptr;
@@ -241,10 +250,17 @@ int HGMoveTo(HGridCtl* ctl, int col, int row, bool extend, bool scroll)
     if (!IsWindow(hwnd) || !BringCellIn(ctl, &move)) {
         return 0;
     }
-    if (ShowMove(ctl, move)) {
+    if (ShowMove(ctl, &move)) {
         GiveEditor(ctl, move);
+    } else if (IsWindow(hwnd) && move.focused && !HasFlag(ctl, HGC_EDITORSHOWN)) {
+        // What the parent did has left an editor, but this move had hidden it.
+        HGShowEditor(ctl);
     }
-    return IsWindow(hwnd) ? 1 : 0;
+    if (!IsWindow(hwnd)) {
+        return 0;
+    }
+    SetFlag(ctl, HGC_TELLING, false);
+    return 1;
 }
 
 int HGMoveBy(HGridCtl* ctl, int dCol, int dRow, bool extend)
@@ -258,6 +274,7 @@ int HGMoveBy(HGridCtl* ctl, int dCol, int dRow, bool extend)
     if (base > 0 && base + row < 0) {
         row = -base;
     }
+    // A row number past 16 bits would come out as a header: whichever key asks, the view goes there first.
     if ((dRow < 0 && row < 0) || row > farthest) {
         HGScrollBy(ctl, 0, dRow, true);
         if (!IsWindow(hwnd)) {

@@ -95,12 +95,12 @@ LRESULT OnSetProposed(HGridCtl* ctl, const MsgArgs& args)
 
 LRESULT OnGetFlags(HGridCtl* ctl, const MsgArgs&)
 {
-    return ctl->wFlags & static_cast<WORD>(~HGC_FETCHING);
+    return ctl->wFlags & static_cast<WORD>(~hiddenFlags);
 }
 
 LRESULT OnSetFlags(HGridCtl* ctl, const MsgArgs& args)
 {
-    SetFlag(ctl, static_cast<WORD>(args.lParam & ~HGC_FETCHING), args.wParam != 0);
+    SetFlag(ctl, static_cast<WORD>(args.lParam & ~hiddenFlags), args.wParam != 0);
     return AskDefault(args);
 }
 

@@ -18,11 +18,36 @@ void FillRow(HGridCtl* ctl, int row, const MsgArgs& args)
     }
 }
 
+// What stands in the editor goes into its own record before rows shift under it. False if the window went.
+bool StoreBeforeShift(HGridCtl* ctl, const MsgArgs& args)
+{
+    if (HasFlag(ctl, HGC_INEDIT)) {
+        HGCommitEdit(ctl);
+    }
+    return IsWindow(args.hwnd) != 0;
+}
+
+// The current cell keeps its numbers, so another record stands under the editor now.
+void LoadAfterShift(HGridCtl* ctl, const MsgArgs& args)
+{
+    if (IsWindow(args.hwnd)) {
+        HGLoadEditor(ctl);
+    }
+}
+
 LRESULT OnAddRow(HGridCtl* ctl, const MsgArgs& args)
 {
+    const bool beforeEntryRow = HasStyle(ctl, HGS_NEWROW) && !HasFlag(ctl, HGC_VIRTUAL);
+    const bool shifts = beforeEntryRow && CurrentCell(ctl).row == LastRow(ctl);
+    if (shifts && !StoreBeforeShift(ctl, args)) {
+        return -1;
+    }
     const int added = HGAddRow(ctl, nullptr, args.wParam != 0);
     if (added >= 1) {
         FillRow(ctl, added - 1, args);
+    }
+    if (shifts) {
+        LoadAfterShift(ctl, args);
     }
     return added;
 }
@@ -34,16 +59,34 @@ LRESULT OnDeleteRow(HGridCtl* ctl, const MsgArgs& args)
 
 LRESULT OnInsertRow(HGridCtl* ctl, const MsgArgs& args)
 {
+    const bool shifts = RowOf(args) <= CurrentCell(ctl).row;
+    if (shifts && !StoreBeforeShift(ctl, args)) {
+        return -1;
+    }
     const int index = HGInsertRow(ctl, nullptr, RowOf(args), false);
     if (index >= 0) {
         FillRow(ctl, index, args);
+    }
+    if (shifts) {
+        LoadAfterShift(ctl, args);
     }
     return index;
 }
 
 LRESULT OnMoveRow(HGridCtl* ctl, const MsgArgs& args)
 {
-    return HGMoveRow(ctl->pData, RowOf(args), static_cast<int>(args.lParam));
+    const int from = RowOf(args);
+    const int to = static_cast<int>(args.lParam);
+    const int current = CurrentCell(ctl).row;
+    const bool shifts = current >= std::min(from, to) && current <= std::max(from, to);
+    if (shifts && !StoreBeforeShift(ctl, args)) {
+        return -1;
+    }
+    const int moved = HGMoveRow(ctl->pData, from, to);
+    if (shifts) {
+        LoadAfterShift(ctl, args);
+    }
+    return moved;
 }
 
 LRESULT OnGetRowBase(HGridCtl* ctl, const MsgArgs&)
@@ -192,7 +235,17 @@ LRESULT OnSetSortCol2(HGridCtl* ctl, const MsgArgs& args)
 
 LRESULT OnSort(HGridCtl* ctl, const MsgArgs& args)
 {
-    HGSortRows(ctl->pData, LOWORD(args.wParam), HIWORD(args.wParam) != 0, reinterpret_cast<DWORD*>(args.lParam));
+    DWORD* const parallel = reinterpret_cast<DWORD*>(args.lParam);
+    const int rows = HGRowCount(ctl->pData);
+    if (!StoreBeforeShift(ctl, args)) {
+        return 0;
+    }
+    // Bounded: the array has a place for each row that its owner knew of. When storing has added one, as it does in
+    // the entry row, nothing is sorted.
+    if (!parallel || HGRowCount(ctl->pData) <= rows) {
+        HGSortRows(ctl->pData, LOWORD(args.wParam), HIWORD(args.wParam) != 0, parallel);
+        LoadAfterShift(ctl, args);
+    }
     return AskDefault(args);
 }
 

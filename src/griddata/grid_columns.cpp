@@ -165,12 +165,10 @@ int MoveWithBytes(HGridData* grid, int from, int to)
     return result;
 }
 
-// Ends the edit of a column that is going. False if the window, the data or the column went meanwhile.
+// Ends the edit before a column goes: whichever it is, the current column's number may be another's afterwards.
+// False if the window, the data or the column went meanwhile.
 bool LeaveColumn(HGridCtl* ctl, const HGridData* grid, int col)
 {
-    if (ctl->nCurCol != col) {
-        return true;
-    }
     const HWND hwnd = ctl->hWnd;
     HGDetachEditor(ctl);
     if (hwnd && !IsWindow(hwnd)) {

@@ -113,17 +113,17 @@ TEST_F(GridServices, ColumnsFollowTheResolutionOnceMoreWithEachCopy)
     fDpiRead = 0;
 }
 
-TEST_F(GridServices, RemovingTheCurrentColumnEndsItsEdit)
+TEST_F(GridServices, RemovingAColumnEndsTheEditOfTheCurrentOneWhicheverItIs)
 {
     const GridPtr grid = GridOf({ Number("a"), Number("b") }, 0, 1);
     HGridCtl      ctl = ControlOf(grid.get());
     ctl.nCurCol = 1;
     EXPECT_EQ(1, HGRemoveFld(&ctl, 0));
-    EXPECT_EQ(0, Fakes().detaches);
+    EXPECT_EQ(1, Fakes().detaches);
     EXPECT_EQ(1, Fakes().selectionRedraws);
     ctl.nCurCol = 0;
     EXPECT_EQ(1, HGRemoveFld(&ctl, 0));
-    EXPECT_EQ(1, Fakes().detaches);
+    EXPECT_EQ(2, Fakes().detaches);
     EXPECT_EQ(2, Fakes().selectionRedraws);
 }
 
