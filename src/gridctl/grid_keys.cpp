@@ -134,10 +134,22 @@ bool StepNext(HGridCtl* ctl, KeyMove* key)
     return true;
 }
 
+// Past the last column there is nothing to stop at: a way over hidden ones at the end is measured to the visible one.
+int WayToLastColumn(HGridCtl* ctl)
+{
+    const int count = HGColCount(ctl->pData);
+    int last = count;
+    HGStepColumn(ctl->pData, false, &last);
+    if (last < 0) {
+        return 0;
+    }
+    return last == count - 1 ? count : last - CurrentCell(ctl).col;
+}
+
 bool StepEnd(HGridCtl* ctl, KeyMove* key)
 {
     if (!key->ctrl) {
-        key->dCol = HGColCount(ctl->pData);
+        key->dCol = WayToLastColumn(ctl);
         return true;
     }
     if (!FetchTotal(ctl)) {
@@ -236,7 +248,8 @@ bool StopAtEnd(HGridCtl* ctl, KeyMove* key)
     if (key->dRow > WayToLast(ctl) && !FetchTotal(ctl)) {
         return false;
     }
-    key->dRow = std::min(key->dRow, WayToLast(ctl));
+    // On the entry row the last record lies above: a way down never becomes one up.
+    key->dRow = std::max<LONG>(std::min(key->dRow, WayToLast(ctl)), 0);
     return true;
 }
 
