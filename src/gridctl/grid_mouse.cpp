@@ -21,6 +21,8 @@ constexpr int minWidth = 2;
 constexpr int maxSize = 2000;
 constexpr int maxHeader = 0x7FFF;
 
+HWND gTimedScroll; // the grid for whose drag TimedScroll runs
+
 struct ColumnRange {
     int lo;
     int hi;
@@ -88,14 +90,22 @@ void ConfineCursor(HGridCtl* ctl)
 bool StartsColumnDrag(const HGridCtl* ctl, Cell hit)
 {
     return HasStyle(ctl, HGS_COLMAP) && CurrentCell(ctl).row < 0 && hit.row < 0 && HGIsKeyDown(VK_SHIFT) &&
-           IsInside(SelectedColumns(ctl), hit.col) && hit.col >= 0;
+           IsInside(SelectedColumns(ctl), hit.col);
+}
+
+// The loop that moves a drag on while the mouse stands still. It ends when the button comes up.
+void ScrollByTime(HGridCtl* ctl)
+{
+    gTimedScroll = ctl->hWnd;
+    TimedScroll(ctl, 1);
+    gTimedScroll = nullptr;
 }
 
 void DragColumns(HGridCtl* ctl)
 {
     ctl->wFlags |= HGC_COLDRAG;
     SetCursor(LoadCursorA(hInstance, MAKEINTRESOURCEA(columnsCursor)));
-    TimedScroll(ctl, 1);
+    ScrollByTime(ctl);
 }
 
 // A DC of the window for lines that a second drawing removes.
@@ -230,6 +240,27 @@ void DragSelection(HGridCtl* ctl, LPARAM lParam)
     }
 }
 
+bool IsButtonDown()
+{
+    return GetAsyncKeyState(VK_LBUTTON) < 0 || GetAsyncKeyState(VK_RBUTTON) < 0;
+}
+
+// A selection that is dragged out of the window goes on scrolling there. A press alone never starts it, nor does a
+// message without a button behind it, for which no end would come.
+bool LeavesWindow(HGridCtl* ctl, LPARAM lParam)
+{
+    RECT client;
+    GetClientRect(ctl->hWnd, &client);
+    const bool outside = !PtInRect(&client, { MouseX(lParam), MouseY(lParam) });
+    return outside && !gTimedScroll && GetCapture() == ctl->hWnd && IsButtonDown();
+}
+
+// False if the button came up where the loop couldn't see it: in a loop of the host's, or over another program.
+bool GoesOn(const HGridCtl* ctl)
+{
+    return HasFlag(ctl, HGC_MOUSEDOWN) && (HasFlag(ctl, HGC_COLDRAG) || IsButtonDown());
+}
+
 // The band on which dragged columns are dropped.
 int DropBand(HGridCtl* ctl, int hitCol, int target, LPARAM lParam)
 {
@@ -276,6 +307,11 @@ void DropColumns(HGridCtl* ctl, LPARAM lParam)
     }
     if (IsInside(dragged, target) || dragged.lo < 0 || target < 0) {
         HGRefresh(ctl, true);
+        return;
+    }
+    // The host may have started an edit during the drag.
+    bool shown = false;
+    if (!HGBeginColumnChange(ctl, &shown)) {
         return;
     }
     MoveColumns(ctl, dragged, target, DropBand(ctl, hitCol, target, lParam));
@@ -352,19 +388,34 @@ void DropSize(HGridCtl* ctl, LPARAM lParam)
     }
 }
 
+// A value that isn't taken keeps the grid on its cell, as with a key: the press drags nothing then.
+void RefusePress(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    SetFlag(ctl, HGC_MOUSEDOWN, false);
+    if (GetCapture() == hwnd) {
+        ReleaseCapture();
+    }
+    if (IsWindow(hwnd)) {
+        ctl->wFlags |= CF_CANCEL;
+    }
+}
+
 // A press on a cell or header. The focus comes to the grid, whatever becomes of the move.
 void Press(HGridCtl* ctl, LPARAM lParam, bool shift)
 {
     const HWND hwnd = ctl->hWnd;
     const Cell hit = HitTest(ctl, lParam).cell;
-    HGCommitEdit(ctl);
+    const int stored = HGCommitEdit(ctl);
     if (IsWindow(hwnd)) {
         SetFocus(hwnd);
     }
     if (!IsWindow(hwnd)) {
         return;
     }
-    if (StartsColumnDrag(ctl, hit)) {
+    if (!stored) {
+        RefusePress(ctl);
+    } else if (StartsColumnDrag(ctl, hit)) {
         DragColumns(ctl);
     } else if (HasStyle(ctl, HGS_ROWSELECT) && !HasStyle(ctl, HGS_NOEXTEND)) {
         HGSelectRow(ctl, hit.col, hit.row, shift, HGIsKeyDown(VK_CONTROL));
@@ -394,6 +445,10 @@ void HGMouseDown(HGridCtl* ctl, LPARAM lParam)
 
 void HGMouseMove(HGridCtl* ctl, LPARAM lParam)
 {
+    if (gTimedScroll == ctl->hWnd && !GoesOn(ctl)) {
+        ctl->wFlags |= CF_CANCEL; // which the loop takes for its end
+        return;
+    }
     if (!HasFlag(ctl, HGC_MOUSEDOWN)) {
         return;
     }
@@ -401,6 +456,9 @@ void HGMouseMove(HGridCtl* ctl, LPARAM lParam)
         ShowDropPoint(ctl, lParam);
     } else if (gSizeZone != 0) {
         ShowSize(ctl, lParam);
+    } else if (LeavesWindow(ctl, lParam)) {
+        SetFlag(ctl, CF_CANCEL, false); // of a move that the parent turned round before
+        ScrollByTime(ctl);
     } else {
         DragSelection(ctl, lParam);
     }
@@ -432,7 +490,11 @@ void HGMouseDblClk(HGridCtl* ctl, LPARAM lParam)
 {
     const HWND hwnd = ctl->hWnd;
     const Cell hit = HitTest(ctl, lParam).cell;
-    HGCommitEdit(ctl);
+    const int stored = HGCommitEdit(ctl);
+    if (IsWindow(hwnd) && !stored) {
+        ctl->wFlags |= CF_CANCEL;
+        return;
+    }
     if (IsWindow(hwnd)) {
         HGMoveTo(ctl, hit.col, hit.row, false, false);
     }

@@ -51,11 +51,7 @@ LRESULT OnRightDown(HGridCtl* ctl, const MsgArgs& args)
 LRESULT OnMouse(HGridCtl* ctl, const MsgArgs& args)
 {
     switch (args.message) {
-    case WM_MOUSEMOVE:
-        if (HasFlag(ctl, HGC_MOUSEDOWN)) {
-            HGMouseMove(ctl, args.lParam);
-        }
-        break;
+    case WM_MOUSEMOVE:     HGMouseMove(ctl, args.lParam); break;
     case WM_LBUTTONDOWN:   HGMouseDown(ctl, args.lParam); break;
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:     HGMouseUp(ctl, args.lParam); break;

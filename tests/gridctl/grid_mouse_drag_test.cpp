@@ -1,0 +1,226 @@
+// Real drags out of the window, and presses that a refused value keeps from moving.
+#include "gridctl/grid_editing.h"
+
+namespace {
+
+constexpr int outside = 60; // pixels beyond the edge, where the loop doesn't wait between its moves
+
+void LiftButton()
+{
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    SendInput(1, &input, sizeof input);
+}
+
+class GridMouseDrag : public GridEditing {
+protected:
+    ~GridMouseDrag() override
+    {
+        LiftButton();
+        PumpPending();
+        ReleaseCapture();
+    }
+    void MakeCells(DWORD style = HGS_ROWHEADERS | HGS_COLHEADERS)
+    {
+        MakeGrid(GridOf({ Text(), Text(), Text(), Text(), Text(), Text(), Text(), Text() }, style), 60);
+        StandOn(0, 0);
+        UpdateWindow(grid);
+        Forget();
+    }
+    // The loop of a drag outside doesn't come back before its end: what ends it has to be told of inside.
+    void When(int code, std::function<bool()> condition, std::function<void()> deed)
+    {
+        parent.On(code, [this, code, condition, deed] {
+            if (condition()) {
+                parent.On(code, nullptr);
+                deed();
+            }
+        });
+    }
+    void ExpectDragIsOver()
+    {
+        EXPECT_FALSE(IsFlag(HGC_MOUSEDOWN));
+        EXPECT_EQ(nullptr, GetCapture());
+    }
+    Cell Anchor() { return UnpackCell(static_cast<DWORD>(Send(grid, HGM_GETANCHOR))); }
+};
+
+TEST_F(GridMouseDrag, SelectionDraggedBelowTheWindowScrollsWhileTheMouseStandsStill)
+{
+    MakeCells();
+    PressButton(grid, 150, 90);
+    When(HGN_MOVED, [&] { return Current().row >= 40; }, LiftButton);
+    MoveMouse(grid, 150, 200 + outside);
+    EXPECT_GE(Current().row, 40);
+    EXPECT_EQ((Cell{ 1, 3 }), Anchor());
+    EXPECT_GT(+ctl->nTopRow, 20);
+    ExpectDragIsOver();
+}
+
+TEST_F(GridMouseDrag, SelectionDraggedBesideTheWindowScrollsAcross)
+{
+    MakeCells();
+    PressButton(grid, 150, 90);
+    When(HGN_MOVED, [&] { return Current().col >= 7; }, LiftButton);
+    MoveMouse(grid, 400 + outside, 90);
+    EXPECT_EQ((Cell{ 7, 3 }), Current());
+    EXPECT_GT(+ctl->nHScrollPos, 0);
+    ExpectDragIsOver();
+}
+
+TEST_F(GridMouseDrag, RowsDraggedBelowTheWindowScroll)
+{
+    for (const DWORD style : { DWORD{ 0 }, DWORD{ HGS_ROWSELECT } }) {
+        MakeCells(HGS_ROWHEADERS | HGS_COLHEADERS | style);
+        PressButton(grid, 20, 90);
+        When(HGN_MOVED, [&] { return Current().row >= 40; }, LiftButton);
+        MoveMouse(grid, 20, 200 + outside);
+        EXPECT_EQ(-1, Current().col);
+        EXPECT_GE(Current().row, 40);
+        EXPECT_EQ((Cell{ -1, 3 }), Anchor());
+        ExpectDragIsOver();
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(GridMouseDrag, LoopEndsWhenTheHostsOwnLoopTookTheButton)
+{
+    MakeCells();
+    PressButton(grid, 150, 90);
+    When(HGN_MOVED, [&] { return Current().row >= 20; }, [&] {
+        LiftButton();
+        PumpPending();
+    });
+    MoveMouse(grid, 150, 200 + outside);
+    PumpPending();
+    ExpectDragIsOver();
+}
+
+TEST_F(GridMouseDrag, LoopEndsWithTheGrid)
+{
+    MakeCells();
+    PressButton(grid, 150, 90);
+    When(HGN_MOVED, [&] { return Current().row >= 20; }, [&] { DestroyWindow(grid); });
+    MoveMouse(grid, 150, 200 + outside);
+    EXPECT_FALSE(IsWindow(grid));
+}
+
+TEST_F(GridMouseDrag, LoopEndsWhereTheParentTurnsTheMoveRound)
+{
+    MakeCells();
+    PressButton(grid, 150, 90);
+    When(HGN_EXTENDING, [&] { return Current().row >= 20; },
+         [&] { Send(grid, HGM_SETPROPOSED, 0, static_cast<LPARAM>(PackCell(Current().col, Current().row))); });
+    MoveMouse(grid, 150, 200 + outside);
+    PumpPending();
+    ExpectDragIsOver();
+}
+
+TEST_F(GridMouseDrag, MovesWithoutARealButtonStartNoLoop)
+{
+    MakeCells();
+    Send(grid, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(150, 90));
+    const int page = ctl->cPageRows;
+    Send(grid, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(150, 200 + outside));
+    EXPECT_GE(Current().row, page - 1) << "one move is one step";
+    EXPECT_LT(Current().row, 2 * page);
+    EXPECT_TRUE(IsFlag(HGC_MOUSEDOWN));
+    Send(grid, WM_LBUTTONUP, 0, MAKELPARAM(150, 260));
+    ExpectDragIsOver();
+}
+
+TEST_F(GridMouseDrag, ShiftOnTheCornerOfASelectedGridStartsADragThatOnlyRefreshes)
+{
+    MakeCells(HGS_ROWHEADERS | HGS_COLHEADERS | HGS_COLMAP);
+    MoveTo(-1, -1);
+    bool dragged = false;
+    parent.OnMessage(WM_APP, [&](WPARAM, LPARAM) {
+        dragged = IsFlag(HGC_COLDRAG);
+        return 0;
+    });
+    BYTE keys[256] = {};
+    keys[VK_SHIFT] = 0x80;
+    SetKeyboardState(keys);
+    PostMessageA(parent.hwnd(), WM_APP, 0, 0);
+    PostMessageA(grid, WM_LBUTTONUP, 0, MAKELPARAM(20, 10));
+    Send(grid, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 10));
+    keys[VK_SHIFT] = 0;
+    SetKeyboardState(keys);
+    EXPECT_TRUE(dragged);
+    EXPECT_EQ(0, parent.Count(HGN_COLSMOVED));
+    ExpectDragIsOver();
+}
+
+// A refused value
+
+class GridRefusedPress : public GridMouseDrag {
+protected:
+    void MakeTyped()
+    {
+        MakeCells();
+        SetText(1, 3, "old");
+        TypeInto(1, 3, "typed");
+    }
+    void ExpectStillThere()
+    {
+        EXPECT_EQ((Cell{ 1, 3 }), Current());
+        EXPECT_EQ("typed", TextOf(Editor()));
+        EXPECT_EQ(grid, GetFocus());
+        EXPECT_TRUE(IsFlag(CF_CANCEL));
+        EXPECT_EQ(0, parent.Count(HGN_MOVING));
+        ExpectDragIsOver();
+    }
+};
+
+TEST_F(GridRefusedPress, KeepsTheCellAndWhatWasTyped)
+{
+    MakeTyped();
+    RefuseWrites();
+    ClickAt(grid, 230, 130);
+    ExpectStillThere();
+    EXPECT_EQ(1, parent.Count(HGN_CELLCHANGED));
+}
+
+TEST_F(GridRefusedPress, DragsNothing)
+{
+    MakeTyped();
+    RefuseWrites();
+    PressButton(grid, 230, 130);
+    MoveMouse(grid, 230, 150);
+    ExpectStillThere();
+    ReleaseButton(grid, 230, 150);
+    ExpectStillThere();
+}
+
+TEST_F(GridRefusedPress, OfASourceKeepsTheCellAndWhatWasTyped)
+{
+    MakeSourceGrid();
+    TypeInto(0, 2, "7");
+    source.onCall = [](int operation, int) { return operation == HGSRC_CELL; };
+    source.answer = 1;
+    ClickAt(grid, 60, 130);
+    EXPECT_EQ((Cell{ 0, 2 }), Current());
+    EXPECT_EQ("7", TextOf(Editor()));
+    EXPECT_EQ("1002", CellText(0, 2));
+    ExpectDragIsOver();
+}
+
+TEST_F(GridRefusedPress, DoubleClickIsNotTold)
+{
+    MakeTyped();
+    RefuseWrites();
+    Send(grid, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(230, 130));
+    ExpectStillThere();
+    EXPECT_EQ(0, parent.Count(HGN_DBLCLK));
+}
+
+TEST_F(GridRefusedPress, AcceptedValueLetsThePressMoveOn)
+{
+    MakeTyped();
+    ClickAt(grid, 230, 130);
+    EXPECT_EQ((Cell{ 2, 5 }), Current());
+    EXPECT_EQ("typed", CellText(1, 3));
+}
+
+} // namespace
