@@ -1,19 +1,19 @@
 // The editor of the current cell.
-#include "gridctl/grid_window.h"
+#include "gridctl/grid_editing.h"
 
 #include "support/guarded_memory.h"
 
 namespace {
 
-class GridEdit : public GridWindow {
+class GridEdit : public GridEditing {
 protected:
-    HWND Editor() { return ctl->hEditor; }
-    // As if the user had typed over the whole text of the editor.
+    // As if the user had typed over the whole text of the editor, which has the focus then.
     void Retype(const char* text)
     {
+        SetFocus(Editor());
+        ASSERT_TRUE(IsFlag(HGC_INEDIT));
         SendPtr(Editor(), WM_SETTEXT, 0, text);
         Send(Editor(), WWM_SETCHANGED, 1);
-        Send(grid, HGM_SETFLAGS, 1, HGC_INEDIT);
     }
 };
 
@@ -61,10 +61,58 @@ TEST_F(GridEdit, UntouchedEditorIsNeverReadBack)
     MakeGrid(GridOf({ Text() }), 3);
     SetFocus(grid);
     MoveTo(0, 0);
-    Send(grid, HGM_SETFLAGS, 1, HGC_INEDIT);
+    SetFocus(Editor());
     MoveTo(0, 1);
+    EXPECT_EQ(grid, GetFocus());
     EXPECT_EQ(0, RowFlags(0));
     EXPECT_EQ(0, parent.Count(HGN_CELLCHANGED));
+}
+
+// A letter and then Tab: the focus goes to the editor with the first and comes back with the second, and stays.
+constexpr Seen wholeEdit[] = {
+    { 0, ToGrid, WM_KEYDOWN, 'A' },
+    { 1, ToGrid, WM_KILLFOCUS },
+    { 1, ToEdit, WM_SETFOCUS },
+    { 2, ToGrid, WWM_CHILDFOCUS },
+    { 3, ToParent, HGN_EDITFOCUS },
+    { 1, ToEdit, WM_KEYDOWN, 'A' },
+    { 0, ToGrid, WM_CHAR, 'a' },
+    { 1, ToEdit, WM_CHAR, 'a' },
+    { 0, ToEdit, WM_KEYDOWN, VK_TAB },
+    { 1, ToGrid, WM_KEYDOWN, VK_TAB },
+    { 2, ToEdit, WM_KILLFOCUS },
+    { 3, ToGrid, WWM_CHILDBLUR },
+    { 4, ToParent, HGN_EDITBLUR },
+    { 2, ToGrid, WM_SETFOCUS },
+    { 2, ToEdit, WWM_GETCHANGED },
+    { 2, ToEdit, HEM_GETDATA, 16 },
+    { 2, ToParent, HGN_CELLCHANGED },
+    { 2, ToEdit, WWM_SETCHANGED, 0 },
+    { 2, ToParent, HGN_MOVING },
+    { 2, ToParent, HGN_MOVED },
+    { 2, ToEdit, HEM_SETDATA, 0 },
+    { 2, ToEdit, WM_SIZE }, // of the window that was moved
+    { 2, ToEdit, WM_SIZE }, // of the grid, with the cell's size
+    { 0, ToEdit, WM_CHAR, VK_TAB },
+};
+
+TEST_F(GridEdit, WholeEditIsToldInItsOrder)
+{
+    MakeGrid(GridOf({ Text(), Text() }), 3);
+    StandOn(0, 0);
+    seen.Watch(grid);
+    seen.Watch(ChildOf(0));
+    seen.Watch(ChildOf(1));
+    // The edit's own matters.
+    for (const UINT message : { WWM_GETSTATE, WM_COMMAND, HEM_SETRECT, WM_CTLCOLOREDIT, HGM_GETDATA, WM_KEYUP }) {
+        seen.Skip(message);
+    }
+    TypeKey('A');
+    TypeKey(VK_TAB);
+    EXPECT_SEEN(wholeEdit);
+    EXPECT_EQ("a", CellText(0, 0));
+    EXPECT_EQ((Cell{ 1, 0 }), Current());
+    EXPECT_EQ(grid, GetFocus());
 }
 
 TEST_F(GridEdit, LeavingTheCellStoresWhatWasEntered)
@@ -98,9 +146,9 @@ TEST_F(GridEdit, ChildThatReportsNoValueMakesTheCellNull)
     SetText(0, 0, "5");
     SetFocus(grid);
     MoveTo(0, 0);
+    SetFocus(Editor());
     SendPtr(Editor(), HEM_SETDATA, 0, nullptr);
     Send(Editor(), WWM_SETCHANGED, 1);
-    Send(grid, HGM_SETFLAGS, 1, HGC_INEDIT);
     MoveTo(0, 1);
     EXPECT_EQ(1, HGIsCellNull(grid, 0, 0));
     EXPECT_EQ("0", CellText(0, 0));

@@ -74,10 +74,11 @@ TEST_F(GridFocus, FocusComingBackDuringAnEditGoesToTheChild)
     MakeGrid(GridOf({ Text() }), 2);
     SetFocus(grid);
     MoveTo(0, 1);
+    SetFocus(ctl->hEditor);
     SetFocus(parent.hwnd());
-    Send(grid, HGM_SETFLAGS, 1, HGC_INEDIT);
     SetFocus(grid);
     EXPECT_EQ(ctl->hEditor, GetFocus());
+    EXPECT_TRUE(ctl->wFlags & HGC_INEDIT);
 }
 
 TEST_F(GridFocus, HeadersAreRepaintedOnlyWithASelectBrush)
