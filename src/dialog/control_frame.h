@@ -11,6 +11,7 @@ int   HClipSiblings(HWND hwnd, HDC hdc); // takes the visible siblings of hwnd o
 void  HUpdateTop(HWND hwnd);             // UpdateWindow on the top-level window
 int   HWinVersion();                     // major * 256 + minor
 int   HIsCombo(HWND hwnd);
+DWORD HFontUnits(HDC hdc, HFONT font);   // GetBaseUnits where a device context is at hand already
 DWORD HMeasureLines(HDC hdc, const char* text); // widest line in the low word, sum of heights in the high word
 
 // The common form of bounds: a double for numbers, three words for dates and times. 0 for another class.

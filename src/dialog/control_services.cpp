@@ -58,16 +58,21 @@ int WINAPI GetParentMod(HWND hwnd)
     return 0;
 }
 
+DWORD HFontUnits(HDC hdc, HFONT hFont)
+{
+    if (!hdc) {
+        return 0;
+    }
+    const SelectedObject font(hdc, hFont ? hFont : GetStockObject(SYSTEM_FONT));
+    SIZE                 size = {};
+    GetTextExtentPointA(hdc, allLetters, letterCount, &size);
+    return static_cast<DWORD>(MAKELONG(size.cx / letterCount, size.cy));
+}
+
 DWORD WINAPI GetBaseUnits(HFONT hFont)
 {
     const WindowDC screen(nullptr);
-    if (!screen.hdc) {
-        return 0;
-    }
-    const SelectedObject font(screen.hdc, hFont ? hFont : GetStockObject(SYSTEM_FONT));
-    SIZE                 size = {};
-    GetTextExtentPointA(screen.hdc, allLetters, letterCount, &size);
-    return static_cast<DWORD>(MAKELONG(size.cx / letterCount, size.cy));
+    return HFontUnits(screen.hdc, hFont);
 }
 
 void HUpdateTop(HWND hwnd)

@@ -169,10 +169,17 @@ RECT DefaultTextRect(const HEditCtl* ctl)
     return rect;
 }
 
+// The editor of a grid gets its size with each step of the current cell, and a context of the whole screen is dear.
+int CharWidth(const HEditCtl* ctl)
+{
+    const WindowDC dc(ctl->hWnd);
+    return std::max<int>(1, LOWORD(HFontUnits(dc.hdc, ctl->hFont)));
+}
+
 LRESULT OnSetRect(HEditCtl* ctl, const MsgArgs& args)
 {
     const RECT rect = args.lParam ? *reinterpret_cast<const RECT*>(args.lParam) : DefaultTextRect(ctl);
-    const int charWidth = std::max<int>(1, LOWORD(GetBaseUnits(ctl->hFont)));
+    const int charWidth = CharWidth(ctl);
     ctl->rcText = rect;
     ctl->cPageChars = std::max<LONG>(1, (rect.right - rect.left) / charWidth);
     if (args.wParam) {

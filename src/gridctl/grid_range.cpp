@@ -114,6 +114,14 @@ void MeasureWidths(HGridCtl* ctl)
     }
 }
 
+// A bar that stands there already isn't drawn once more.
+void SetBar(HWND window, int bar, LONG pos, bool redraw)
+{
+    if (GetScrollPos(window, bar) != pos) {
+        SetScrollPos(window, bar, static_cast<int>(pos), redraw);
+    }
+}
+
 } // namespace
 
 void HGRecalc(HGridCtl* ctl)
@@ -150,7 +158,7 @@ LONG HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw)
         const LONG old = ctl->nHScrollPos;
         ctl->nHScrollPos = pos;
         if (HasStyle(ctl, WS_HSCROLL)) {
-            SetScrollPos(ctl->hWnd, SB_HORZ, static_cast<int>(pos), redraw);
+            SetBar(ctl->hWnd, SB_HORZ, pos, redraw);
         }
         return old;
     }
@@ -158,7 +166,7 @@ LONG HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw)
     ctl->nVScrollPos = static_cast<DWORD>(pos);
     if (HasStyle(ctl, WS_VSCROLL)) {
         const HWND window = ctl->hNavScroll ? ctl->hNavScroll : ctl->hWnd;
-        SetScrollPos(window, ctl->hNavScroll ? SB_CTL : SB_VERT, static_cast<int>(pos), redraw);
+        SetBar(window, ctl->hNavScroll ? SB_CTL : SB_VERT, pos, redraw);
     }
     return old;
 }

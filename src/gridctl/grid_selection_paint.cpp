@@ -101,10 +101,9 @@ void RowsRect(HGridCtl* ctl, RECT* rect, Cell anchor, Cell cur)
     }
 }
 
-bool ScreenHasFewColors()
+bool HasFewColors(HDC hdc)
 {
-    const WindowDC screen(nullptr);
-    return GetDeviceCaps(screen.hdc, BITSPIXEL) < invertRectBits;
+    return GetDeviceCaps(hdc, BITSPIXEL) < invertRectBits;
 }
 
 // On paletted screens an inversion would give any colour; a pen in XOR gives the same one everywhere.
@@ -130,7 +129,7 @@ void InvertWithin(HDC hdc, RECT rect, const RECT& zone)
     if (rect.left >= rect.right) {
         return;
     }
-    if (ScreenHasFewColors()) {
+    if (HasFewColors(hdc)) {
         XorLines(hdc, rect);
         return;
     }
