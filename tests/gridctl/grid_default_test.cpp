@@ -1,0 +1,82 @@
+// Which messages go on to the default procedure when the grid has done its part.
+#include "gridctl/grid_window.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class GridDefault : public GridWindow {
+protected:
+    // Whether the default is asked for, of a new grid each time, since some empty it.
+    bool GoesOn(UINT message, LPARAM lParam = 0)
+    {
+        MakeGrid(GridOf({ Text(), Number(), Date() }), 4);
+        int wantsDefault = 0;
+        HGridMsgHandler(grid, message, 0, lParam, &wantsDefault, ctl);
+        DestroyWindow(grid);
+        return wantsDefault != 0;
+    }
+};
+
+// clang-format off
+constexpr UINT goingOn[] = {
+    WWM_CHILDFOCUS, WWM_CHILDBLUR, HGM_RESET, HGM_REFRESH, HGM_SETHEADERHEIGHT, HGM_SETROWHDRWIDTH, HGM_SETROWHEIGHT,
+    HGM_RESETSIZES, HGM_SETFIXEDCOLS, HGM_SETENDSTOP, HGM_SETANCHOR, HGM_SETCURSOR, HGM_SETFLAGS, HGM_KEYFIRST,
+    HGM_KEYLAST, HGM_KEYNEW, HGM_KEYUP, HGM_KEYDOWN, HGM_GOTORECORD, HGM_SETROWBASE, HGM_SORT,
+};
+constexpr UINT answered[] = {
+    HGM_GETBKBRUSH, HGM_SETBKBRUSH, WWM_GETSTYLE, WWM_SETSTYLE, HGM_SETSTYLEBITS, HGM_GETTITLE, HGM_SETTITLE,
+    HGM_SETDATA, HGM_GETDATA, HGM_RECALC, HGM_GETHEADERHEIGHT, HGM_GETROWHDRWIDTH, HGM_GETROWHEIGHT, HGM_GETCOLCOUNT,
+    HGM_GETROWCOUNT, HGM_GETFIXEDCOLS, HGM_GETBANDS, HGM_SETBANDS, HGM_GETFIRSTCOL, HGM_SETFIRSTCOL, HGM_GETTOPRECORD,
+    HGM_SETTOPRECORD, HGM_GETANCHOR, HGM_GETCURSOR, HGM_GETPROPOSED, HGM_SETPROPOSED, HGM_GETFLAGS, HGM_GETHPOS,
+    HGM_GETVPOS, HGM_SETHPOS, HGM_SETVPOS, HGM_GETVMAX, HGM_GETHMAX, HGM_GETSELROWS, HGM_GETSELCOUNT, HGM_TOGGLEROW,
+    HGM_ISROWSELECTED, HGM_ADDROW, HGM_DELETEROW, HGM_INSERTROW, HGM_MOVEROW, HGM_GETROWBASE, HGM_READCURROW,
+    HGM_READROW, HGM_WRITEROW, HGM_GETROWMIRROR, HGM_SETROWMIRROR, HGM_GETROWSIZE, HGM_GETROWFLAGS, HGM_SETROWFLAGS,
+    HGM_GETROWPTR, HGM_RECORDTOROW, HGM_GETROWSOURCE, HGM_SETROWSOURCE, HGM_GETTOTAL, HGM_SETTOTAL, HGM_GETHELD,
+    HGM_SETHELD, HGM_SETSORTCOL, HGM_SETSORTCOL2, HGM_GETCELLTEXT, HGM_ADDFIELD, HGM_DELETEFIELD, HGM_INSERTFIELD,
+    HGM_MOVEFIELD, HGM_FINDFIELD, HGM_FINDFIELDFROM, HGM_GETCOLORDER, HGM_SETCOLORDER, HGM_COLTOPOS, HGM_POSTOCOL,
+    HGM_GETFIELDBAND, HGM_SETFIELDBAND, HGM_GETFIELDCHILD, HGM_GETFIELDSTYLE, HGM_GETFIELDKIND, HGM_GETFIELDCLASS2,
+    HGM_GETFIELDTYPE2, HGM_GETFIELDCLASS, HGM_GETFIELDSIZE, HGM_GETFIELDTYPE, HGM_GETFIELDFORMAT, HGM_SETFIELDFORMAT,
+    HGM_GETFIELDFORMATLEN, HGM_GETFIELDTITLE, HGM_GETFIELDTITLELEN, HGM_SETFIELDTITLE, HGM_GETFIELDWIDTH,
+    HGM_SETFIELDWIDTH, HGM_GETFIELDDROP, HGM_SETFIELDDROP, HGM_GETFIELDFLAGS, HGM_SETFIELDFLAGS, HGM_GETFIELDOFFSET,
+    HGM_GETFIELDRESERVED, HGM_SETFIELDBOLD, HGM_GETFIELDNAME, HGM_GETFIELDNAMELEN,
+};
+// Numbers of the grid's range without a meaning.
+constexpr UINT unused[] = {
+    1366, 1367, 1369, 1379, 1400, 1401, 1402, 1403, 1416, 1417, 1418, 1419, 1420, 1421, 1444, 1445,
+};
+// clang-format on
+
+TEST_F(GridDefault, IsAskedByMessagesThatOnlyAct)
+{
+    for (const UINT message : goingOn) {
+        EXPECT_TRUE(GoesOn(message)) << message;
+    }
+}
+
+TEST_F(GridDefault, IsNotAskedByMessagesThatAnswer)
+{
+    for (const UINT message : answered) {
+        EXPECT_FALSE(GoesOn(message)) << message;
+    }
+}
+
+TEST_F(GridDefault, IsAskedForNumbersWithoutAMeaning)
+{
+    for (const UINT message : unused) {
+        EXPECT_TRUE(GoesOn(message)) << message;
+    }
+}
+
+TEST_F(GridDefault, IsAskedForATitleAndForARowThatIsNotThere)
+{
+    EXPECT_TRUE(GoesOn(HGM_SETTITLE, reinterpret_cast<LPARAM>("text")));
+    MakeGrid(GridOf({ Text() }), 2);
+    for (const UINT message : { HGM_GETROWFLAGS, HGM_SETROWFLAGS }) {
+        int wantsDefault = 0;
+        HGridMsgHandler(grid, message, 2, 0, &wantsDefault, ctl);
+        EXPECT_TRUE(wantsDefault) << message;
+    }
+}
+
+} // namespace
