@@ -127,7 +127,8 @@ LRESULT OnSetFormat(HGridCtl* ctl, const FieldRef& ref, LPARAM lParam)
     HBlockFree(ref.field->pszFormat);
     ref.field->pszFormat = format;
     if (ref.field->pCtl) {
-        SendMessageA(ref.field->pCtl->hWnd, HEM_SETFORMAT, 1, lParam);
+        // Not the host's text, which may have been the one just freed.
+        SendMessageA(ref.field->pCtl->hWnd, HEM_SETFORMAT, 1, reinterpret_cast<LPARAM>(format));
     }
     HGInvalidateRange(ctl, ref.col, ctl->nTopRow, ref.col, LastRow(ctl));
     return 1;
@@ -151,8 +152,11 @@ LRESULT OnGetTitleLen(HGridCtl*, const FieldRef& ref, LPARAM)
 LRESULT OnSetTitle(HGridCtl* ctl, const FieldRef& ref, LPARAM lParam)
 {
     char* title = ref.field->pszTitle;
-    hstrdup2(&title, reinterpret_cast<const char*>(lParam));
-    ref.field->pszTitle = title;
+    // A host that gives the stored text back changes nothing.
+    if (reinterpret_cast<const char*>(lParam) != title) {
+        hstrdup2(&title, reinterpret_cast<const char*>(lParam));
+        ref.field->pszTitle = title;
+    }
     HGInvalidateCell(ctl, ref.col, -1);
     return 1;
 }
@@ -215,9 +219,18 @@ LRESULT OnSetFieldFlags(HGridCtl* ctl, const FieldRef& ref, LPARAM lParam)
     const WORD flags = static_cast<WORD>(LOWORD(lParam) ? old | mask : old & ~mask);
     ref.field->wFlags = flags;
     if (ref.col == CurrentCell(ctl).col && ((old ^ flags) & HFF_READONLY)) {
+        const HWND hwnd = ctl->hWnd;
         FollowReadOnly(ctl, ref);
+        if (!IsWindow(hwnd)) {
+            return 1;
+        }
     }
-    InvalidateColumn(ctl, ref.col);
+    // A column that comes or goes moves all behind it.
+    if ((old ^ flags) & HFF_HIDDEN) {
+        InvalidateFrom(ctl, ref.col);
+    } else {
+        InvalidateColumn(ctl, ref.col);
+    }
     return 1;
 }
 

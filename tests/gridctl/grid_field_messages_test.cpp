@@ -173,4 +173,35 @@ TEST_F(GridFieldMessages, BoldNeedsABoldFont)
     ctl->hBoldFont = bold;
 }
 
+
+TEST_F(GridFieldMessages, StoredTextsMayBeGivenBack)
+{
+    MakeGrid(GridOf({ Number("Amount", 0, "*0.0"), Text() }), 1);
+    const HGField* const field = HGGetField(ctl->pData, 0);
+    const std::string format = field->pszFormat;
+    EXPECT_EQ(1, SendPtr(grid, HGM_SETFIELDFORMAT, 0, field->pszFormat));
+    EXPECT_EQ(format, field->pszFormat);
+    char shown[16] = {};
+    SendPtr(field->pCtl->hWnd, HEM_GETFORMAT, sizeof shown, shown);
+    EXPECT_EQ(format, shown);
+    EXPECT_EQ(1, SendPtr(grid, HGM_SETFIELDTITLE, 0, field->pszTitle));
+    EXPECT_STREQ("Amount", field->pszTitle);
+}
+
+TEST_F(GridFieldMessages, HidingAColumnInvalidatesAllBehindIt)
+{
+    MakeGrid(GridOf({ Text(), Text(), Text() }), 3);
+    for (const int set : { 1, 0 }) {
+        UpdateWindow(grid);
+        ASSERT_FALSE(IsInvalid());
+        Send(grid, HGM_SETFIELDFLAGS, 1, MAKELPARAM(set, HFF_HIDDEN));
+        RECT update{};
+        RECT client{};
+        GetUpdateRect(grid, &update, FALSE);
+        GetClientRect(grid, &client);
+        EXPECT_EQ(120, update.left) << set;
+        EXPECT_EQ(client.right, update.right) << set;
+    }
+}
+
 } // namespace
