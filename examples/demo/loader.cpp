@@ -1,9 +1,10 @@
 // Fills a grid from a file of comma-separated values, each field by the type of its column.
 #include "loader.h"
 
-#include "csv.h"
+#include "table.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 
 namespace {
@@ -15,11 +16,6 @@ std::string ColumnText(HWND grid, size_t position, UINT lengthMessage, UINT text
     SendMessageA(grid, textMessage, position, reinterpret_cast<LPARAM>(text.data()));
     text.resize(static_cast<size_t>(length));
     return text;
-}
-
-bool IsNumber(const Column& column)
-{
-    return std::strchr("cnz", column.dataClass) != nullptr;
 }
 
 bool LooksLikeNumber(const std::string& text)
@@ -36,20 +32,24 @@ bool LooksLikeNumber(const std::string& text)
     return separators <= 1 && text.size() > start;
 }
 
-// Why a text can't be a value of the column; empty if it can. The value goes to bytes.
-std::string Parse(const Column& column, const std::string& text, std::vector<char>& bytes)
+// A number that is too large for its type would be stored as another one.
+bool HoldsNumber(const Column& column, const std::string& text, const std::vector<char>& bytes)
 {
-    if (IsNumber(column) && !LooksLikeNumber(text)) {
-        return "\"" + text + "\" is not a number";
+    const double wanted = StringToDouble(text.c_str());
+    const double held = NumToDouble(bytes.data(), column.dataType);
+    return std::fabs(wanted - held) <= 1e-6 * std::fabs(wanted);
+}
+
+// What a text of the column should have been.
+std::string Expected(const Column& column)
+{
+    if (column.dataClass == 'd') {
+        return "a date of the form " + column.format;
     }
-    const int failed = ParseData(bytes.data(), column.dataClass, column.dataType, column.format.c_str(), text.c_str(), 0);
-    if (failed) {
-        return "\"" + text + "\" is not a value of this column";
+    if (!IsNumber(column)) {
+        return "a value of this column";
     }
-    if (column.dataClass == 's' && static_cast<int>(text.size()) >= column.size) {
-        return "\"" + text + "\" is too long and was cut to " + std::to_string(column.size - 1) + " characters";
-    }
-    return std::string();
+    return column.dataType == 'w' ? "a whole number from 0 to 65535" : "a number that this column can hold";
 }
 
 // One row of the file on its way into the grid.
@@ -75,9 +75,8 @@ void LoadField(const RowLoad& load, size_t index)
         HGSetCellData(load.grid, static_cast<int>(index), load.row, nullptr);
         return;
     }
-    // Room for every fixed type, and for the text of any length.
-    std::vector<char>  bytes(std::max<size_t>(text.size() + 1, 64));
-    const std::string  problem = Parse(column, text, bytes);
+    std::vector<char>  bytes;
+    const std::string  problem = ParseField(column, text, bytes);
     const bool         cut = column.dataClass == 's';
     if (!problem.empty()) {
         Report(load, column.title, problem);
@@ -154,23 +153,46 @@ std::vector<Column> ColumnsOf(HWND grid)
     return columns;
 }
 
-int LoadRows(HWND grid, const std::string& path, std::vector<Problem>& problems)
+bool IsNumber(const Column& column)
 {
-    const std::vector<Column> columns = ColumnsOf(grid);
-    const CsvFile             file = ReadCsv(path);
-    if (!CheckHeader(path, file, columns.size(), problems)) {
-        return 0;
+    return std::strchr("cnz", column.dataClass) != nullptr;
+}
+
+std::string ParseField(const Column& column, const std::string& text, std::vector<char>& bytes)
+{
+    // Room for every fixed type, and for the text of any length.
+    bytes.assign(std::max<size_t>(text.size() + 1, 64), '\0');
+    if (IsNumber(column) && !LooksLikeNumber(text)) {
+        return "\"" + text + "\" is not a number";
     }
-    int added = 0;
-    for (size_t i = 1; i < file.rows.size(); ++i) {
+    const char* const format = column.format.c_str();
+    const int         failed = ParseData(bytes.data(), column.dataClass, column.dataType, format, text.c_str(), 0);
+    if (failed || (IsNumber(column) && !HoldsNumber(column, text, bytes))) {
+        return "\"" + text + "\" is not " + Expected(column);
+    }
+    if (column.dataClass == 's' && static_cast<int>(text.size()) >= column.size) {
+        return "\"" + text + "\" is longer than the " + std::to_string(column.size - 1) + " characters of its column";
+    }
+    return std::string();
+}
+
+bool LoadRows(HWND grid, Table& table, std::vector<Problem>& problems)
+{
+    table.columns = ColumnsOf(grid);
+    table.file = ReadCsv(table.path);
+    const std::vector<CsvRow>& rows = table.file.rows;
+    if (!CheckHeader(table.path, table.file, table.columns.size(), problems)) {
+        return false;
+    }
+    for (size_t i = 1; i < rows.size(); ++i) {
         const LRESULT place = SendMessageA(grid, HGM_ADDROW, 0, 0);
         if (place < 1) {
-            problems.push_back({ path, file.rows[i].line, std::string(), "the grid holds no more rows" });
+            problems.push_back({ table.path, rows[i].line, std::string(), "the grid holds no more rows" });
             break;
         }
-        LoadRow({ grid, path, columns, file.rows[i], static_cast<int>(place) - 1, problems });
-        ++added;
+        table.order.push_back(static_cast<DWORD>(i));
+        LoadRow({ grid, table.path, table.columns, rows[i], static_cast<int>(place) - 1, problems });
     }
     SendMessageA(grid, HGM_REFRESH, TRUE, 0);
-    return added;
+    return true;
 }

@@ -26,7 +26,12 @@ struct Column {
 };
 
 std::vector<Column> ColumnsOf(HWND grid);
+bool IsNumber(const Column& column);
 
-// Appends the rows of a file. What can't be read stays empty, is told in problems, and the rest goes on.
-// The result is the number of rows added.
-int LoadRows(HWND grid, const std::string& path, std::vector<Problem>& problems);
+// Why a text can't be a value of the column; empty if it can. The value goes to bytes, a text that is too long cut.
+std::string ParseField(const Column& column, const std::string& text, std::vector<char>& bytes);
+
+struct Table;
+// Appends the rows of the table's file. What can't be read stays empty, is told in problems, and the rest goes on.
+// False if there is nothing that rows could belong to.
+bool LoadRows(HWND grid, Table& table, std::vector<Problem>& problems);

@@ -1,7 +1,8 @@
-// A host of widgets.dll: shows reports of wildlife strikes from a file, or generated ones, in a grid.
+// A host of widgets.dll: shows reports of wildlife strikes from a file, to be edited, or generated ones, in a grid.
 #include "generated.h"
 #include "loader.h"
 #include "options.h"
+#include "table.h"
 #include "window.h"
 
 #include <cstdio>
@@ -22,6 +23,11 @@ std::string ProgramFolder()
     char path[MAX_PATH] = {};
     GetModuleFileNameA(nullptr, path, MAX_PATH);
     return FolderOf(path);
+}
+
+std::string NameOf(const std::string& path)
+{
+    return path.substr(FolderOf(path.c_str()).size());
 }
 
 // The grid looks for a definition by a short name, so the program goes where the definition stands.
@@ -52,10 +58,11 @@ std::string CheckDefinition(const std::string& name)
     return columns > 0 ? std::string() : "the grid definition has no columns";
 }
 
-// Dates stand in the file as year, month, day; numbers with a point.
+// Dates stand in the file as year, month, day; numbers with a point. With one letter for month and day, an empty date
+// can be typed with one digit or two; columns show dates in their own format.
 void SetFormats()
 {
-    SetDefDateFormat("yyyy-mm-dd");
+    SetDefDateFormat("yyyy-m-d");
     SetDateSep('-');
     SetDecimalSep('.');
     SetThousandsSep(',');
@@ -78,26 +85,65 @@ std::string Summary(int rows, const std::string& file, const std::vector<Problem
     return loaded + "; " + TextOf(problems.front()) + more;
 }
 
-int FillGrid(HWND frame, const Options& options)
+int ShowGeneratedRecords(HWND frame, int count)
 {
-    if (options.generated >= 0) {
-        AllowSorting(false);
-        ShowGenerated(GridOf(frame), options.generated);
-        SetRecordCount(options.generated);
-        TellStatus(frame, std::to_string(options.generated) + " generated records");
-        std::printf("%ld of %d generated records are loaded\n",
-                    static_cast<long>(SendMessageA(GridOf(frame), HGM_GETROWCOUNT, 0, 0)), options.generated);
-        return 0;
-    }
+    ShowGenerated(GridOf(frame), count);
+    SetRecordCount(count);
+    TellStatus(std::to_string(count) + " generated records");
+    std::printf("%ld of %d generated records are loaded\n",
+                static_cast<long>(SendMessageA(GridOf(frame), HGM_GETROWCOUNT, 0, 0)), count);
+    return 0;
+}
+
+int ShowFile(HWND frame, Table& table)
+{
     std::vector<Problem> problems;
     const DWORD          start = GetTickCount();
-    const int            rows = LoadRows(GridOf(frame), options.csv, problems);
+    const bool           loaded = LoadRows(GridOf(frame), table, problems);
+    const int            rows = static_cast<int>(table.order.size());
     std::printf("%d rows loaded in %lu ms, %u problems\n", rows, GetTickCount() - start,
                 static_cast<unsigned>(problems.size()));
     TellProblems(problems);
     SetRecordCount(rows);
-    TellStatus(frame, Summary(rows, options.csv.substr(FolderOf(options.csv.c_str()).size()), problems));
+    if (loaded) {
+        AllowEditing(table);
+    }
+    TellStatus(Summary(rows, NameOf(table.path), problems));
     return problems.empty() ? 0 : 1;
+}
+
+// What the command line wants changed, by the ways of the window. Why it can't be, or empty.
+std::string MakeChange(HWND grid, Table& table, const Change& change)
+{
+    const int row = change.row - 1;
+    if (!change.deletes) {
+        const LRESULT column = SendMessageA(grid, HGM_FINDFIELD, 0, reinterpret_cast<LPARAM>(change.column.c_str()));
+        return SetCell(grid, table, { static_cast<short>(column), row }, change.text);
+    }
+    if (row >= RecordCount(table)) {
+        return "there is no such row";
+    }
+    SendMessageA(grid, HGM_SETCURSOR, FALSE, Packed({ -1, row }));
+    DeleteRows(grid);
+    return std::string();
+}
+
+// Stops at the first change that is refused, and then saves nothing.
+bool MakeChanges(HWND grid, Table& table, const Options& options)
+{
+    for (const Change& change : options.changes) {
+        const std::string problem = MakeChange(grid, table, change);
+        if (!problem.empty()) {
+            const std::string column = change.deletes ? std::string() : ", column \"" + change.column + "\"";
+            std::fprintf(stderr, "row %d%s: %s\n", change.row, column.c_str(), problem.c_str());
+            return false;
+        }
+    }
+    const std::string problem = options.save.empty() ? std::string() : SaveTable(table, options.save);
+    if (!problem.empty()) {
+        std::fprintf(stderr, "%s\n", problem.c_str());
+    }
+    return problem.empty();
 }
 
 // Runs until the window is closed; tells when it has been painted for the first time.
@@ -114,8 +160,10 @@ int RunLoop(HWND frame)
             std::printf("ready\n");
             std::fflush(stdout);
         }
-        TranslateMessage(&message);
-        DispatchMessageA(&message);
+        if (!TakeShortcut(frame, message)) {
+            TranslateMessage(&message);
+            DispatchMessageA(&message);
+        }
     }
     return 0;
 }
@@ -134,7 +182,9 @@ int main(int count, char** arguments)
     if (!options.error.empty()) {
         return Fail(options.error + "\n" + usage);
     }
-    options.csv = FullPath(options.csv);
+    static Table table;
+    table.path = FullPath(options.csv);
+    options.save = options.save.empty() ? std::string() : FullPath(options.save);
     const std::string definition = FullPath(options.definition);
     const std::string name = EnterFolderOf(definition);
     const std::string wrong = CheckDefinition(name);
@@ -146,10 +196,12 @@ int main(int count, char** arguments)
     if (!frame) {
         return Fail("the window cannot be made");
     }
-    const int result = FillGrid(frame, options);
+    const int  result =
+        options.generated >= 0 ? ShowGeneratedRecords(frame, options.generated) : ShowFile(frame, table);
+    const bool changed = MakeChanges(GridOf(frame), table, options);
     if (options.reportOnly) {
         DestroyWindow(frame);
-        return result;
+        return changed ? result : 2;
     }
     ShowWindow(frame, SW_SHOW);
     SetFocus(GridOf(frame));

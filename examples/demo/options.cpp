@@ -8,12 +8,29 @@
 
 const char* const usage =
     "usage: widgets_demo [--definition FILE.grs] [--csv FILE.csv] [--virtual N] [--report]\n"
+    "                    [--set ROW COLUMN TEXT]... [--clear ROW COLUMN]... [--delete ROW]...\n"
+    "                    [--save FILE.csv]\n"
     "  --definition FILE  columns of the grid; birdstrikes.grs beside the program\n"
     "  --csv FILE         rows of the grid; birdstrikes.csv beside the program\n"
     "  --virtual N        shows N generated records in place of the rows of a file\n"
-    "  --report           loads, tells what could not be read, and leaves without a window\n";
+    "  --report           loads, tells what could not be read, and leaves without a window\n"
+    "  --set R COLUMN T   types T into a column of row R, from 1; the row behind the last adds one\n"
+    "  --clear R COLUMN   empties a column of row R\n"
+    "  --delete R         deletes row R as it then counts\n"
+    "  --save FILE        saves the rows after these changes\n";
 
 namespace {
+
+// What an option takes; null when fewer arguments are left. The place moves behind them.
+char** TakeArguments(int count, char** arguments, int* place, int wanted)
+{
+    if (*place + wanted >= count) {
+        return nullptr;
+    }
+    char** const values = arguments + *place + 1;
+    *place += wanted;
+    return values;
+}
 
 bool ReadCount(const char* text, int* out)
 {
@@ -27,24 +44,51 @@ bool ReadCount(const char* text, int* out)
     return true;
 }
 
-// An option with a value: false if it is no such option.
-bool TakeValue(Options& options, const std::string& name, const char* value)
+void TakeRow(Options& options, const std::string& name, const char* text, Change change)
 {
-    if (name == "--definition") {
-        options.definition = value;
-        return true;
+    if (!ReadCount(text, &change.row) || change.row < 1) {
+        options.error = name + " takes the number of a row, from 1, not \"" + text + "\"";
     }
-    if (name == "--csv") {
-        options.csv = value;
-        return true;
+    options.changes.push_back(change);
+}
+
+void TakeGenerated(Options& options, const std::string& name, char** values)
+{
+    if (!ReadCount(values[0], &options.generated)) {
+        options.error = name + " takes a number of records, not \"" + values[0] + "\"";
     }
-    if (name != "--virtual") {
-        return false;
+}
+
+struct OptionKind {
+    const char* name;
+    int         values;
+    void (*take)(Options& options, const std::string& name, char** values);
+};
+
+// clang-format off
+constexpr OptionKind optionKinds[] = {
+    { "--report",     0, [](Options& options, const std::string&, char**) { options.reportOnly = true; } },
+    { "--definition", 1, [](Options& options, const std::string&, char** values) { options.definition = values[0]; } },
+    { "--csv",        1, [](Options& options, const std::string&, char** values) { options.csv = values[0]; } },
+    { "--save",       1, [](Options& options, const std::string&, char** values) { options.save = values[0]; } },
+    { "--virtual",    1, TakeGenerated },
+    { "--set",        3, [](Options& options, const std::string& name, char** values) {
+          TakeRow(options, name, values[0], { false, 0, values[1], values[2] }); } },
+    { "--clear",      2, [](Options& options, const std::string& name, char** values) {
+          TakeRow(options, name, values[0], { false, 0, values[1], {} }); } },
+    { "--delete",     1, [](Options& options, const std::string& name, char** values) {
+          TakeRow(options, name, values[0], { true, 0, {}, {} }); } },
+};
+// clang-format on
+
+const OptionKind* FindOption(const std::string& name)
+{
+    for (const OptionKind& kind : optionKinds) {
+        if (name == kind.name) {
+            return &kind;
+        }
     }
-    if (!ReadCount(value, &options.generated)) {
-        options.error = std::string("--virtual takes a number of records, not \"") + value + "\"";
-    }
-    return true;
+    return nullptr;
 }
 
 } // namespace
@@ -55,11 +99,11 @@ Options ReadOptions(int count, char** arguments, const std::string& folder)
     options.definition = folder + options.definition;
     options.csv = folder + options.csv;
     for (int i = 1; i < count && options.error.empty(); ++i) {
-        const std::string name = arguments[i];
-        if (name == "--report") {
-            options.reportOnly = true;
-        } else if (i + 1 < count && TakeValue(options, name, arguments[i + 1])) {
-            ++i;
+        const std::string       name = arguments[i];
+        const OptionKind* const kind = FindOption(name);
+        char** const            values = kind ? TakeArguments(count, arguments, &i, kind->values) : nullptr;
+        if (values) {
+            kind->take(options, name, values);
         } else {
             options.error = "cannot make sense of \"" + name + "\"";
         }

@@ -1,5 +1,7 @@
-// The frame window: a grid above a status line, sorting by a click on a column header.
+// The frame window: a menu, a grid and a status line; what is done with the rows stands in table.cpp.
 #include "window.h"
+
+#include "table.h"
 
 #include <commctrl.h>
 
@@ -8,6 +10,10 @@ namespace {
 constexpr const char* frameClass = "WildlifeStrikes";
 constexpr INT_PTR     gridId = 100;
 constexpr INT_PTR     statusId = 101;
+constexpr int         saveId = 200;
+constexpr int         exitId = 201;
+constexpr int         newId = 202;
+constexpr int         deleteId = 203;
 constexpr UINT        sortMessage = WM_APP; // wParam: column
 constexpr int         frameWidth = 1240;
 constexpr int         frameHeight = 720;
@@ -17,27 +23,22 @@ constexpr COLORREF    faceColor = RGB(233, 239, 246);   // headers, lines and ev
 constexpr COLORREF    stripeColor = RGB(255, 255, 255); // the rows between
 constexpr COLORREF    selectColor = RGB(190, 209, 234); // headers of the current row and column
 
+constexpr const char* frameTitle = "Wildlife strikes";
+
 // The one frame of the program.
 struct Frame {
-    HWND  grid = nullptr;
-    HWND  status = nullptr;
-    HFONT font = nullptr;
-    int   records = 0;
-    bool  sorting = true;
-    int   sortedColumn = allOrNone;
-    bool  ascending = true;
+    HWND    window = nullptr;
+    HWND    grid = nullptr;
+    HWND    status = nullptr;
+    HFONT   font = nullptr;
+    HACCEL  shortcuts = nullptr;
+    Table*  table = nullptr; // null: the grid only shows
+    int     records = 0;     // where there is no table
+    int     sortedColumn = allOrNone;
+    bool    ascending = true;
+    bool    refused = false; // the edit that is ending had a value that can't be taken
 };
 Frame frame;
-
-struct Cell {
-    int column;
-    int row;
-};
-
-Cell CellOf(LRESULT packed)
-{
-    return { static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed)) };
-}
 
 HFONT MessageFont()
 {
@@ -62,23 +63,38 @@ void Layout(HWND hwnd)
 
 void ShowRecord()
 {
-    const Cell    cell = CellOf(SendMessageA(frame.grid, HGM_GETCURSOR, 0, 0));
-    const LRESULT record = cell.row + SendMessageA(frame.grid, HGM_GETROWBASE, 0, 0) + 1;
+    const LRESULT record = CurrentCell(frame.grid).row + SendMessageA(frame.grid, HGM_GETROWBASE, 0, 0) + 1;
+    const int     count = frame.table ? RecordCount(*frame.table) : frame.records;
     char          text[64];
-    wsprintfA(text, "Record %ld of %ld", static_cast<long>(record), static_cast<long>(frame.records));
+    if (record > count) {
+        wsprintfA(text, "New record, after %ld", static_cast<long>(count));
+    } else {
+        wsprintfA(text, "Record %ld of %ld", static_cast<long>(record), static_cast<long>(count));
+    }
     SendMessageA(frame.status, SB_SETTEXTA, 0, reinterpret_cast<LPARAM>(text));
 }
 
-// A move to a column's header asks for sorting; the current cell stays where it is.
+void ShowChanged()
+{
+    const bool        changed = frame.table && frame.table->changed;
+    const std::string title = std::string(frameTitle) + (changed ? " *" : "");
+    SetWindowTextA(frame.window, title.c_str());
+}
+
+// A value that was refused keeps the current cell. A move to a column's header asks for sorting, and the current cell
+// stays where it is, too.
 void OnMoving()
 {
     const Cell proposed = CellOf(SendMessageA(frame.grid, HGM_GETPROPOSED, 0, 0));
-    if (!frame.sorting || proposed.row != allOrNone || proposed.column < 0) {
+    const bool sorts = frame.table && proposed.row == allOrNone && proposed.column >= 0;
+    if (!frame.refused && !sorts) {
         return;
     }
-    const LRESULT current = SendMessageA(frame.grid, HGM_GETCURSOR, 0, 0);
-    SendMessageA(frame.grid, HGM_SETPROPOSED, 0, current);
-    PostMessageA(GetParent(frame.grid), sortMessage, static_cast<WPARAM>(proposed.column), 0);
+    SendMessageA(frame.grid, HGM_SETPROPOSED, 0, Packed(CurrentCell(frame.grid)));
+    if (!frame.refused) {
+        PostMessageA(frame.window, sortMessage, static_cast<WPARAM>(proposed.column), 0);
+    }
+    frame.refused = false;
 }
 
 void Sort(int column)
@@ -86,10 +102,119 @@ void Sort(int column)
     constexpr LPARAM none = 0xFFFF;
     frame.ascending = frame.sortedColumn != column || !frame.ascending;
     frame.sortedColumn = column;
-    SendMessageA(frame.grid, HGM_SORT, MAKEWPARAM(column, frame.ascending), 0);
+    SendMessageA(frame.grid, HGM_SORT, MAKEWPARAM(column, frame.ascending),
+                 reinterpret_cast<LPARAM>(frame.table->order.data()));
     SendMessageA(frame.grid, HGM_SETSORTCOL, 0, frame.ascending ? column : none);
     SendMessageA(frame.grid, HGM_SETSORTCOL2, 0, frame.ascending ? none : column);
     SendMessageA(frame.grid, HGM_REFRESH, TRUE, 0);
+    // Another record stands in the current cell now, and its editor is to show it.
+    const Cell current = CurrentCell(frame.grid);
+    if (current.row >= 0) {
+        SendMessageA(frame.grid, HGM_SETCURSOR, FALSE, Packed(current));
+    }
+}
+
+// False, and the reason in the status line, if what stands in the editor is no value of its column.
+bool TakeEdit()
+{
+    const std::string problem = CheckEdit(frame.grid, *frame.table);
+    frame.refused = !problem.empty();
+    TellStatus(frame.refused ? problem + "; the value from before is back" : std::string());
+    if (frame.refused) {
+        MessageBeep(MB_ICONWARNING);
+    }
+    return !frame.refused;
+}
+
+// An editor loses the focus. What Esc takes back needs no check.
+void OnEditBlur()
+{
+    if (GetKeyState(VK_ESCAPE) < 0) {
+        TellStatus(std::string());
+    } else {
+        TakeEdit();
+    }
+    frame.table->editing = false;
+}
+
+// Ends an edit under way. False if its value can't be taken.
+bool EndEdit()
+{
+    frame.refused = false;
+    SendMessageA(frame.grid, WM_COMMAND, IDOK, 0);
+    const bool taken = !frame.refused;
+    frame.refused = false;
+    return taken;
+}
+
+bool Save()
+{
+    if (!frame.table || !EndEdit()) {
+        return false;
+    }
+    const std::string problem = SaveTable(*frame.table, frame.table->path);
+    TellStatus(problem.empty() ? std::to_string(RecordCount(*frame.table)) + " rows saved to " + frame.table->path
+                               : problem);
+    ShowChanged();
+    return problem.empty();
+}
+
+// False if the window is to stay.
+bool MayClose()
+{
+    const bool ended = !frame.table || EndEdit();
+    if (!ended || !frame.table || !frame.table->changed) {
+        return ended;
+    }
+    const int answer = MessageBoxA(frame.window, "Save the changes?", frameTitle, MB_YESNOCANCEL | MB_ICONQUESTION);
+    return answer == IDNO || (answer == IDYES && Save());
+}
+
+void DeleteSelected()
+{
+    if (frame.table && EndEdit()) {
+        DeleteRows(frame.grid);
+    }
+}
+
+void OnCommand(int id)
+{
+    switch (id) {
+    case saveId:   Save(); break;
+    case exitId:   SendMessageA(frame.window, WM_CLOSE, 0, 0); break;
+    case newId:    SendMessageA(frame.grid, HGM_KEYNEW, 0, 0); break;
+    case deleteId: DeleteSelected(); break;
+    default:       break;
+    }
+}
+
+// A cell got another value. When the focus goes to another window, this comes before the editor's loss of it.
+void OnCellValue()
+{
+    if (frame.table->editing && !TakeEdit()) {
+        SendMessageA(frame.grid, WWM_CANCEL, 0, 0);
+    } else {
+        OnCellChanged(frame.grid, *frame.table);
+    }
+}
+
+// What concerns changes only.
+void OnEdit(int code)
+{
+    switch (code) {
+    case HGN_CELLCHANGED: OnCellValue(); break;
+    case HGN_NEWROW:      OnNewRow(frame.grid, *frame.table); break;
+    case HGN_ROWDELETING: OnRowDeleting(frame.grid, *frame.table); break;
+    case HGN_EDITBLUR:    OnEditBlur(); break;
+    case HGN_EDITFOCUS:
+        BeginEdit(frame.grid, *frame.table);
+        frame.refused = false;
+        TellStatus("Enter or Tab takes the text, Esc takes it back");
+        break;
+    default: return;
+    }
+    ShowRecord();
+    ShowChanged();
 }
 
 void OnNotification(int code)
@@ -97,8 +222,44 @@ void OnNotification(int code)
     switch (code) {
     case HGN_MOVING: OnMoving(); break;
     case HGN_MOVED:
-    case HGN_LAYOUT: ShowRecord(); break;
-    default:         break;
+    case HGN_LAYOUT:    ShowRecord(); break;
+    case HGN_KILLFOCUS: frame.refused = false; break;
+    default:
+        if (IsEditable(frame.table)) {
+            OnEdit(code);
+        }
+        break;
+    }
+}
+
+void EnableCommands(HMENU menu)
+{
+    const UINT state = frame.table ? MF_ENABLED : MF_GRAYED;
+    for (const int id : { saveId, newId, deleteId }) {
+        EnableMenuItem(menu, static_cast<UINT>(id), state);
+    }
+}
+
+HMENU MakeMenu()
+{
+    const HMENU menu = CreateMenu();
+    const HMENU file = CreatePopupMenu();
+    const HMENU record = CreatePopupMenu();
+    AppendMenuA(file, MF_STRING, saveId, "&Save\tCtrl+S");
+    AppendMenuA(file, MF_STRING, exitId, "E&xit\tAlt+F4");
+    AppendMenuA(record, MF_STRING, newId, "&New\tInsert");
+    AppendMenuA(record, MF_STRING, deleteId, "&Delete\tDel");
+    AppendMenuA(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(file), "&File");
+    AppendMenuA(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(record), "&Record");
+    return menu;
+}
+
+void OnFrameCommand(WPARAM wParam, LPARAM lParam)
+{
+    if (!lParam) {
+        OnCommand(LOWORD(wParam));
+    } else if (frame.grid && LOWORD(wParam) == gridId) {
+        OnNotification(HIWORD(wParam));
     }
 }
 
@@ -111,9 +272,11 @@ LRESULT CALLBACK FrameProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam
     case WM_ERASEBKGND: return 1;
     case WM_MOUSEWHEEL: return SendMessageA(frame.grid, message, wParam, lParam);
     case sortMessage:   Sort(static_cast<int>(wParam)); return 0;
-    case WM_COMMAND:
-        if (frame.grid && LOWORD(wParam) == gridId) {
-            OnNotification(HIWORD(wParam));
+    case WM_COMMAND:    OnFrameCommand(wParam, lParam); return 0;
+    case WM_INITMENUPOPUP: EnableCommands(reinterpret_cast<HMENU>(wParam)); return 0;
+    case WM_CLOSE:
+        if (MayClose()) {
+            DestroyWindow(hwnd);
         }
         return 0;
     case WM_DESTROY:
@@ -144,20 +307,25 @@ HWND MakeFrame(const std::string& definition)
     SetGridBckgndColor(faceColor, stripeColor);
     SetGridSelectColor(selectColor);
     frame.font = MessageFont();
-    const HWND hwnd = CreateWindowExA(0, frameClass, "Wildlife strikes", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                                      CW_USEDEFAULT, CW_USEDEFAULT, frameWidth, frameHeight, nullptr, nullptr, instance,
-                                      nullptr);
+    const HWND hwnd = CreateWindowExA(0, frameClass, frameTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
+                                      CW_USEDEFAULT, frameWidth, frameHeight, nullptr, MakeMenu(), instance, nullptr);
     if (!hwnd) {
         return nullptr;
     }
+    frame.window = hwnd;
     frame.status = CreateWindowExA(0, STATUSCLASSNAMEA, "", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0, hwnd,
                                    reinterpret_cast<HMENU>(statusId), instance, nullptr);
     SendMessageA(frame.status, WM_SETFONT, reinterpret_cast<WPARAM>(frame.font), FALSE);
     // The grid finds its definition by its title, and takes its font from this window.
     frame.grid = CreateWindowExA(0, "HGrid", definition.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, frameWidth,
                                  frameHeight, hwnd, reinterpret_cast<HMENU>(gridId), instance, nullptr);
+    if (!frame.grid) {
+        return nullptr;
+    }
+    ACCEL save = { FVIRTKEY | FCONTROL, 'S', saveId };
+    frame.shortcuts = CreateAcceleratorTableA(&save, 1);
     Layout(hwnd);
-    return frame.grid ? hwnd : nullptr;
+    return hwnd;
 }
 
 HWND GridOf(HWND)
@@ -171,12 +339,18 @@ void SetRecordCount(int count)
     ShowRecord();
 }
 
-void AllowSorting(bool allowed)
+void AllowEditing(Table& table)
 {
-    frame.sorting = allowed;
+    frame.table = &table;
+    BeginEditing(frame.grid, table);
 }
 
-void TellStatus(HWND, const std::string& text)
+void TellStatus(const std::string& text)
 {
     SendMessageA(frame.status, SB_SETTEXTA, 1, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+bool TakeShortcut(HWND window, MSG& message)
+{
+    return TranslateAcceleratorA(window, frame.shortcuts, &message) != 0;
 }

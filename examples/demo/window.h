@@ -1,16 +1,20 @@
-// The frame window: a grid above a status line, sorting by a click on a column header.
+// The frame window: a menu, a grid and a status line; sorting by a click on a column header, editing, saving.
 #pragma once
 
 #include <widgets/widgets.h>
 
 #include <string>
 
+struct Table;
+
 // Makes the frame, with a grid of the named definition in it; null if the window can't be made.
 HWND MakeFrame(const std::string& definition);
 HWND GridOf(HWND frame);
-// Sorting is for grids that hold all their rows.
-void AllowSorting(bool allowed);
-// How many records there are, for the status line.
+// Opens the loaded rows for changes. A grid that nobody opened only shows.
+void AllowEditing(Table& table);
+// How many records there are, for the status line, where no table counts them.
 void SetRecordCount(int count);
 // Shows a text in the status line, as its right part.
-void TellStatus(HWND frame, const std::string& text);
+void TellStatus(const std::string& text);
+// Ctrl+S, before a message goes to its window: true if it was that.
+bool TakeShortcut(HWND frame, MSG& message);
