@@ -36,5 +36,17 @@ double Milliseconds(); // a clock that only goes on
 void   PumpMessages();
 unsigned AddToChecksum(unsigned checksum, const char* text);
 
+// Milliseconds of one typed character and of one step down, each with its repaint; 0 if it went wrong.
+struct EntryTimings {
+    double typing = 0;
+    double step = 0;
+};
+
+HWND MakeGrid(HWND parent, DWORD gridStyle);
+void LoadGrid(HWND grid, const std::vector<std::string>& texts);
+HWND MakeListView(HWND parent);
+void LoadListView(HWND list, const std::vector<std::string>& texts);
+
+void    RunEntry(HWND parent, const std::vector<std::string>& texts, EntryTimings* ours, EntryTimings* platform);
 Timings RunGrid(HWND parent, const std::vector<std::string>& texts);
 Timings RunListView(HWND parent, const std::vector<std::string>& texts);

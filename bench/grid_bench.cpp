@@ -5,29 +5,6 @@ namespace {
 
 constexpr int textSize = 24;
 
-HWND MakeGrid(HWND parent)
-{
-    constexpr DWORD style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL | HGS_COLHEADERS | HGS_READONLY;
-    const HWND grid = CreateWindowExA(0, "HGrid", "", style, 0, 0, windowWidth, windowHeight, parent, nullptr,
-                                      GetModuleHandleA(nullptr), nullptr);
-    for (int column = 0; column < columnCount; ++column) {
-        HGField* const field = HGFieldCreate("Column", 0, columnWidth, 0, 's', 's', 0, 0, textSize, 'e', 0, "", 0);
-        SendMessageA(grid, HGM_ADDFIELD, 0, reinterpret_cast<LPARAM>(field));
-    }
-    return grid;
-}
-
-void Load(HWND grid, const std::vector<std::string>& texts)
-{
-    for (int row = 0; row < rowCount; ++row) {
-        SendMessageA(grid, HGM_ADDROW, 0, 0);
-        for (int column = 0; column < columnCount; ++column) {
-            HGSetCellText(grid, column, row, TextAt(texts, row, column).c_str());
-        }
-    }
-    SendMessageA(grid, HGM_REFRESH, TRUE, 0);
-}
-
 unsigned Checksum(HWND grid)
 {
     unsigned checksum = 0;
@@ -41,14 +18,37 @@ unsigned Checksum(HWND grid)
 
 } // namespace
 
+HWND MakeGrid(HWND parent, DWORD gridStyle)
+{
+    const DWORD style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL | HGS_COLHEADERS | gridStyle;
+    const HWND grid = CreateWindowExA(0, "HGrid", "", style, 0, 0, windowWidth, windowHeight, parent, nullptr,
+                                      GetModuleHandleA(nullptr), nullptr);
+    for (int column = 0; column < columnCount; ++column) {
+        HGField* const field = HGFieldCreate("Column", 0, columnWidth, 0, 's', 's', 0, 0, textSize, 'e', 0, "", 0);
+        SendMessageA(grid, HGM_ADDFIELD, 0, reinterpret_cast<LPARAM>(field));
+    }
+    return grid;
+}
+
+void LoadGrid(HWND grid, const std::vector<std::string>& texts)
+{
+    for (int row = 0; row < rowCount; ++row) {
+        SendMessageA(grid, HGM_ADDROW, 0, 0);
+        for (int column = 0; column < columnCount; ++column) {
+            HGSetCellText(grid, column, row, TextAt(texts, row, column).c_str());
+        }
+    }
+    SendMessageA(grid, HGM_REFRESH, TRUE, 0);
+}
+
 Timings RunGrid(HWND parent, const std::vector<std::string>& texts)
 {
     Timings    timings;
-    const HWND grid = MakeGrid(parent);
+    const HWND grid = MakeGrid(parent, HGS_READONLY);
     PumpMessages();
 
     double start = Milliseconds();
-    Load(grid, texts);
+    LoadGrid(grid, texts);
     timings.load = Milliseconds() - start;
     PumpMessages();
 

@@ -4,8 +4,6 @@
 
 #include <commctrl.h>
 
-namespace {
-
 HWND MakeListView(HWND parent)
 {
     constexpr DWORD style = WS_CHILD | WS_VISIBLE | LVS_REPORT;
@@ -22,7 +20,7 @@ HWND MakeListView(HWND parent)
     return list;
 }
 
-void SetText(HWND list, int row, int column, const std::string& text)
+static void SetText(HWND list, int row, int column, const std::string& text)
 {
     LVITEMA item = {};
     item.iSubItem = column;
@@ -31,7 +29,7 @@ void SetText(HWND list, int row, int column, const std::string& text)
 }
 
 // As its documentation advises for many rows: room for them at once, and nothing drawn until all are there.
-void Load(HWND list, const std::vector<std::string>& texts)
+void LoadListView(HWND list, const std::vector<std::string>& texts)
 {
     SendMessageA(list, WM_SETREDRAW, FALSE, 0);
     SendMessageA(list, LVM_SETITEMCOUNT, rowCount, 0);
@@ -48,6 +46,8 @@ void Load(HWND list, const std::vector<std::string>& texts)
     }
     SendMessageA(list, WM_SETREDRAW, TRUE, 0);
 }
+
+namespace {
 
 // The host has the texts at hand, which is the quickest that a callback can be.
 int CALLBACK Compare(LPARAM a, LPARAM b, LPARAM texts)
@@ -81,7 +81,7 @@ Timings RunListView(HWND parent, const std::vector<std::string>& texts)
     PumpMessages();
 
     double start = Milliseconds();
-    Load(list, texts);
+    LoadListView(list, texts);
     timings.load = Milliseconds() - start;
     PumpMessages();
 

@@ -1,4 +1,5 @@
-// Measures the grid against the platform's list-view in one run and prints the ratios: below 1 the grid is quicker.
+// Measures grid and edit against the platform's list-view and EDIT control in one run and prints the ratios: below 1
+// ours are quicker.
 #include "bench.h"
 
 #include <commctrl.h>
@@ -35,7 +36,7 @@ bool RunRounds(HWND parent, const std::vector<std::string>& texts, Timings& grid
 
 void PrintRow(const char* what, double grid, double list)
 {
-    std::printf("%-34s %10.2f %12.2f %8.3f\n", what, grid, list, list > 0 ? grid / list : 0.0);
+    std::printf("%-34s %10.3f %12.3f %8.3f\n", what, grid, list, list > 0 ? grid / list : 0.0);
 }
 
 } // namespace
@@ -48,14 +49,24 @@ int main()
     Timings grid;
     Timings list;
     const bool same = RunRounds(parent, texts, grid, list);
+    EntryTimings ours;
+    EntryTimings platform;
+    RunEntry(parent, texts, &ours, &platform);
     DestroyWindow(parent);
 
-    std::printf("%d rows, %d columns, %d by %d pixels, %u-bit, best of %d rounds\n", rowCount, columnCount, windowWidth, windowHeight,
-                static_cast<unsigned>(8 * sizeof(void*)), roundCount);
+    std::printf("%d rows, %d columns, %d by %d pixels, %u-bit, best of %d rounds\n", rowCount, columnCount, windowWidth,
+                windowHeight, static_cast<unsigned>(8 * sizeof(void*)), roundCount);
     std::printf("%-34s %10s %12s %8s\n", "milliseconds", "grid", "list-view", "ratio");
     PrintRow("load all rows", grid.load, list.load);
     PrintRow("sort by a text column", grid.sort, list.sort);
     PrintRow("repaint the whole window", grid.paint, list.paint);
+    PrintRow("one step down with its repaint", ours.step, platform.step);
+    std::printf("%-34s %10s %12s %8s\n", "", "edit", "EDIT", "ratio");
+    PrintRow("one character with its repaint", ours.typing, platform.typing);
+    if (ours.step == 0 || platform.step == 0 || ours.typing == 0 || platform.typing == 0) {
+        std::printf("not every character or step arrived\n");
+        return 1;
+    }
     if (!same) {
         std::printf("the two controls don't hold the same texts in the same order\n");
         return 1;
