@@ -7,6 +7,7 @@
 namespace {
 
 constexpr int roomForDelete = 8; // characters that a delete step may put in
+constexpr int overhang = 2;      // pixels by which a letter such as j may reach over its neighbour
 
 void PlaceAt(HEditCtl* ctl, int index)
 {
@@ -90,12 +91,14 @@ RedrawScope::~RedrawScope()
 
 void InvalidateTyped(HEditCtl* ctl, int from, int count)
 {
-    RECT rect = ctl->rcText;
+    const RECT field = ctl->rcText;
+    RECT       rect = field;
     if (HasFlag(ctl, HEF_RIGHT)) {
-        rect.right = CaretX(ctl, from + count);
+        rect.right = CaretX(ctl, from + count) + overhang;
     } else {
-        rect.left = CaretX(ctl, from);
+        rect.left = CaretX(ctl, from) - overhang;
     }
+    IntersectRect(&rect, &rect, &field);
     InvalidateRect(ctl->hWnd, &rect, TRUE);
 }
 

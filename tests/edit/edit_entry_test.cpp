@@ -454,6 +454,25 @@ TEST_F(EditEntry, TypedTextIsPaintedAsIfItHadStoodThere)
     }
 }
 
+TEST_F(EditEntry, EachCharacterIsPaintedBeforeTheNext)
+{
+    constexpr DWORD styles[] = { HES_AUTOHSCROLL, HES_AUTOHSCROLL | HES_EDITRIGHT };
+    AnswerColors(GetSysColorBrush(COLOR_WINDOW));
+    for (const DWORD style : styles) {
+        Make("", style);
+        UpdateWindow(edit);
+        for (const char ch : std::string("HIDDEN FIELD, wavy Wijk")) {
+            Key(ch);
+            UpdateWindow(edit);
+        }
+        HideCaret(edit);
+        const Pixels typed = ShotOf(edit);
+        InvalidateRect(edit, nullptr, TRUE);
+        EXPECT_TRUE(SamePixels(ShotOf(edit), typed)) << "style " << style;
+        DestroyWindow(edit);
+    }
+}
+
 TEST_F(EditEntry, UpdatingIsSetWhileASelectionIsReplaced)
 {
     Make("abcdef", HES_AUTOHSCROLL);
