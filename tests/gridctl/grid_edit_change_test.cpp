@@ -1,6 +1,8 @@
 // Edits under way while the host changes columns or rows: what was typed reaches its own cell, and no other.
 #include "gridctl/grid_editing.h"
 
+#include "support/pixels.h"
+
 #include <algorithm>
 
 namespace {
@@ -375,6 +377,21 @@ TEST_F(GridEditChange, HostDrawnColumnsChildTellsTheGridNothingOfItsFocus)
     SetFocus(parent.hwnd());
     EXPECT_NOTHING_SEEN();
     EXPECT_EQ(0, parent.Count(HGN_EDITFOCUS) + parent.Count(HGN_EDITBLUR));
+}
+
+
+TEST_F(GridEditChange, TypedTextIsPaintedWhole)
+{
+    MakeGrid(GridOf({ Text(), Text(32) }), 3);
+    StandOn(1, 1);
+    TypeText("Hidden fjord, WAVY");
+    const HWND editor = Editor();
+    ASSERT_EQ(editor, GetFocus());
+    UpdateWindow(editor);
+    HideCaret(editor);
+    const Pixels typed = ShotOf(editor);
+    InvalidateRect(editor, nullptr, TRUE);
+    EXPECT_TRUE(SamePixels(ShotOf(editor), typed));
 }
 
 } // namespace
