@@ -4,6 +4,21 @@
 
 namespace {
 
+constexpr int   openTries = 20;
+constexpr DWORD openPause = 10; // milliseconds
+
+// Programs that watch the clipboard hold it for a moment after each change: a copy or paste right then isn't dropped.
+bool OpenClipboardSoon(HWND hwnd)
+{
+    for (int i = 1; !OpenClipboard(hwnd); ++i) {
+        if (i == openTries) {
+            return false;
+        }
+        Sleep(openPause);
+    }
+    return true;
+}
+
 LRESULT Refuse()
 {
     MessageBeep(0);
@@ -28,7 +43,7 @@ void GiveToClipboard(const char* text, int count)
 
 void CopyRange(HEditCtl* ctl, TextRange range)
 {
-    if (range.lo < range.hi && OpenClipboard(ctl->hWnd)) {
+    if (range.lo < range.hi && OpenClipboardSoon(ctl->hWnd)) {
         GiveToClipboard(FieldText(ctl) + range.lo, range.hi - range.lo);
         CloseClipboard();
     }
@@ -37,7 +52,7 @@ void CopyRange(HEditCtl* ctl, TextRange range)
 // A copy of the clipboard's text, since its own is gone once the clipboard is closed.
 char* TextOfClipboard(HWND hwnd)
 {
-    if (!IsClipboardFormatAvailable(CF_TEXT) || !OpenClipboard(hwnd)) {
+    if (!IsClipboardFormatAvailable(CF_TEXT) || !OpenClipboardSoon(hwnd)) {
         return nullptr;
     }
     const HANDLE      block = GetClipboardData(CF_TEXT);

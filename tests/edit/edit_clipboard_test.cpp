@@ -135,4 +135,58 @@ TEST_F(EditClipboard, PasteOfAnEmptyClipboardDoesNothing)
     EXPECT_EQ("abcdef", Text());
 }
 
+// Another program that looks into the clipboard: it holds it until it is told, or for a few tries of ours.
+struct ClipboardHolder {
+    HANDLE holds = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+    HANDLE letGo = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+    DWORD  longest = 40; // milliseconds
+    HANDLE thread = nullptr;
+
+    static DWORD WINAPI Run(void* self)
+    {
+        const ClipboardHolder* const holder = static_cast<const ClipboardHolder*>(self);
+        while (!OpenClipboard(nullptr)) {
+            SwitchToThread();
+        }
+        SetEvent(holder->holds);
+        WaitForSingleObject(holder->letGo, holder->longest);
+        CloseClipboard();
+        return 0;
+    }
+    void Start()
+    {
+        thread = CreateThread(nullptr, 0, Run, this, 0, nullptr);
+        WaitForSingleObject(holds, INFINITE);
+    }
+    ~ClipboardHolder()
+    {
+        SetEvent(letGo);
+        for (const HANDLE handle : { thread, holds, letGo }) {
+            WaitForSingleObject(handle, INFINITE);
+            CloseHandle(handle);
+        }
+    }
+};
+
+TEST_F(EditClipboard, PasteWaitsForAProgramThatHoldsTheClipboard)
+{
+    Make("abcdef");
+    Send(EM_SETSEL, 1, 5);
+    ClipboardHolder holder;
+    holder.Start();
+    EXPECT_EQ(1, Send(WM_PASTE));
+    EXPECT_EQ("astartf", Text());
+}
+
+TEST_F(EditClipboard, PasteGivesUpOnAProgramThatKeepsTheClipboard)
+{
+    Make("abcdef");
+    Send(EM_SETSEL, 1, 5);
+    ClipboardHolder holder;
+    holder.longest = INFINITE;
+    holder.Start();
+    EXPECT_EQ(1, Send(WM_PASTE));
+    EXPECT_EQ("abcdef", Text());
+}
+
 } // namespace
