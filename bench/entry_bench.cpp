@@ -82,7 +82,9 @@ double StepThroughGrid(HWND parent, const std::vector<std::string>& texts)
     const HWND grid = MakeGrid(parent, 0);
     LoadGrid(grid, texts);
     SendMessageA(grid, HGM_SETCURSOR, 0, 0);
-    const double time = StepDown(grid, [&] { return static_cast<int>(HIWORD(SendMessageA(grid, HGM_GETCURSOR, 0, 0))); });
+    const double time = StepDown(grid, [&] {
+        return static_cast<int>(HIWORD(SendMessageA(grid, HGM_GETCURSOR, 0, 0)));
+    });
     DestroyWindow(grid);
     return time;
 }

@@ -4,6 +4,18 @@
 
 #include <commctrl.h>
 
+namespace {
+
+void SetText(HWND list, int row, int column, const std::string& text)
+{
+    LVITEMA item = {};
+    item.iSubItem = column;
+    item.pszText = const_cast<char*>(text.c_str());
+    SendMessageA(list, LVM_SETITEMTEXTA, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+} // namespace
+
 HWND MakeListView(HWND parent)
 {
     constexpr DWORD style = WS_CHILD | WS_VISIBLE | LVS_REPORT;
@@ -18,14 +30,6 @@ HWND MakeListView(HWND parent)
         SendMessageA(list, LVM_INSERTCOLUMNA, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&info));
     }
     return list;
-}
-
-static void SetText(HWND list, int row, int column, const std::string& text)
-{
-    LVITEMA item = {};
-    item.iSubItem = column;
-    item.pszText = const_cast<char*>(text.c_str());
-    SendMessageA(list, LVM_SETITEMTEXTA, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
 }
 
 // As its documentation advises for many rows: room for them at once, and nothing drawn until all are there.

@@ -25,28 +25,36 @@ LRESULT Refuse()
     return 0;
 }
 
-// The clipboard owns the block once it has it.
-void GiveToClipboard(const char* text, int count)
+// The clipboard owns the block once it has it. False if it didn't take it.
+bool GiveToClipboard(const char* text, int count)
 {
     const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, static_cast<size_t>(count) + 1);
     void* const   bytes = block ? GlobalLock(block) : nullptr;
     if (!bytes) {
-        return;
+        return false;
     }
     std::memcpy(bytes, text, static_cast<size_t>(count));
     GlobalUnlock(block);
     EmptyClipboard();
-    if (!SetClipboardData(CF_TEXT, block)) {
-        GlobalFree(block);
+    if (SetClipboardData(CF_TEXT, block)) {
+        return true;
     }
+    GlobalFree(block);
+    return false;
 }
 
-void CopyRange(HEditCtl* ctl, TextRange range)
+// False if there was a selection and the clipboard didn't take it.
+bool CopyRange(HEditCtl* ctl, TextRange range)
 {
-    if (range.lo < range.hi && OpenClipboardSoon(ctl->hWnd)) {
-        GiveToClipboard(FieldText(ctl) + range.lo, range.hi - range.lo);
-        CloseClipboard();
+    if (range.lo >= range.hi) {
+        return true;
     }
+    if (!OpenClipboardSoon(ctl->hWnd)) {
+        return false;
+    }
+    const bool given = GiveToClipboard(FieldText(ctl) + range.lo, range.hi - range.lo);
+    CloseClipboard();
+    return given;
 }
 
 // A copy of the clipboard's text, since its own is gone once the clipboard is closed.
@@ -72,7 +80,10 @@ LRESULT CutSelection(HEditCtl* ctl)
     if (HasStyle(ctl, HES_READONLY | HES_PASSWORD)) {
         return Refuse();
     }
-    CopyRange(ctl, SelectionOf(ctl));
+    // What the clipboard hasn't got would be lost.
+    if (!CopyRange(ctl, SelectionOf(ctl))) {
+        return Refuse();
+    }
     DeleteSelection(ctl, HasStyle(ctl, HES_CLEARALL));
     return 1;
 }

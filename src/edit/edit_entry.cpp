@@ -90,8 +90,8 @@ bool IsStampedDateTime(const HEditCtl* ctl)
     return ctl->cClass == 'a' && ctl->cType == 's';
 }
 
-// The order of the default date format, in which every date is read, whatever the field's own format shows. A field that
-// shows a part of a date only reads no more than that, so it gets its entry form.
+// The order of the default date format, in which every date is read, whatever the field's own format shows. A field
+// that shows a part of a date only reads no more than that, so it gets its entry form.
 void StampDate(HEditCtl* ctl, const DateTimeRec& today)
 {
     DateTimeRec back = {};

@@ -121,7 +121,8 @@ void* ControlRecord(HWND hwnd)
     const auto wndProc = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(hwnd, GWLP_WNDPROC));
     for (const ControlClass& entry : controlClasses) {
         if (entry.wndProc == wndProc) {
-            return reinterpret_cast<void*>(GetWindowLongPtrA(hwnd, entry.recordWord * static_cast<int>(sizeof(LONG_PTR))));
+            const int place = entry.recordWord * static_cast<int>(sizeof(LONG_PTR));
+            return reinterpret_cast<void*>(GetWindowLongPtrA(hwnd, place));
         }
     }
     return reinterpret_cast<void*>(SendMessageA(hwnd, WWM_GETSTATE, 0, 0));

@@ -45,9 +45,9 @@ HGField* CurrentField(HGridCtl* ctl)
     return HGGetField(ctl->pData, CurrentCell(ctl).col);
 }
 
-// The column whose value the editor holds. Bounded: while a move is told, and for a host that changes columns meanwhile,
-// the editor may be another column's than the current one. Its value is of another type and size: it is neither read
-// nor loaded then.
+// The column whose value the editor holds. Bounded: while a move is told, and for a host that changes columns
+// meanwhile, the editor may be another column's than the current one. Its value is of another type and size: it is
+// neither read nor loaded then.
 HGField* EditedField(HGridCtl* ctl)
 {
     HGField* const field = IsWindow(ctl->hEditor) ? CurrentField(ctl) : nullptr;

@@ -309,9 +309,10 @@ void DropColumns(HGridCtl* ctl, LPARAM lParam)
         HGRefresh(ctl, true);
         return;
     }
-    // The host may have started an edit during the drag.
-    bool shown = false;
-    if (!HGBeginColumnChange(ctl, &shown)) {
+    // The host may have started an edit during the drag. The dropped columns are selected whole, without an editor.
+    const HWND hwnd = ctl->hWnd;
+    HGDetachEditor(ctl);
+    if (!IsWindow(hwnd)) {
         return;
     }
     MoveColumns(ctl, dragged, target, DropBand(ctl, hitCol, target, lParam));

@@ -168,6 +168,9 @@ void HGDrawColumnHeaderRest(HGridCtl* ctl, HDC hdc, int band)
 // The scrolling zone begins behind the widest band's fixed columns: what a narrower one leaves free before it.
 void HGDrawFixedHeaderRest(HGridCtl* ctl, HDC hdc, int band)
 {
+    if (ctl->cBands < 2 || ctl->pData->cFixedCols == 0) {
+        return;
+    }
     RECT zone;
     HGScrollRect(ctl, &zone);
     RECT       content;

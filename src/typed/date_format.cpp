@@ -324,7 +324,8 @@ int FormatDateTime(const DateTimeRec* rec, const char* format, char* out, int ou
     while (picture[printer.at] && printer.length < outSize) {
         PrintNext(&printer);
     }
-    // Bounded: the end of the text never lies past the last byte of out. Settled: what was cut off counts in the result.
+    // Bounded: the end of the text never lies past the last byte of out. Settled: what was cut off counts in the
+    // result.
     out[std::min(printer.length, outSize - 1)] = 0;
     return printer.length;
 }

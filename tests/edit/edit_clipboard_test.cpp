@@ -178,6 +178,17 @@ TEST_F(EditClipboard, PasteWaitsForAProgramThatHoldsTheClipboard)
     EXPECT_EQ("astartf", Text());
 }
 
+TEST_F(EditClipboard, CutKeepsWhatTheClipboardDoesNotTake)
+{
+    Make("abcdef");
+    Send(EM_SETSEL, 1, 5);
+    ClipboardHolder holder;
+    holder.longest = INFINITE;
+    holder.Start();
+    EXPECT_EQ(0, Send(WM_CUT));
+    EXPECT_EQ("abcdef", Text());
+}
+
 TEST_F(EditClipboard, PasteGivesUpOnAProgramThatKeepsTheClipboard)
 {
     Make("abcdef");
