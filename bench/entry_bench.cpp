@@ -3,66 +3,80 @@
 
 #include <commctrl.h>
 
-#include <functional>
-
 namespace {
 
-constexpr int charCount = 4000;
+constexpr int charCount = 3990;
 constexpr int lineLength = 30; // characters before the field is emptied
 constexpr int stepCount = 10000;
+constexpr int stepsATurn = 250;
 constexpr int fieldWidth = 300;
 constexpr int fieldHeight = 24;
 
-// Milliseconds of one WM_CHAR and the repaint behind it. 0 if the text didn't arrive.
-double TypeInto(HWND field)
+// Takes the typing or stepping of two controls in turns, so that what else the machine does meanwhile slows both alike.
+struct Turns {
+    double ours = 0;
+    double platform = 0;
+};
+
+// Milliseconds of a line of typed characters, each with its repaint.
+double TypeLine(HWND field)
 {
     SetFocus(field);
     PumpMessages();
-    double time = 0;
-    for (int done = 0; done < charCount; done += lineLength) {
-        SetWindowTextA(field, "");
-        SendMessageA(field, EM_SETSEL, 0, 0);
+    SetWindowTextA(field, "");
+    SendMessageA(field, EM_SETSEL, 0, 0);
+    UpdateWindow(field);
+    const double start = Milliseconds();
+    for (int i = 0; i < lineLength; ++i) {
+        SendMessageA(field, WM_CHAR, static_cast<WPARAM>('a' + i % 26), 1);
         UpdateWindow(field);
-        const double start = Milliseconds();
-        for (int i = 0; i < lineLength; ++i) {
-            SendMessageA(field, WM_CHAR, static_cast<WPARAM>('a' + i % 26), 1);
-            UpdateWindow(field);
-        }
-        GdiFlush();
-        time += Milliseconds() - start;
-        if (GetWindowTextLengthA(field) != lineLength) {
-            return 0;
-        }
     }
-    return time / charCount;
+    GdiFlush();
+    return Milliseconds() - start;
 }
 
-double TypeIntoNew(HWND parent, const char* className, DWORD style)
+HWND MakeField(HWND parent, const char* className, DWORD style, int top)
 {
-    const HWND field = CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE | style, 10, 10, fieldWidth, fieldHeight,
-                                       parent, nullptr, GetModuleHandleA(nullptr), nullptr);
-    const double time = TypeInto(field);
-    DestroyWindow(field);
-    return time;
+    return CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE | style, 10, top, fieldWidth, fieldHeight, parent,
+                           nullptr, GetModuleHandleA(nullptr), nullptr);
 }
 
-// Milliseconds of one step down and the repaint behind it. 0 if the last row wasn't reached.
-double StepDown(HWND control, const std::function<int()>& row)
+// Milliseconds of one character. 0 if the texts didn't arrive.
+Turns Type(HWND parent)
 {
+    const HWND ours = MakeField(parent, "HEdit", HES_AUTOHSCROLL, 10);
+    const HWND platform = MakeField(parent, "EDIT", ES_AUTOHSCROLL, 10 + 2 * fieldHeight);
+    Turns time;
+    bool arrived = true;
+    for (int done = 0; done < charCount; done += lineLength) {
+        time.ours += TypeLine(ours);
+        time.platform += TypeLine(platform);
+        arrived = arrived && GetWindowTextLengthA(ours) == lineLength && GetWindowTextLengthA(platform) == lineLength;
+    }
+    DestroyWindow(ours);
+    DestroyWindow(platform);
+    return arrived ? Turns{ time.ours / charCount, time.platform / charCount } : Turns{};
+}
+
+// Milliseconds of some steps down, each with its repaint. The control is shown for that long.
+double StepOn(HWND control, int count)
+{
+    ShowWindow(control, SW_SHOW);
     SetFocus(control);
     PumpMessages();
     UpdateWindow(control);
     const double start = Milliseconds();
-    for (int i = 0; i < stepCount; ++i) {
+    for (int i = 0; i < count; ++i) {
         SendMessageA(control, WM_KEYDOWN, VK_DOWN, 1);
         UpdateWindow(control);
     }
     GdiFlush();
     const double time = Milliseconds() - start;
-    return row() == stepCount ? time / stepCount : 0;
+    ShowWindow(control, SW_HIDE);
+    return time;
 }
 
-double StepThroughListView(HWND parent, const std::vector<std::string>& texts)
+HWND MakeSteppedList(HWND parent, const std::vector<std::string>& texts)
 {
     const HWND list = MakeListView(parent);
     LoadListView(list, texts);
@@ -70,31 +84,43 @@ double StepThroughListView(HWND parent, const std::vector<std::string>& texts)
     item.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
     item.state = LVIS_FOCUSED | LVIS_SELECTED;
     SendMessageA(list, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
-    const double time = StepDown(list, [&] {
-        return static_cast<int>(SendMessageA(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
-    });
-    DestroyWindow(list);
-    return time;
+    return list;
 }
 
-double StepThroughGrid(HWND parent, const std::vector<std::string>& texts)
+HWND MakeSteppedGrid(HWND parent, const std::vector<std::string>& texts)
 {
     const HWND grid = MakeGrid(parent, 0);
     LoadGrid(grid, texts);
     SendMessageA(grid, HGM_SETCURSOR, 0, 0);
-    const double time = StepDown(grid, [&] {
-        return static_cast<int>(HIWORD(SendMessageA(grid, HGM_GETCURSOR, 0, 0)));
-    });
+    return grid;
+}
+
+// Milliseconds of one step. 0 if the last row wasn't reached.
+Turns Step(HWND parent, const std::vector<std::string>& texts)
+{
+    const HWND list = MakeSteppedList(parent, texts);
+    ShowWindow(list, SW_HIDE);
+    const HWND grid = MakeSteppedGrid(parent, texts);
+    ShowWindow(grid, SW_HIDE);
+    Turns time;
+    for (int done = 0; done < stepCount; done += stepsATurn) {
+        time.platform += StepOn(list, stepsATurn);
+        time.ours += StepOn(grid, stepsATurn);
+    }
+    const LRESULT item = SendMessageA(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED);
+    const LRESULT cell = SendMessageA(grid, HGM_GETCURSOR, 0, 0);
+    DestroyWindow(list);
     DestroyWindow(grid);
-    return time;
+    const bool arrived = item == stepCount && HIWORD(cell) == stepCount;
+    return arrived ? Turns{ time.ours / stepCount, time.platform / stepCount } : Turns{};
 }
 
 } // namespace
 
 void RunEntry(HWND parent, const std::vector<std::string>& texts, EntryTimings* ours, EntryTimings* platform)
 {
-    platform->typing = TypeIntoNew(parent, "EDIT", ES_AUTOHSCROLL);
-    ours->typing = TypeIntoNew(parent, "HEdit", HES_AUTOHSCROLL);
-    platform->step = StepThroughListView(parent, texts);
-    ours->step = StepThroughGrid(parent, texts);
+    const Turns typing = Type(parent);
+    const Turns step = Step(parent, texts);
+    *ours = { typing.ours, step.ours };
+    *platform = { typing.platform, step.platform };
 }

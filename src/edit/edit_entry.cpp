@@ -166,9 +166,14 @@ void ShowTruth(HEditCtl* ctl)
 void ShowEntered(HEditCtl* ctl, const Entered& entered)
 {
     const int caret = SelectionOf(ctl).lo;
+    const int next = caret + entered.advance;
     UpdateScrollRange(ctl);
     InvalidateTyped(ctl, caret, entered.repaint);
-    SetSelection(ctl, 0, caret + entered.advance, caret + entered.advance);
+    if (HasFlag(ctl, HEF_RIGHT) || entered.advance < 0) {
+        SetSelection(ctl, 0, next, next);
+    } else {
+        MoveSelection(ctl, 0, next, next); // all behind the caret is repainted already
+    }
 }
 
 void Accept(HEditCtl* ctl, const Entered& entered)

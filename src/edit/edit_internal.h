@@ -134,6 +134,8 @@ LRESULT PasteText(HEditCtl* ctl);
 // What typing repaints: from there to the end, or from the start to that many characters behind it.
 void InvalidateTyped(HEditCtl* ctl, int from, int count);
 void InvalidateRange(HEditCtl* ctl, int start, int end, bool erase);
+// SetSelection without its repainting, for who repaints all that changes. false: the window went.
+bool MoveSelection(HEditCtl* ctl, int how, int anchor, int caret);
 void RepaintFrame(HEditCtl* ctl);
 void RebuildCaret(HEditCtl* ctl); // where the window has one
 int  OnPaint(HEditCtl* ctl, const MsgArgs& args);

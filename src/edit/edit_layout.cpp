@@ -11,6 +11,9 @@ constexpr UINT measureFlags = DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX;
 // The width of a run, measured with its neighbour so that the overhang of slanted letters counts right.
 int RunWidth(const HEditCtl* ctl, HDC hdc, const char* text, int start, int count)
 {
+    if (count <= 0) {
+        return 0;
+    }
     if (HasFlag(ctl, HEF_RIGHT) && start > 0) {
         return MeasureText(hdc, text + start - 1, count + 1) - MeasureText(hdc, text + start - 1, 1);
     }

@@ -49,6 +49,9 @@ void DrawShownPart(HEditCtl* ctl, HDC hdc)
 RECT SelectionRect(HEditCtl* ctl)
 {
     const TextRange selection = SelectionOf(ctl);
+    if (selection.lo == selection.hi) {
+        return {};
+    }
     RECT rect = ctl->rcText;
     const RECT field = rect;
     rect.left = CaretX(ctl, selection.lo);

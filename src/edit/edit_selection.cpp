@@ -69,24 +69,32 @@ void InvalidateRange(HEditCtl* ctl, int start, int end, bool erase)
 
 void SetSelection(HEditCtl* ctl, int how, int anchor, int caret)
 {
-    const int parts = how ? how : moveCaret | moveAnchor;
     const TextRange old = SelectionOf(ctl);
+    if (MoveSelection(ctl, how, anchor, caret)) {
+        InvalidateChanges(ctl, old, SelectionOf(ctl));
+    }
+}
+
+bool MoveSelection(HEditCtl* ctl, int how, int anchor, int caret)
+{
+    const int parts = how ? how : moveCaret | moveAnchor;
     const int length = TextLength(ctl);
     const int newCaret = parts & moveCaret ? ClampIndex(caret, length) : static_cast<int>(ctl->nCaret);
     if (!ScrollTowards(ctl, newCaret)) {
-        return;
+        return false;
     }
     if (parts & moveAnchor) {
         ctl->nAnchor = ClampIndex(anchor, length);
     }
     ctl->nCaret = newCaret;
     PlaceCaret(ctl, newCaret);
-    InvalidateChanges(ctl, old, SelectionOf(ctl));
+    return true;
 }
 
 void PlaceCaret(HEditCtl* ctl, int index)
 {
-    if (GetFocus() != ctl->hWnd) {
+    // The flag spares most fields the question, which costs as much as painting.
+    if (!IsFocused(ctl) || GetFocus() != ctl->hWnd) {
         return;
     }
     if (ReplacesAtCaret(ctl)) {

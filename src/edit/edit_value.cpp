@@ -77,10 +77,11 @@ bool StoreValue(HEditCtl* ctl, const void* data)
     return true;
 }
 
+// The whole field is repainted anyway.
 void SelectAfterSet(HEditCtl* ctl)
 {
     constexpr int toEnd = -1;
-    SetSelection(ctl, 0, 0, IsFocused(ctl) ? toEnd : 0);
+    MoveSelection(ctl, 0, 0, IsFocused(ctl) ? toEnd : 0);
 }
 
 } // namespace
@@ -199,7 +200,7 @@ int LimitText(HEditCtl* ctl, int limit)
 void UndoTyping(HEditCtl* ctl)
 {
     RefreshText(ctl, IsFocused(ctl));
-    SetSelection(ctl, 0, 0, 0);
+    MoveSelection(ctl, 0, 0, 0);
 }
 
 void ClearValue(HEditCtl* ctl)

@@ -84,6 +84,16 @@ bool ReadValue(HWND editor, const HGField* field, char* buffer)
                         reinterpret_cast<LPARAM>(buffer)) != 0;
 }
 
+// Moving a window to where it is costs as much as moving it elsewhere, and the editor of the last row that shows stays
+// in its place for as long as the rows pass beneath it.
+bool IsPlaced(const HGridCtl* ctl, HWND editor, const RECT& rect)
+{
+    RECT now;
+    GetWindowRect(editor, &now);
+    MapWindowPoints(nullptr, ctl->hWnd, reinterpret_cast<POINT*>(&now), 2);
+    return EqualRect(&now, &rect) != 0;
+}
+
 } // namespace
 
 bool HGIsEditable(HGridCtl* ctl, int col)
@@ -186,7 +196,9 @@ int HGShowEditor(HGridCtl* ctl)
     const int width = rect.right - rect.left;
     const int height = rect.bottom - rect.top;
     const HWND editor = ctl->hEditor;
-    MoveWindow(editor, rect.left, rect.top, width, height, TRUE);
+    if (!IsPlaced(ctl, editor, rect)) {
+        MoveWindow(editor, rect.left, rect.top, width, height, TRUE);
+    }
     SendMessageA(editor, WM_SIZE, SIZE_RESTORED, MAKELPARAM(width, height));
     ctl->wFlags |= HGC_EDITORSHOWN;
     ShowWindow(editor, SW_SHOWNA);

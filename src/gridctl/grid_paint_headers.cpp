@@ -32,7 +32,7 @@ HeaderLook LookOf(const HGridCtl* ctl, bool current, bool wholeLine)
     if (wholeLine) {
         return { ctl->hBoldFont, DPB_HEADER };
     }
-    const bool select = HGHasFocus(ctl) && hSelectBrush;
+    const bool select = hSelectBrush && HGHasFocus(ctl);
     return { ctl->hBoldFont, select ? WORD{ DPB_SELECTED } : WORD{ 0 } };
 }
 

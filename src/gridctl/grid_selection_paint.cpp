@@ -189,22 +189,35 @@ void DrawAllColumnHeaders(HGridCtl* ctl, HDC hdc)
     }
 }
 
+// Whether a header shows the same as before: still that of the current cell, which was and is one cell of it.
+bool IsSameHeader(int oldLine, int oldPlace, int line, int place)
+{
+    return oldLine == line && line >= 0 && oldPlace >= 0 && place >= 0;
+}
+
 void DrawColumnHeaders(HGridCtl* ctl, HDC hdc, const Cell* oldCur)
 {
-    if (oldCur) {
-        DrawHeaderOfColumn(ctl, hdc, oldCur->col);
-    } else {
+    const Cell cur = CurrentCell(ctl);
+    if (!oldCur) {
         DrawAllColumnHeaders(ctl, hdc);
+    } else if (IsSameHeader(oldCur->col, oldCur->row, cur.col, cur.row)) {
+        return;
+    } else if (oldCur->col != cur.col) {
+        DrawHeaderOfColumn(ctl, hdc, oldCur->col);
     }
-    DrawHeaderOfColumn(ctl, hdc, CurrentCell(ctl).col);
+    DrawHeaderOfColumn(ctl, hdc, cur.col);
 }
 
 void DrawRowHeaders(HGridCtl* ctl, HDC hdc, const Cell* oldCur)
 {
-    if (oldCur) {
+    const Cell cur = CurrentCell(ctl);
+    if (oldCur && IsSameHeader(oldCur->row, oldCur->col, cur.row, cur.col)) {
+        return;
+    }
+    if (oldCur && oldCur->row != cur.row) {
         HGDrawCell(ctl, hdc, -1, oldCur->row);
     }
-    HGDrawCell(ctl, hdc, -1, CurrentCell(ctl).row);
+    HGDrawCell(ctl, hdc, -1, cur.row);
 }
 
 // Settled: a range that touches row 0 or a header doesn't count.
