@@ -84,6 +84,39 @@ bool ReadValue(HWND editor, const HGField* field, char* buffer)
                         reinterpret_cast<LPARAM>(buffer)) != 0;
 }
 
+// Whether the editor still holds the value that was read from it, or null for none.
+bool StillHolds(HGridCtl* ctl, HWND editor, const char* value)
+{
+    const HGField* const field = ctl->hEditor == editor ? EditedField(ctl) : nullptr;
+    const size_t size = field && field->cbSize >= 1 ? static_cast<size_t>(field->cbSize) : 0;
+    char* const buffer = size ? static_cast<char*>(HBlockAlloc(size + 1)) : nullptr;
+    if (!buffer) {
+        return size != 0;
+    }
+    const bool hasValue = ReadValue(editor, field, buffer);
+    const bool same = hasValue == (value != nullptr) && (!hasValue || std::memcmp(buffer, value, size) == 0);
+    HBlockFree(buffer);
+    return same;
+}
+
+// Writes a value that was read from the editor into the current cell. It isn't pending while it is written, so a host
+// that moves or refreshes when it is told of it doesn't have it stored once more. A refused one is pending again, unless
+// the host has put another one into the editor.
+int WriteRead(HGridCtl* ctl, HWND editor, const char* value)
+{
+    const HWND hwnd = ctl->hWnd;
+    const Cell cell = CurrentCell(ctl);
+    if (!IsWindow(hwnd)) {
+        return 0;
+    }
+    SendMessageA(editor, WWM_SETCHANGED, 0, 0);
+    const int written = HGWriteCell(ctl, cell.col, cell.row, value);
+    if (!written && IsWindow(hwnd) && cell == CurrentCell(ctl) && StillHolds(ctl, editor, value)) {
+        SendMessageA(editor, WWM_SETCHANGED, 1, 0);
+    }
+    return written;
+}
+
 // Moving a window to where it is costs as much as moving it elsewhere, and the editor of the last row that shows stays
 // in its place for as long as the rows pass beneath it.
 bool IsPlaced(const HGridCtl* ctl, HWND editor, const RECT& rect)
@@ -169,15 +202,9 @@ int HGReadEditor(HGridCtl* ctl)
     if (!buffer) {
         return 1;
     }
-    const HWND hwnd = ctl->hWnd;
-    const Cell cell = CurrentCell(ctl);
     const bool hasValue = ReadValue(editor, field, buffer);
-    const int written = IsWindow(hwnd) ? HGWriteCell(ctl, cell.col, cell.row, hasValue ? buffer : nullptr) : 0;
+    const int written = WriteRead(ctl, editor, hasValue ? buffer : nullptr);
     HBlockFree(buffer);
-    if (written && IsWindow(editor)) {
-        // What went in isn't pending any more: a later commit doesn't write it over what the host has stored since.
-        SendMessageA(editor, WWM_SETCHANGED, 0, 0);
-    }
     return written;
 }
 

@@ -258,7 +258,7 @@ bool LeavesWindow(HGridCtl* ctl, LPARAM lParam)
 // False if the button came up where the loop couldn't see it: in a loop of the host's, or over another program.
 bool GoesOn(const HGridCtl* ctl)
 {
-    return HasFlag(ctl, HGC_MOUSEDOWN) && (HasFlag(ctl, HGC_COLDRAG) || IsButtonDown());
+    return HasFlag(ctl, HGC_COLDRAG) || (HasFlag(ctl, HGC_MOUSEDOWN) && IsButtonDown());
 }
 
 // The band on which dragged columns are dropped.
@@ -409,6 +409,8 @@ void Press(HGridCtl* ctl, LPARAM lParam, bool shift)
     const Cell hit = HitTest(ctl, lParam).cell;
     const int stored = HGCommitEdit(ctl);
     if (IsWindow(hwnd)) {
+        // An edit that the focus had left is over too, or its editor would take the focus and end the drag.
+        SetFlag(ctl, HGC_INEDIT, HasFlag(ctl, HGC_INEDIT) && !stored);
         SetFocus(hwnd);
     }
     if (!IsWindow(hwnd)) {
@@ -468,7 +470,8 @@ void HGMouseMove(HGridCtl* ctl, LPARAM lParam)
 void HGMouseUp(HGridCtl* ctl, LPARAM lParam)
 {
     const HWND hwnd = ctl->hWnd;
-    const bool pressed = HasFlag(ctl, HGC_MOUSEDOWN);
+    // A drag that shows its guide goes on without the focus.
+    const bool pressed = HasFlag(ctl, HGC_MOUSEDOWN | HGC_XORLINE);
     SetFlag(ctl, HGC_MOUSEDOWN | HGC_XORLINE, false);
     if (GetCapture() == hwnd) {
         ReleaseCapture();

@@ -55,6 +55,12 @@ void ApplyShape(HGridCtl* ctl, Move* move)
     }
 }
 
+// Whether the selection is on the screen.
+bool ShowsSelection(const HGridCtl* ctl)
+{
+    return GetFocus() == ctl->hWnd || HasStyle(ctl, HGS_KEEPSEL) || HasFlag(ctl, HGC_INEDIT);
+}
+
 Cell ProposedCell(const HGridCtl* ctl)
 {
     return { static_cast<short>(ctl->nPropCol), static_cast<short>(ctl->nPropRow) };
@@ -103,7 +109,7 @@ void Judge(HGridCtl* ctl, Move* move)
     if (wasRange && !move->extend && !(AnchorCell(ctl) == current)) {
         move->same = false;
     }
-    move->focused = GetFocus() == move->hwnd || HasStyle(ctl, HGS_KEEPSEL) || HasFlag(ctl, HGC_INEDIT);
+    move->focused = ShowsSelection(ctl);
     move->editable = !move->range && HGIsEditable(ctl, move->to.col);
     move->showAgain = wasRange || !move->same || move->range;
     if (ctl->hEditor && (move->showAgain || !move->focused)) {
@@ -111,17 +117,23 @@ void Judge(HGridCtl* ctl, Move* move)
     }
 }
 
-// Step 15. False if the window went.
+// Step 15. An editor that stays on its cell goes with it. False if the window went.
 bool BringCellIn(HGridCtl* ctl, Move* move)
 {
-    if (move->scroll) {
-        const int row = HGEnsureVisible(ctl, move->to.col, move->to.row);
-        if (!IsWindow(move->hwnd)) {
-            return false;
-        }
-        move->to.row = std::clamp(row, -1, LastRow(ctl));
+    if (!move->scroll) {
+        return true;
     }
-    return true;
+    const LONG pos = ctl->nHScrollPos;
+    const LONG top = HGTopRecord(ctl);
+    const int row = HGEnsureVisible(ctl, move->to.col, move->to.row);
+    if (!IsWindow(move->hwnd)) {
+        return false;
+    }
+    move->to.row = std::clamp(row, -1, LastRow(ctl));
+    if (HasFlag(ctl, HGC_EDITORSHOWN) && (pos != ctl->nHScrollPos || top != HGTopRecord(ctl))) {
+        HGShowEditor(ctl);
+    }
+    return IsWindow(move->hwnd) != 0;
 }
 
 LONG RecordOrHeader(const HGridCtl* ctl, int row)
@@ -156,8 +168,23 @@ bool ChangeCell(HGridCtl* ctl, const Move& move)
     return HGNotify(ctl, HGN_ROWCHANGED);
 }
 
+void InvalidateSelection(HGridCtl* ctl, const Selection& selection)
+{
+    if (selection.anchor.row < 0 || selection.current.row < 0) {
+        InvalidateRect(ctl->hWnd, nullptr, FALSE);
+    } else {
+        HGInvalidateRange(ctl, -1, selection.anchor.row, -1, selection.current.row);
+    }
+}
+
+// Rows that are selected one by one may be selected with the range or without it, which an inversion can't tell.
 void DrawNewSelection(HGridCtl* ctl, const Selection& old)
 {
+    if (HasStyle(ctl, HGS_ROWSELECT) && !HasStyle(ctl, HGS_NOEXTEND)) {
+        InvalidateSelection(ctl, old);
+        InvalidateSelection(ctl, SelectionOf(ctl));
+        return;
+    }
     const DWORD anchor = PackCell(old.anchor.col, old.anchor.row);
     const DWORD current = PackCell(old.current.col, old.current.row);
     const bool shown = HasFlag(ctl, HGC_CELLSHOWN);
@@ -183,7 +210,10 @@ bool ShowMove(HGridCtl* ctl, Move* move)
         return false;
     }
     const Selection wanted = { move->to, move->extend || move->same ? old.anchor : move->to };
-    if (!IsSame(SelectionOf(ctl), wanted)) {
+    const bool focused = ShowsSelection(ctl);
+    const bool refocused = focused != move->focused; // by the parent
+    move->focused = focused;
+    if (!IsSame(SelectionOf(ctl), wanted) || refocused) {
         // Old and new selection were drawn in the wrong order: only painting all of it anew is right.
         InvalidateRect(ctl->hWnd, nullptr, FALSE);
         if (!HasFlag(ctl, HGC_TELLING) || !HasCells(ctl)) {
@@ -276,11 +306,16 @@ int HGMoveBy(HGridCtl* ctl, int dCol, int dRow, bool extend)
     }
     // A row number past 16 bits would come out as a header: whichever key asks, the view goes there first.
     if ((dRow < 0 && row < 0) || row > farthest) {
+        const LONG target = BoundRecord(std::max<std::int64_t>(base + row, 0));
         HGScrollBy(ctl, 0, dRow, true);
+        // A view that stood far below the current cell hasn't come as far as the record.
+        if (IsWindow(hwnd) && target < ctl->lRowBase) {
+            HGScrollBy(ctl, 0, static_cast<int>(target - HGTopRecord(ctl)), true);
+        }
         if (!IsWindow(hwnd)) {
             return 1;
         }
-        row = std::max<std::int64_t>(row + base - ctl->lRowBase, 0);
+        row = std::max<std::int64_t>(static_cast<std::int64_t>(target) - ctl->lRowBase, 0);
     }
     const std::int64_t lowest = HasStyle(ctl, HGS_COLHEADERS) ? -1 : 0;
     HGMoveTo(ctl, col, static_cast<int>(std::clamp(row, lowest, farthest)), extend, true);

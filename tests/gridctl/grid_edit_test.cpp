@@ -86,8 +86,8 @@ constexpr Seen wholeEdit[] = {
     { 2, ToGrid, WM_SETFOCUS },
     { 2, ToEdit, WWM_GETCHANGED },
     { 2, ToEdit, HEM_GETDATA, 16 },
-    { 2, ToParent, HGN_CELLCHANGED },
     { 2, ToEdit, WWM_SETCHANGED, 0 },
+    { 2, ToParent, HGN_CELLCHANGED },
     { 2, ToParent, HGN_MOVING },
     { 2, ToParent, HGN_MOVED },
     { 2, ToEdit, HEM_SETDATA, 0 },
@@ -112,6 +112,51 @@ TEST_F(GridEdit, WholeEditIsToldInItsOrder)
     EXPECT_SEEN(wholeEdit);
     EXPECT_EQ("a", CellText(0, 0));
     EXPECT_EQ((Cell{ 1, 0 }), Current());
+    EXPECT_EQ(grid, GetFocus());
+}
+
+// From the last column Return goes on to the next row, whose editor is another one's place.
+constexpr Seen editToTheNextRow[] = {
+    { 0, ToGrid, WM_KEYDOWN, VK_F2 },
+    { 1, ToGrid, WM_KILLFOCUS },
+    { 1, ToEdit, WM_SETFOCUS },
+    { 2, ToGrid, WWM_CHILDFOCUS },
+    { 3, ToParent, HGN_EDITFOCUS },
+    { 0, ToEdit, WM_KEYDOWN, 'A' },
+    { 0, ToEdit, WM_CHAR, 'a' },
+    { 0, ToEdit, WM_KEYDOWN, VK_RETURN },
+    { 1, ToGrid, WM_KEYDOWN, VK_RETURN },
+    { 2, ToEdit, WM_KILLFOCUS },
+    { 3, ToGrid, WWM_CHILDBLUR },
+    { 4, ToParent, HGN_EDITBLUR },
+    { 2, ToGrid, WM_SETFOCUS },
+    { 2, ToEdit, WWM_GETCHANGED },
+    { 2, ToEdit, HEM_GETDATA, 16 },
+    { 2, ToEdit, WWM_SETCHANGED, 0 },
+    { 2, ToParent, HGN_CELLCHANGED },
+    { 2, ToParent, HGN_MOVING },
+    { 2, ToParent, HGN_MOVED },
+    { 2, ToParent, HGN_ROWCHANGED },
+    { 2, ToEdit, HEM_SETDATA, 0 },
+    { 2, ToEdit, WM_SIZE }, // of the grid, with the cell's size
+    { 0, ToEdit, WM_CHAR, VK_RETURN },
+};
+
+TEST_F(GridEdit, EditThatGoesOnToTheNextRowIsToldInItsOrder)
+{
+    MakeGrid(GridOf({ Text() }), 3);
+    StandOn(0, 0);
+    seen.Watch(grid);
+    seen.Watch(ChildOf(0));
+    for (const UINT message : { WWM_GETSTATE, WM_COMMAND, HEM_SETRECT, WM_CTLCOLOREDIT, HGM_GETDATA, WM_KEYUP }) {
+        seen.Skip(message);
+    }
+    TypeKey(VK_F2);
+    TypeKey('A');
+    TypeKey(VK_RETURN);
+    EXPECT_SEEN(editToTheNextRow);
+    EXPECT_EQ("a", CellText(0, 0));
+    EXPECT_EQ((Cell{ 0, 1 }), Current());
     EXPECT_EQ(grid, GetFocus());
 }
 

@@ -115,4 +115,35 @@ TEST_F(GridFocus, ParentMayDestroyTheGridInAFocusNotification)
     }
 }
 
+// A host that takes the focus away, or gives it, while it is told of a move.
+TEST_F(GridFocus, FocusTakenWhileAMoveIsToldLeavesNoEditor)
+{
+    for (const int code : { HGN_MOVING, HGN_MOVED, HGN_ROWCHANGED }) {
+        SCOPED_TRACE(code);
+        MakeGrid(GridOf({ Text(), Text() }), 3);
+        SetFocus(grid);
+        MoveTo(0, 0);
+        parent.On(code, [&] { SetFocus(parent.hwnd()); });
+        MoveTo(1, 2);
+        parent.On(code, nullptr);
+        EXPECT_FALSE(IsWindowVisible(ctl->hEditor));
+        EXPECT_FALSE(ctl->wFlags & HGC_EDITORSHOWN);
+        SetFocus(grid);
+        EXPECT_TRUE(IsWindowVisible(ctl->hEditor));
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(GridFocus, FocusGivenWhileAMoveIsToldShowsTheNewCellsEditor)
+{
+    MakeGrid(GridOf({ Text(), Text() }), 3);
+    SetFocus(grid);
+    MoveTo(0, 0);
+    SetFocus(parent.hwnd());
+    parent.On(HGN_MOVED, [&] { SetFocus(grid); });
+    MoveTo(1, 2);
+    EXPECT_TRUE(IsWindowVisible(ctl->hEditor));
+    EXPECT_EQ(HGGetField(ctl->pData, 1)->pCtl->hWnd, ctl->hEditor);
+}
+
 } // namespace

@@ -13,6 +13,41 @@ void LiftButton()
     SendInput(1, &input, sizeof input);
 }
 
+void SendShift(DWORD flags)
+{
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = VK_SHIFT;
+    input.ki.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+    PumpPending();
+}
+
+void HoldShift()
+{
+    SendShift(0);
+}
+
+void ReleaseShift()
+{
+    SendShift(KEYEVENTF_KEYUP);
+}
+
+constexpr UINT_PTR takeFocus = 1;
+constexpr UINT_PTR liftButton = 2;
+bool gWasDragging; // when the button came up
+
+void CALLBACK OnTimer(HWND grid, UINT, UINT_PTR id, DWORD)
+{
+    KillTimer(grid, id);
+    if (id == takeFocus) {
+        SetFocus(GetParent(grid));
+        return;
+    }
+    gWasDragging = (SendMessageA(grid, HGM_GETFLAGS, 0, 0) & HGC_COLDRAG) != 0;
+    LiftButton();
+}
+
 class GridMouseDrag : public GridEditing {
 protected:
     ~GridMouseDrag() override
@@ -221,6 +256,40 @@ TEST_F(GridRefusedPress, AcceptedValueLetsThePressMoveOn)
     ClickAt(grid, 230, 130);
     EXPECT_EQ((Cell{ 2, 5 }), Current());
     EXPECT_EQ("typed", CellText(1, 3));
+}
+
+TEST_F(GridMouseDrag, PressAfterAnEditThatWasLeftForElsewhereDrags)
+{
+    MakeCells();
+    TypeInto(0, 0, "typed");
+    const HWND other = Create("HEdit", "", 0, 200, { 10, 230, 80, 20 });
+    SetFocus(other);
+    EXPECT_EQ("typed", CellText(0, 0));
+    Forget();
+    PressButton(grid, 150, 90);
+    EXPECT_TRUE(IsFlag(HGC_MOUSEDOWN));
+    EXPECT_EQ(0, parent.Count(HGN_EDITFOCUS));
+    MoveMouse(grid, 250, 130);
+    ReleaseButton(grid, 250, 130);
+    EXPECT_EQ((Cell{ 1, 3 }), Anchor());
+    EXPECT_EQ((Cell{ 2, 5 }), Current());
+    ExpectDragIsOver();
+}
+
+TEST_F(GridMouseDrag, ColumnDragGoesOnWithoutTheFocus)
+{
+    MakeCells(HGS_ROWHEADERS | HGS_COLHEADERS | HGS_COLMAP);
+    ClickAt(grid, 60, 10);
+    Forget();
+    // The loop of the drag runs inside the press.
+    gWasDragging = false;
+    SetTimer(grid, takeFocus, 50, OnTimer);
+    SetTimer(grid, liftButton, 700, OnTimer);
+    HoldShift();
+    PressButton(grid, 60, 10);
+    ReleaseShift();
+    EXPECT_TRUE(gWasDragging);
+    ExpectDragIsOver();
 }
 
 } // namespace

@@ -325,6 +325,49 @@ TEST_F(GridSelectionPaint, ShowsTheSameAfterMovesAsAfterARepaint)
     }
 }
 
+TEST_F(GridSelectionPaint, ShowsScatteredRowsTheSameAfterClicksAsAfterARepaint)
+{
+    MakePainted(GridOf({ Text(), Text() }, gridStyle | HGS_READONLY | HGS_ROWSELECT), 30);
+    SetFocus(grid);
+    Repaint();
+    struct Step {
+        int      row; // -1: the key Down
+        unsigned modifiers;
+    };
+    constexpr Step steps[] = { { 2, withNone }, { 4, withCtrl }, { 4, withCtrl }, { -1, withNone },
+                               { 6, withCtrl }, { 3, withCtrl }, { 6, withCtrl | withShift }, { 5, withNone },
+                               { 1, withShift }, { 7, withCtrl }, { 3, withCtrl | withShift }, { -1, withShift },
+                               { 2, withCtrl }, { 0, withNone }, { 4, withShift }, { 3, withNone } };
+    for (const Step& step : steps) {
+        SCOPED_TRACE(std::to_string(step.row) + " with " + std::to_string(step.modifiers));
+        if (step.row < 0) {
+            TypeKey(VK_DOWN, step.modifiers);
+        } else {
+            ClickAt(grid, 60, 30 + 20 * step.row, step.modifiers);
+        }
+        UpdateWindow(grid);
+        const Pixels moved = ShotOf(grid);
+        EXPECT_TRUE(SamePixels(Repaint(), moved));
+    }
+}
+
+TEST_F(GridSelectionPaint, ShowsExactlyTheRowsThatAreSelectedOneByOne)
+{
+    MakePainted(GridOf({ Text(), Text() }, gridStyle | HGS_READONLY | HGS_ROWSELECT), 8);
+    SetFocus(grid);
+    const Pixels plain = Plain();
+    ClickAt(grid, 60, 70);
+    ClickAt(grid, 60, 110, withCtrl);
+    ClickAt(grid, 60, 150, withCtrl);
+    UpdateWindow(grid);
+    const Pixels shot = ShotOf(grid);
+    for (int row = 0; row < 8; ++row) {
+        const bool selected = row == 2 || row == 4 || row == 6;
+        EXPECT_EQ(selected, IsInverted(plain, shot, CellInside(1, row))) << "row " << row;
+        EXPECT_EQ(!selected, IsPlain(plain, shot, CellInside(1, row))) << "row " << row;
+    }
+}
+
 TEST_F(GridSelectionPaint, ShowsInFixedColumnsAndEndsAtTheirEdge)
 {
     MakePainted(GridOf({ Text(), Text(), Text(), Text(), Text(), Text() }, readOnlyStyle, 1), 4);

@@ -1,0 +1,103 @@
+// Moves whose current cell lies far from what the view shows: they aim at records, not at what is loaded.
+#include "gridctl/grid_editing.h"
+
+namespace {
+
+class GridViewAway : public GridEditing {
+protected:
+    // The current cell in a record, the view far from it.
+    void MakeAway(LONG current, LONG top)
+    {
+        source.count = 100000;
+        MakeSourceGrid();
+        SetFocus(grid);
+        Send(grid, HGM_GOTORECORD, 0, current);
+        Send(grid, HGM_SETTOPRECORD, static_cast<WPARAM>(top));
+        Forget();
+    }
+};
+
+struct Way {
+    const char* what;
+    LONG        way; // records from the current one on
+    void (*run)(HWND grid, LONG record);
+};
+
+constexpr Way ways[] = {
+    { "Up", -1, [](HWND g, LONG) { SendMessageA(g, WM_KEYDOWN, VK_UP, 1); } },
+    { "up message", -1, [](HWND g, LONG) { SendMessageA(g, HGM_KEYUP, 0, 0); } },
+    { "one back", -1, [](HWND g, LONG record) { SendMessageA(g, HGM_GOTORECORD, 0, record - 1); } },
+    { "the same", 0, [](HWND g, LONG record) { SendMessageA(g, HGM_GOTORECORD, 0, record); } },
+    { "one on", 1, [](HWND g, LONG record) { SendMessageA(g, HGM_GOTORECORD, 0, record + 1); } },
+    { "far back", -300, [](HWND g, LONG record) { SendMessageA(g, HGM_GOTORECORD, 0, record - 300); } },
+    { "farther back", -800, [](HWND g, LONG record) { SendMessageA(g, HGM_GOTORECORD, 0, record - 800); } },
+};
+
+// A view that moves takes the current cell along to the block's edge: the record to start from is the one left there.
+TEST_F(GridViewAway, EachMoveReachesItsRecord)
+{
+    for (const LONG top : { 0, 500, 950, 1050, 50000, 99990 }) {
+        for (const Way& way : ways) {
+            SCOPED_TRACE(std::string(way.what) + " with the view at " + std::to_string(top));
+            MakeAway(1000, top);
+            const LONG from = CurrentRecord();
+            way.run(grid, from);
+            EXPECT_EQ(std::max<LONG>(from + way.way, 0), CurrentRecord());
+            ExpectRowsAreRecords();
+            DestroyWindow(grid);
+        }
+    }
+}
+
+TEST_F(GridViewAway, PagesAndEndsAreReachedFromTheLastRecordsOn)
+{
+    for (const int height : { 200, 203, 211 }) {
+        SCOPED_TRACE(height);
+        source.count = 100000;
+        MakeSourceGrid();
+        SetWindowPos(grid, nullptr, 0, 0, 400, height, SWP_NOMOVE | SWP_NOZORDER);
+        SetFocus(grid);
+        Send(grid, HGM_KEYLAST);
+        EXPECT_EQ(99999, CurrentRecord());
+        const int page = std::max(ctl->cPageRows - 1, 1);
+        for (LONG record = 99999; record > 99900; record -= page) {
+            EXPECT_EQ(record, CurrentRecord());
+            Send(grid, WM_KEYDOWN, VK_PRIOR);
+        }
+        Send(grid, HGM_KEYLAST);
+        Send(grid, HGM_KEYFIRST);
+        EXPECT_EQ(0, CurrentRecord());
+        for (const LONG record : { 99950, 500, 99999, 0, 32765, 32768, 1 }) {
+            Send(grid, HGM_GOTORECORD, 0, record);
+            EXPECT_EQ(record, CurrentRecord());
+        }
+        DestroyWindow(grid);
+    }
+}
+
+// The view is scrolled away across; a move to the same cell brings it back, and the editor with it.
+TEST_F(GridViewAway, EditorComesBackWithItsColumn)
+{
+    MakeGrid(GridOf({ Text(), Text(), Text(), Text(), Text(), Text(), Text() }), 3);
+    SetFocus(grid);
+    MoveTo(6, 1);
+    RECT before;
+    GetWindowRect(Editor(), &before);
+    for (const bool byKey : { true, false }) {
+        Send(grid, WM_HSCROLL, SB_PAGELEFT);
+        RECT away;
+        GetWindowRect(Editor(), &away);
+        ASSERT_FALSE(EqualRect(&before, &away));
+        if (byKey) {
+            Send(grid, WM_KEYDOWN, VK_RIGHT);
+        } else {
+            MoveTo(6, 1);
+        }
+        RECT back;
+        GetWindowRect(Editor(), &back);
+        EXPECT_TRUE(EqualRect(&before, &back)) << (byKey ? "by key" : "by message");
+        EXPECT_TRUE(IsWindowVisible(Editor()));
+    }
+}
+
+} // namespace
