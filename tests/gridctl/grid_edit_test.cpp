@@ -62,7 +62,11 @@ TEST_F(GridEdit, UntouchedEditorIsNeverReadBack)
     SetFocus(grid);
     MoveTo(0, 0);
     SetFocus(Editor());
+    seen.Watch(Editor());
     MoveTo(0, 1);
+    for (const Seen& line : seen.All()) {
+        EXPECT_FALSE(line.direction == ToControl && line.code == HEM_GETDATA);
+    }
     EXPECT_EQ(grid, GetFocus());
     EXPECT_EQ(0, RowFlags(0));
     EXPECT_EQ(0, parent.Count(HGN_CELLCHANGED));
