@@ -1026,7 +1026,11 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGM_INSERTFIELD 1358
 /** wParam: from. lParam: to. Gives the new index, or -1. */
 #define HGM_MOVEFIELD 1359
-/** wParam: non-zero marks the row new. lParam: row data, or 0. Gives the row index + 1; below 1 on failure. */
+/**
+ * wParam: non-zero marks the row new. lParam: row data, or 0. Gives the row index + 1; below 1 on failure.
+ * Under HGS_NEWROW a blank row comes before the entry row, and the data go into the entry row itself. A row source is
+ * offered a blank record, without the data.
+ */
 #define HGM_ADDROW 1360
 /** wParam: r. Deletes without notification. Gives 1, or 0. */
 #define HGM_DELETEROW 1361

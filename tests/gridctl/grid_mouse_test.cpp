@@ -113,12 +113,18 @@ TEST_F(GridMouse, DoubleClickIsToldAfterTheMove)
 TEST_F(GridMouse, ClicksOnHeadersSelectWholeLines)
 {
     MakeCells();
-    ClickCell(150, 10);
-    EXPECT_CELL(1, -1);
-    ClickCell(20, 90);
-    EXPECT_CELL(-1, 3);
-    ClickCell(20, 10);
-    EXPECT_CELL(-1, -1);
+    struct Click {
+        int  x;
+        int  y;
+        Cell cell;
+    };
+    for (const Click& click : { Click{ 150, 10, { 1, -1 } }, Click{ 20, 90, { -1, 3 } }, Click{ 20, 10, { -1, -1 } } }) {
+        ClickCell(click.x, click.y);
+        EXPECT_EQ(click.cell, Current());
+        EXPECT_EQ(click.cell, Anchor());
+        EXPECT_TRUE(ctl->wFlags & HGC_RANGE);
+        EXPECT_EQ(nullptr, ctl->hEditor);
+    }
 }
 
 TEST_F(GridMouse, ShiftClickExtendsFromTheAnchor)

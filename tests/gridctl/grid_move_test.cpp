@@ -300,8 +300,11 @@ TEST_F(GridMove, KeysMoveByTheTable)
         { "Left", VK_LEFT, false, false, { 1, 12 } },
         { "Ctrl+Left", VK_LEFT, false, true, { 1, 12 } },
         { "Right", VK_RIGHT, false, false, { 3, 12 } },
+        { "Ctrl+Right", VK_RIGHT, false, true, { 3, 12 } },
         { "Up", VK_UP, false, false, { 2, 11 } },
+        { "Ctrl+Up", VK_UP, false, true, { 2, 11 } },
         { "Down", VK_DOWN, false, false, { 2, 13 } },
+        { "Ctrl+Down", VK_DOWN, false, true, { 2, 13 } },
         { "Page Up", VK_PRIOR, false, false, { 2, 4 } },
         { "Page Down", VK_NEXT, false, false, { 2, 20 } },
         { "Ctrl+Page Up", VK_PRIOR, false, true, { 2, 0 } },
@@ -316,6 +319,8 @@ TEST_F(GridMove, KeysMoveByTheTable)
         { "Ctrl+Shift+Tab", VK_TAB, true, true, { 1, 12 } },
         { "Return", VK_RETURN, false, false, { 3, 12 } },
         { "Shift+Return", VK_RETURN, true, false, { 1, 12 } },
+        { "Ctrl+Return", VK_RETURN, false, true, { 3, 12 } },
+        { "Ctrl+Shift+Return", VK_RETURN, true, true, { 1, 12 } },
         { "Space", VK_SPACE, false, false, { 2, 12 } },
         { "Ctrl+Space", VK_SPACE, false, true, { 2, -1 } },
         { "Escape", VK_ESCAPE, false, false, { 2, 12 } },
@@ -447,6 +452,10 @@ TEST_F(GridMove, EntryRowIsReachedByInsertAndNotByCtrlEnd)
     MoveTo(1, 3);
     Key(VK_INSERT);
     EXPECT_CELL(1, last);
+    MoveTo(1, 3);
+    Key(VK_INSERT, true);
+    EXPECT_CELL(1, last);
+    EXPECT_EQ((Cell{ 1, 3 }), Anchor());
 }
 
 TEST_F(GridMove, ShiftReturnGoesToTheFirstColumnOfTheEntryRow)
@@ -466,8 +475,11 @@ TEST_F(GridMove, ShiftReturnGoesToTheFirstColumnOfTheEntryRow)
         MakeCells(2, 3, plainStyle | c.style);
         HideColumns({ 0 });
         const int last = static_cast<int>(Send(grid, HGM_GETROWCOUNT)) - 1;
-        Key(VK_RETURN, true);
-        EXPECT_EQ((c.jumps ? Cell{ 1, last } : Cell{ 1, 3 }), Current()) << c.what;
+        for (const bool ctrl : { false, true }) {
+            MoveTo(2, 3);
+            Key(VK_RETURN, true, ctrl);
+            EXPECT_EQ((c.jumps ? Cell{ 1, last } : Cell{ 1, 3 }), Current()) << c.what << (ctrl ? " with Ctrl" : "");
+        }
         MoveTo(2, 3);
         Key(VK_TAB, true);
         EXPECT_EQ((Cell{ 1, 3 }), Current()) << c.what << ", Tab";

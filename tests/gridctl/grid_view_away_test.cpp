@@ -75,6 +75,28 @@ TEST_F(GridViewAway, PagesAndEndsAreReachedFromTheLastRecordsOn)
     }
 }
 
+// Ways of more than 32765 rows go by a scroll first.
+TEST_F(GridViewAway, EntryRowBehindManyRecordsIsReached)
+{
+    source.count = 100000;
+    MakeSourceGrid(gridStyle | HGS_NEWROW);
+    SetFocus(grid);
+    HGKeyNavigate(ctl, VK_NEXT, false, true);
+    EXPECT_EQ(99999, CurrentRecord());
+    Send(grid, HGM_KEYFIRST);
+    EXPECT_EQ(0, CurrentRecord());
+    // Settled: a way that begins with a scroll is taken anew without what keeps it before the entry row.
+    HGKeyNavigate(ctl, VK_END, false, true);
+    EXPECT_EQ(100000, CurrentRecord());
+    Send(grid, HGM_KEYFIRST);
+    MoveTo(1, 0);
+    HGKeyNavigate(ctl, VK_RETURN, true, false);
+    EXPECT_EQ(100000, CurrentRecord());
+    EXPECT_EQ(0, Current().col);
+    EXPECT_EQ(HGR_NEW, RowFlags(Current().row));
+    ExpectRowsAreRecords();
+}
+
 // The view is scrolled away across; a move to the same cell brings it back, and the editor with it.
 TEST_F(GridViewAway, EditorComesBackWithItsColumn)
 {
