@@ -97,9 +97,6 @@ inline LONG HGTopRecord(const HGridCtl* ctl)
     return RecordOfRow(ctl, ctl->nTopRow);
 }
 
-// The record of a grid's window, or null.
-HGridCtl* HGFromWindow(HWND hwnd);
-
 // Sends a notification. False if the window went with it, and its record too: the caller returns at once then.
 inline bool HGNotify(HGridCtl* ctl, int code)
 {

@@ -121,11 +121,6 @@ LRESULT OnOwnMessage(HGridCtl* ctl, const MsgArgs& args)
 
 } // namespace
 
-HGridCtl* HGFromWindow(HWND hwnd)
-{
-    return static_cast<HGridCtl*>(ControlRecord(hwnd));
-}
-
 LRESULT CALLBACK HGridMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record)
 {
     const MsgArgs args = { hwnd, message, wParam, lParam, pDefault };

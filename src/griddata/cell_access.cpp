@@ -2,7 +2,6 @@
 // The row surgery is in grid_rows_bytes.cpp; what the window does with a change is the grid control's.
 #include "griddata/cell_access.h"
 
-#include "foundation/startup.h"
 #include "griddata/child_messages.h"
 #include "griddata/grid_services.h"
 
@@ -10,11 +9,6 @@
 #include <cstring>
 
 namespace {
-
-HGridCtl* FromWindow(HWND hwnd)
-{
-    return static_cast<HGridCtl*>(ControlRecord(hwnd));
-}
 
 HGridData* DataOf(HGridCtl* ctl)
 {
@@ -284,7 +278,7 @@ int HGParseCell(HGridCtl* ctl, int col, int row, const char* text)
 
 int WINAPI HGGetCellData(HWND hwnd, int col, int row, void* out)
 {
-    HGridData* const grid = DataOf(FromWindow(hwnd));
+    HGridData* const grid = DataOf(HGFromWindow(hwnd));
     col = static_cast<short>(col);
     row = static_cast<short>(row);
     const HGField* const field = grid ? HGGetField(grid, col) : nullptr;
@@ -301,12 +295,12 @@ int WINAPI HGGetCellData(HWND hwnd, int col, int row, void* out)
 
 int WINAPI HGSetCellString(HWND hwnd, int col, int row, const void* value)
 {
-    return HGWriteCell(FromWindow(hwnd), static_cast<short>(col), static_cast<short>(row), value);
+    return HGWriteCell(HGFromWindow(hwnd), static_cast<short>(col), static_cast<short>(row), value);
 }
 
 int WINAPI HGSetCellData(HWND hwnd, int col, int row, const void* value)
 {
-    HGridCtl* const ctl = FromWindow(hwnd);
+    HGridCtl* const ctl = HGFromWindow(hwnd);
     const int written = HGWriteCell(ctl, static_cast<short>(col), static_cast<short>(row), value);
     if (written && ctl->nCurCol == static_cast<WORD>(col) && ctl->nCurRow == static_cast<WORD>(row)) {
         HGLoadEditor(ctl);
@@ -316,19 +310,19 @@ int WINAPI HGSetCellData(HWND hwnd, int col, int row, const void* value)
 
 int WINAPI HGGetCellText(HWND hwnd, int col, int row, char* out, int outSize)
 {
-    HGridCtl* const ctl = FromWindow(hwnd);
+    HGridCtl* const ctl = HGFromWindow(hwnd);
     return DataOf(ctl) ? HGFormatCell(ctl, static_cast<short>(col), static_cast<short>(row), out, outSize, 0) : 0;
 }
 
 int WINAPI HGSetCellText(HWND hwnd, int col, int row, const char* text)
 {
-    HGridCtl* const ctl = FromWindow(hwnd);
+    HGridCtl* const ctl = HGFromWindow(hwnd);
     return DataOf(ctl) ? HGParseCell(ctl, static_cast<short>(col), static_cast<short>(row), text) : 0;
 }
 
 int WINAPI HGCopyCellData(HWND hwnd, int col, int rowFrom, int rowTo)
 {
-    HGridCtl* const ctl = FromWindow(hwnd);
+    HGridCtl* const ctl = HGFromWindow(hwnd);
     HGridData* const grid = DataOf(ctl);
     col = static_cast<short>(col);
     return grid ? HGWriteCell(ctl, col, static_cast<short>(rowTo), HGCellPtr(grid, col, static_cast<short>(rowFrom)))
@@ -347,12 +341,12 @@ int WINAPI IsCellNull(HGridCtl* ctl, int col, int row)
 
 int WINAPI HGIsCellNull(HWND hwnd, int col, int row)
 {
-    return IsCellNull(FromWindow(hwnd), col, row);
+    return IsCellNull(HGFromWindow(hwnd), col, row);
 }
 
 void* WINAPI HGOffsetPtr(HWND hwnd, int col, void* rowData)
 {
-    HGridData* const grid = DataOf(FromWindow(hwnd));
+    HGridData* const grid = DataOf(HGFromWindow(hwnd));
     const HGField* const field = grid && rowData ? HGGetField(grid, static_cast<short>(col)) : nullptr;
     return field ? static_cast<char*>(rowData) + field->nOffset : nullptr;
 }

@@ -1,6 +1,7 @@
 // Single cells of a grid: addresses, flag words, and the one write step that every change passes.
 #pragma once
 
+#include "foundation/startup.h"
 #include "griddata/grid_model.h"
 
 #include <widgets/widgets.h>
@@ -17,6 +18,12 @@ constexpr WORD cellThirdBack = 0x0400;
 constexpr WORD cellOwnBack = 0x0800;
 constexpr WORD cellNoEditBack = 0x1000;
 constexpr WORD cellSysBack = 0x2000;
+
+// The record of a grid's window; null for another window.
+inline HGridCtl* HGFromWindow(HWND hwnd)
+{
+    return static_cast<HGridCtl*>(ControlRecord(hwnd));
+}
 
 BYTE* HGCellPtr(HGridData* grid, int col, int row);      // null if grid, field or row is missing
 BYTE* HGCellFlagsPtr(HGridData* grid, int col, int row); // null if grid or row is missing; col must be valid
