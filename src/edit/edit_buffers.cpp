@@ -1,6 +1,7 @@
 // The buffers of an edit control: value and text, in blocks that grow while keeping their contents.
 #include "edit/edit_internal.h"
 #include "foundation/memory.h"
+#include "typed/data_types.h"
 
 #include <algorithm>
 
@@ -97,9 +98,5 @@ bool GrowData(HEditCtl* ctl, int size)
 
 void CopyValue(const HEditCtl* ctl, void* dest, const void* src)
 {
-    if (IsStringType(ctl)) {
-        CopyText(static_cast<char*>(dest), static_cast<const char*>(src), ctl->cbData);
-    } else {
-        std::memmove(dest, src, static_cast<size_t>(ctl->cbData));
-    }
+    HCopyValue(dest, src, ctl->cClass, ctl->cType, ctl->cbData);
 }
