@@ -1,5 +1,6 @@
 // Item lists: the default callbacks, the life of a list, and every way to add, take away and move a node.
-// Of a node only the link is touched here; searching and comparing stand in item_list_find.cpp.
+// Of a node only the link is touched here; searching and comparing stand in item_list_find.cpp, and adding many items
+// to a sorted list at once in item_list_sort.cpp.
 #include "foundation/item_list.h"
 
 #include "foundation/memory.h"
@@ -197,9 +198,11 @@ int WINAPI HLListAppend(HLList* list, const void* item)
 int WINAPI HLListInsert(HLList* list, int index, const void* item)
 {
     void* const node = list ? list->pfnAlloc(list, item) : nullptr;
-    if (!node) {
-        return -1;
-    }
+    return node ? HLListInsertNode(list, index, node) : -1;
+}
+
+int HLListInsertNode(HLList* list, int index, void* node)
+{
     if (index < 0 || index >= list->cItems) {
         LinkAtEnd(list, node);
         return list->cItems - 1;

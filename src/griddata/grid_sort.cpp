@@ -1,5 +1,6 @@
 // Sorting the rows of a grid by one column. The order is that of a bubble sort which swaps neighbours whenever their
 // compare says so; here it is reached by sorting an index of the rows and linking the rows anew.
+#include "foundation/merge_sort.h"
 #include "griddata/child_messages.h"
 #include "griddata/griddata_internal.h"
 #include "typed/data_types.h"
@@ -93,33 +94,6 @@ bool BubbleEntries(const SortJob& job, SortEntry* entries)
     return swapped;
 }
 
-void MergeRuns(const SortJob& job, const SortEntry* from, SortEntry* to, int left, int middle, int right)
-{
-    const bool inOrder = middle >= right || !WantsSwap(job, from[middle - 1], from[middle]);
-    int        a = left;
-    int        b = middle;
-    for (int i = left; i < right; i++) {
-        const bool takeRight = b < right && (a >= middle || (!inOrder && WantsSwap(job, from[a], from[b])));
-        to[i] = from[takeRight ? b++ : a++];
-    }
-}
-
-// Stable, as swapping neighbours is. Leaves the result in entries.
-void MergeSort(const SortJob& job, SortEntry* entries, SortEntry* spare)
-{
-    SortEntry* from = entries;
-    SortEntry* to = spare;
-    for (int run = 1; run < job.rows; run *= 2) {
-        for (int left = 0; left < job.rows; left += 2 * run) {
-            MergeRuns(job, from, to, left, std::min(left + run, job.rows), std::min(left + 2 * run, job.rows));
-        }
-        std::swap(from, to);
-    }
-    if (from != entries) {
-        std::copy(from, from + job.rows, entries);
-    }
-}
-
 // A value that doesn't equal itself stands above and below all others, and only the steps themselves tell where
 // such values end.
 bool IsOrdered(const SortJob& job, const SortEntry* entries)
@@ -186,7 +160,8 @@ bool SortByIndex(const SortJob& job)
     if (hasRoom && FillEntries(job, entries, keys)) {
         bool swapped;
         if (IsOrdered(job, entries)) {
-            MergeSort(job, entries, entries + count);
+            HMergeSort(entries, entries + count, job.rows,
+                       [&job](const SortEntry& a, const SortEntry& b) { return WantsSwap(job, a, b); });
             // The lowest row moves up one place in each round, so it is swapped in the last one if it came last.
             swapped = entries[0].row == job.rows - 1;
         } else {
