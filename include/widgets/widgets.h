@@ -225,6 +225,126 @@ int WINAPI HLListMove(HLList* list, int from, int to);
 /** Orders two lists node by node with a's pfnCompare, then by count. @return Negative, 0 or positive. */
 int WINAPI HLListCompare(HLList* a, HLList* b);
 
+/* Streams
+ *
+ * Bytes read and written in order: in a file, in a block of memory that grows, or in a resource. A host may make
+ * streams of its own: a record that begins as Stream does, with its own functions. */
+
+typedef struct Stream Stream;
+
+/** Reads up to count bytes. @return The bytes read. */
+typedef int(CALLBACK* STREAMREAD)(Stream* stream, void* buffer, int count);
+/** Writes count bytes. @return The bytes written. */
+typedef int(CALLBACK* STREAMWRITE)(Stream* stream, const void* buffer, int count);
+/** Closes the stream and frees its record. */
+typedef int(CALLBACK* STREAMCLOSE)(Stream* stream);
+/** Goes to a position, or by a distance. @return The position now. */
+typedef int(CALLBACK* STREAMSEEK)(Stream* stream, int position);
+
+/** A stream. A file's record ends with pData; a resource's ends behind it with the handle of the loaded resource. */
+struct Stream {
+    int         nKind;      /**< 1: memory or resource; 2: file. */
+    STREAMREAD  pfnRead;    /**< Reads; null: the stream can't be read. */
+    STREAMWRITE pfnWrite;   /**< Writes; null for a resource. */
+    STREAMCLOSE pfnClose;   /**< Closes. */
+    STREAMSEEK  pfnSeek;    /**< Goes to a position; null for a file and a resource. */
+    STREAMSEEK  pfnSeekRel; /**< Goes by a distance; null for a file and a resource. */
+    void*       pData;      /**< The file's handle, the memory block or null, or where a resource is read next. */
+    DWORD       nPos;       /**< Memory only, as all that follow: the position. */
+    DWORD       cbData;     /**< Bytes written so far. */
+    DWORD       cbAlloc;    /**< Bytes of the block. */
+    DWORD       cbGrow;     /**< Bytes by which the block grows; 0: it can't. */
+};
+
+/** Creates a file, or empties an existing one, for writing. @return The stream, to be closed with SClose, or null. */
+Stream* WINAPI SNewFile(const char* path);
+/** Opens a file for reading; SLocateFile finds it. @return The stream, to be closed with SClose, or null. */
+Stream* WINAPI SOpenFile(const char* name);
+/**
+ * Makes a stream over a block of memory, to write and read.
+ *
+ * @param size  Bytes of the first block; 0 is allowed.
+ * @param grow  Bytes by which a write enlarges a full block; with 0 a write stops where the block ends.
+ * @return The stream, to be closed with SClose; null without memory for its record. Without memory for the block the
+ *         stream has none (pData is null) until a write gets one.
+ */
+Stream* WINAPI SNewMem(int size, int grow);
+/**
+ * Opens a resource for reading.
+ *
+ * @param instance  The module that has the resource.
+ * @param name, type  As in FindResourceA.
+ * @return The stream, to be closed with SClose; null if the resource can't be found or loaded, or for a null name.
+ * @note It reads to the end of the resource and has no position to go to. SEmpty, SGetPtr, SGetSize and SDupMem are
+ *       not for it: they take it for a memory stream without bytes.
+ */
+Stream* WINAPI SOpenRes(HINSTANCE instance, const char* name, const char* type);
+/** Copies a memory stream's bytes to a new one, at position 0. @return It; null for another kind or without memory. */
+Stream* WINAPI SDupMem(Stream* stream);
+/**
+ * Closes a stream and frees it.
+ *
+ * @return -1 for null. For a file -2 if it was closed, 0 if that failed; for memory and a resource 0.
+ */
+int WINAPI SClose(Stream* stream);
+/** Reads up to count bytes. @return The bytes read, fewer at the end; -1 for null or a stream that can't be read. */
+int WINAPI SRead(Stream* stream, void* buffer, int count);
+/** Writes count bytes. @return The bytes written; -1 for null or a stream that can't be written. */
+int WINAPI SWrite(Stream* stream, const void* buffer, int count);
+/**
+ * Goes to a position of a memory stream.
+ *
+ * @param position  Up to the bytes written; -1 goes to their end, any other changes nothing.
+ * @return The position now; -1 for null or a stream that has none.
+ */
+int WINAPI SSeek(Stream* stream, int position);
+/** As SSeek, by a distance from the position; one that leads outside the bytes written changes nothing. */
+int WINAPI SSeekRel(Stream* stream, int delta);
+/**
+ * Reads a text that SWriteString has written: a 16-bit length and as many bytes.
+ *
+ * @return A block with the text, to be freed with GlobalFree; null for null, for the length 0 or without memory.
+ * @note Bytes that are missing at the stream's end read as zeros: there is no telling from the result.
+ */
+char* WINAPI SReadString(Stream* stream);
+/**
+ * Writes the length of a text as 16 bits and its characters without a terminator.
+ *
+ * @param text  Null counts as empty. Of a longer text than 65535 characters, as many are written as the low 16 bits
+ *              of its length say.
+ * @return The length; -1 for a null stream.
+ */
+int WINAPI SWriteString(Stream* stream, const char* text);
+/**
+ * Reads what SWriteStream has written into a new memory stream (growth 32), at position 0.
+ *
+ * @return The stream; null if the bytes end early, for the length 0xFFFF (there was no stream) or without memory.
+ */
+Stream* WINAPI SReadStream(Stream* stream);
+/**
+ * Writes the size of a memory stream as 16 bits and its bytes, in pieces of 256.
+ *
+ * @param dest  Gets length and bytes.
+ * @param src   Goes to position 0 and then to the end; below 65535 bytes, since 0xFFFF stands for no stream.
+ * @return 0; -1 if a piece fell short, or for an src that isn't a memory stream (0xFFFF is written then).
+ */
+int WINAPI SWriteStream(Stream* dest, Stream* src);
+/** Frees the block of a memory stream; cbData stays. @return 0; -1 for null or another kind. */
+int WINAPI SEmpty(Stream* stream);
+/** @return The block of a memory stream, until a write enlarges it; null for null or another kind. */
+void* WINAPI SGetPtr(Stream* stream);
+/** @return The bytes written to a memory stream; -1 for null or another kind. */
+int WINAPI SGetSize(Stream* stream);
+/**
+ * Finds a file where OpenFile looks for one.
+ *
+ * @param name     File name, with or without a path.
+ * @param outPath  Receives the full path, cut to outSize.
+ * @param outSize  Bytes of outPath.
+ * @return 1 if it was found, else 0 and outPath is left alone.
+ */
+int WINAPI SLocateFile(const char* name, char* outPath, int outSize);
+
 /* Typed values
  *
  * Two letters type every value: the class says how it behaves (a date with time, b boolean, c and n number, d date,
@@ -396,6 +516,141 @@ int WINAPI SetThousandsSep(char ch);
 int WINAPI SetDefDateFormat(const char* format);
 /** Sets the default time format, 15 characters at the most, in lower case. @return 1; 0 without h and m in it. */
 int WINAPI SetDefTimeFormat(const char* format);
+
+/* Data lists
+ *
+ * Lists of typed values with a typed code beside each, if wanted. An index counts from 0; where a value is read, -1
+ * means the last item. The HCDL names at the end are second names of the same functions. */
+
+/** The list has codes. A bit of DataList.wFlags; the two bits above it are the sort mode. */
+#define HDL_HASCODE 0x0001
+
+/** A list of values and codes. List and combo controls hold one. Five words; who copies them shares the list. */
+typedef struct DataList {
+    WORD    wFlags;    /**< HDL_HASCODE; bits 1 and 2: 0 in order of insertion, 1 sorted by data, 2 by code. */
+    char    cClass;    /**< Data class. */
+    char    cType;     /**< Data type. */
+    char    cClass2;   /**< Data class of the code, or 0. */
+    char    cType2;    /**< Data type of the code, or 0. */
+    char*   pszFormat; /**< Picture for FormatData, or null. */
+    HLList* pValues;   /**< The values: a node's payload is the value itself. */
+    HLList* pCodes;    /**< The codes, value by value; null without HDL_HASCODE. */
+} DataList;
+
+/**
+ * Makes a list.
+ *
+ * @param sortMode  0: in order of insertion; 1: sorted by data; 2: sorted by code.
+ * @param dataClass, dataType  Pair of the data; has to be valid.
+ * @param class2, type2  Pair of the codes; without a valid one the list has no codes.
+ * @param format  Picture for FormatData; it is copied. May be null.
+ * @return The list; null for a bad first pair or without memory. HDLDestroy empties it, GlobalFree frees its block.
+ */
+DataList* WINAPI HDLCreate(int sortMode, char dataClass, char dataType, char class2, char type2, const char* format);
+/** As HDLCreate, in a record of the caller's, whose old contents don't matter. @return 1, or 0 and a zeroed record. */
+int WINAPI HDLInit(DataList* dl, int sortMode, char dataClass, char dataType, char class2, char type2,
+                   const char* format);
+/** Frees all that the list holds and zeroes the record, which stays the caller's. @return 1; 0 for null. */
+int WINAPI HDLDestroy(DataList* dl);
+/** Removes all items. @return 1; 0 for null. */
+int WINAPI HDLEmpty(DataList* dl);
+/**
+ * Adds a copy of a value and of its code.
+ *
+ * @param index  Place in an unsorted list; one outside it appends. A sorted list finds the place itself, an item goes
+ *               in front of its equals.
+ * @param data   The value, not null.
+ * @param code   The code; null stores zeros or an empty text. Not read without codes.
+ * @return The item's index; -1 for null data or without memory. A list to be sorted by codes that it doesn't have
+ *         takes nothing and gives index.
+ */
+int WINAPI HDLInsertItem(DataList* dl, int index, const void* data, const void* code);
+/** Removes an item. @return Non-zero; 0 for null or an index out of range. */
+int WINAPI HDLDeleteItem(DataList* dl, int index);
+/**
+ * Finds a value in the order of its type (texts without case).
+ *
+ * @param start  Index to begin at, taken modulo the count; the search wraps.
+ * @return The index, or -1.
+ */
+int WINAPI HDLFindData(DataList* dl, int start, const void* data);
+/** As HDLFindData, by the code; -1 for a list without codes. */
+int WINAPI HDLFindCode(DataList* dl, int start, const void* code);
+/**
+ * Copies an item's value.
+ *
+ * @param out  Receives it: GetDataSize bytes, for texts HDLGetDataSize + 1.
+ * @return 1; 0 if nothing was copied: no such item, or an empty text.
+ */
+int WINAPI HDLGetData(DataList* dl, int index, void* out);
+/** As HDLGetData, for the code. */
+int WINAPI HDLGetCode(DataList* dl, int index, void* out);
+/** @return An item's value in the list, until the item is removed; null without the item. */
+void* WINAPI HDLGetDataPtr(DataList* dl, int index);
+/** @return An item's code in the list, until it is removed or set; null without the item or codes. */
+void* WINAPI HDLGetCodePtr(DataList* dl, int index);
+/** @return Bytes of a value, whatever the index. Of a text its length without the terminator, 0 without the item. */
+int WINAPI HDLGetDataSize(DataList* dl, int index);
+/** As HDLGetDataSize, for the code; 0 without codes. */
+int WINAPI HDLGetCodeSize(DataList* dl, int index);
+/**
+ * Replaces an item's code.
+ *
+ * @param code  The code, not null. A text longer than the old one moves to a new block.
+ * @return 1; 0 for null, without the item or codes, in a list sorted by code, or without memory.
+ */
+int WINAPI HDLSetCode(DataList* dl, int index, const void* code);
+/** Copies the picture. @param size Bytes of out. @return The characters copied. */
+int WINAPI HDLGetFormat(DataList* dl, char* out, int size);
+/** Replaces the picture. @return 1; 0 for null, for data of class s (nothing changes) or without memory. */
+int WINAPI HDLSetFormat(DataList* dl, const char* format);
+/**
+ * Writes the text of an item's value.
+ *
+ * @param out          Receives the text, empty without the item.
+ * @param outSize      Bytes of out, at least 2.
+ * @param outNegative  Receives 1 if the value shows in its negative colour, else 0; may be null.
+ * @param editForm     Non-zero: the form for editing.
+ * @return Length of the text, as FormatData gives it; 0 without the item.
+ */
+int WINAPI HDLFormatItem(DataList* dl, int index, char* out, int outSize, int* outNegative, int editForm);
+/**
+ * Reads a list that HDLSave has written. A sorted list is put in order as if its items were added one by one.
+ *
+ * @param dl      A record of the caller's, whose old contents don't matter.
+ * @param stream  Read up to the end of the list.
+ * @return 0; -1 and a zeroed record for a null argument, for bytes that are no list or end early, for a text of 256
+ *         characters or more, or without memory.
+ */
+int WINAPI HDLLoad(DataList* dl, Stream* stream);
+/**
+ * Writes a list: flags, picture, a block of values and, with codes, a block of codes. All numbers are little-endian.
+ *
+ * @return 0, also if the stream took less; -1 for a null list.
+ * @note A text of 256 characters or more is written, but HDLLoad refuses the file.
+ */
+int WINAPI HDLSave(DataList* dl, Stream* stream);
+
+/** Second name of HDLCreate. */
+DataList* WINAPI HCDLCreate(int sortMode, char dataClass, char dataType, char class2, char type2, const char* format);
+/** Second name of HDLDestroy. */
+int WINAPI HCDLDestroy(DataList* dl);
+/** Second name of HDLEmpty. */
+int WINAPI HCDLEmpty(DataList* dl);
+/** Second name of HDLInsertItem. */
+int WINAPI HCDLInsertItem(DataList* dl, int index, const void* data, const void* code);
+/** Second name of HDLDeleteItem. */
+int WINAPI HCDLDeleteItem(DataList* dl, int index);
+/** Second name of HDLFindData. */
+int WINAPI HCDLFindData(DataList* dl, int start, const void* data);
+/** Second name of HDLFindCode. */
+int WINAPI HCDLFindCode(DataList* dl, int start, const void* code);
+/** Second name of HDLGetData. */
+int WINAPI HCDLGetData(DataList* dl, int index, void* out);
+/** Second name of HDLGetCode. */
+int WINAPI HCDLGetCode(DataList* dl, int index, void* out);
+/** Second name of HDLGetDataSize. */
+int WINAPI HCDLGetDataSize(DataList* dl, int index);
 
 /* Control frame */
 

@@ -1,6 +1,8 @@
 // Where grid definitions come from: files by name, and resources of a module.
 #include "griddata/grid_file.h"
 
+#include "foundation/stream.h"
+
 #include <cstring>
 
 namespace {
@@ -72,12 +74,10 @@ HGridData* WINAPI HGridLoad(const char* name, OFSTRUCT* ofs)
 
 HGridData* HGLoadResource(HINSTANCE module, const char* name)
 {
-    const HRSRC       found = name ? FindResourceA(module, name, MAKEINTRESOURCEA(definitionType)) : nullptr;
-    const HGLOBAL     loaded = found ? LoadResource(module, found) : nullptr;
-    const void* const bytes = loaded ? LockResource(loaded) : nullptr;
-    if (!bytes) {
+    const LockedResource locked = HLockResource(module, name, MAKEINTRESOURCEA(definitionType));
+    if (!locked.bytes) {
         return nullptr;
     }
-    MemorySource source = { static_cast<const BYTE*>(bytes), SizeofResource(module, found) };
+    MemorySource source = { locked.bytes, locked.size };
     return HGLoad(ReadFromMemory, &source);
 }

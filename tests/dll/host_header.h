@@ -27,6 +27,9 @@ static int CheckHeader(void)
         CHECK(offsetof(ControlHeader, dwStyle) == 18)
         CHECK(offsetof(HGridCtl, hBkBrush) == 18)
         CHECK(offsetof(HGridCtl, pData) == 52)
+        CHECK(sizeof(Stream) == 44)
+        CHECK(offsetof(Stream, nPos) == 28)
+        CHECK(sizeof(DataList) == 20)
     }
     CHECK(offsetof(HGridCtl, wFlags) == offsetof(ControlHeader, wFlags))
     return 0;

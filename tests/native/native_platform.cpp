@@ -39,6 +39,19 @@ NativeWindow* FindWindow(HWND hwnd)
     return found == gPlatform.windows.end() ? nullptr : &found->second;
 }
 
+// A file's handle is its descriptor.
+int DescriptorOf(HANDLE file)
+{
+    return static_cast<int>(reinterpret_cast<std::intptr_t>(file));
+}
+
+// Of a read or write, as the platform tells it.
+BOOL Transferred(ssize_t count, DWORD* outCount)
+{
+    *outCount = count < 0 ? 0 : static_cast<DWORD>(count);
+    return count >= 0;
+}
+
 // wsprintf knows no 64-bit long: the length letter goes.
 std::string WithoutLongs(const char* format)
 {
@@ -92,6 +105,20 @@ NativeWindow& NativeWindowOf(HWND hwnd)
 }
 
 // KERNEL32
+
+BOOL WINAPI CloseHandle(HANDLE object)
+{
+    return close(DescriptorOf(object)) == 0;
+}
+
+// Only files, new ones to write and old ones to read.
+HANDLE WINAPI CreateFileA(const char* name, DWORD access, DWORD, void*, DWORD disposition, DWORD, HANDLE)
+{
+    constexpr mode_t rights = 0666;
+    const int        create = disposition == CREATE_ALWAYS ? O_CREAT | O_TRUNC : 0;
+    const int        file = open(name, (access & GENERIC_WRITE ? O_WRONLY : O_RDONLY) | create, rights);
+    return reinterpret_cast<HANDLE>(static_cast<std::intptr_t>(file));
+}
 
 HRSRC WINAPI FindResourceA(HMODULE, const char* name, const char* type)
 {
@@ -181,9 +208,19 @@ void WINAPI OutputDebugStringA(const char* text)
     gPlatform.debugOutput.emplace_back(text);
 }
 
+BOOL WINAPI ReadFile(HANDLE file, void* buffer, DWORD count, DWORD* outCount, void*)
+{
+    return Transferred(read(DescriptorOf(file), buffer, count), outCount);
+}
+
 DWORD WINAPI SizeofResource(HMODULE, HRSRC resource)
 {
     return resource ? static_cast<DWORD>(reinterpret_cast<NativeResource*>(resource)->bytes.size()) : 0;
+}
+
+BOOL WINAPI WriteFile(HANDLE file, const void* buffer, DWORD count, DWORD* outCount, void*)
+{
+    return Transferred(write(DescriptorOf(file), buffer, count), outCount);
 }
 
 HFILE WINAPI _lclose(HFILE file)

@@ -166,6 +166,9 @@ typedef struct tagTEXTMETRICA {
 
 #define CLR_INVALID 0xFFFFFFFF
 
+#define CREATE_ALWAYS 2
+#define OPEN_EXISTING 3
+
 #define DT_CENTER 0x0001
 #define DT_RIGHT 0x0002
 #define DT_VCENTER 0x0004
@@ -173,6 +176,14 @@ typedef struct tagTEXTMETRICA {
 #define DT_EXPANDTABS 0x0040
 #define DT_CALCRECT 0x0400
 #define DT_NOPREFIX 0x0800
+
+#define FILE_ATTRIBUTE_READONLY 0x00000001
+#define FILE_ATTRIBUTE_NORMAL 0x00000080
+#define FILE_FLAG_SEQUENTIAL_SCAN 0x08000000
+#define FILE_SHARE_READ 0x00000001
+
+#define GENERIC_READ 0x80000000
+#define GENERIC_WRITE 0x40000000
 
 #define GMEM_FIXED 0x0000
 #define GMEM_MOVEABLE 0x0002
@@ -188,6 +199,8 @@ typedef struct tagTEXTMETRICA {
 #define GWLP_WNDPROC (-4)
 
 #define HFILE_ERROR ((HFILE)-1)
+
+#define INVALID_HANDLE_VALUE ((HANDLE)(LONG_PTR)-1)
 
 #define LOGPIXELSX 88
 #define LOGPIXELSY 90
@@ -317,6 +330,9 @@ typedef struct tagTEXTMETRICA {
 
 /* KERNEL32 */
 
+BOOL WINAPI    CloseHandle(HANDLE object);
+HANDLE WINAPI  CreateFileA(const char* name, DWORD access, DWORD share, void* security, DWORD disposition,
+                           DWORD attributes, HANDLE templateFile);
 HRSRC WINAPI   FindResourceA(HMODULE module, const char* name, const char* type);
 BOOL WINAPI    FreeResource(HGLOBAL resource);
 void WINAPI    GetLocalTime(SYSTEMTIME* time);
@@ -329,7 +345,9 @@ void* WINAPI   LockResource(HGLOBAL resource);
 int WINAPI     MulDiv(int number, int numerator, int denominator);
 HFILE WINAPI   OpenFile(const char* name, OFSTRUCT* ofs, UINT style);
 void WINAPI    OutputDebugStringA(const char* text);
+BOOL WINAPI    ReadFile(HANDLE file, void* buffer, DWORD count, DWORD* outCount, void* overlapped);
 DWORD WINAPI   SizeofResource(HMODULE module, HRSRC resource);
+BOOL WINAPI    WriteFile(HANDLE file, const void* buffer, DWORD count, DWORD* outCount, void* overlapped);
 HFILE WINAPI   _lclose(HFILE file);
 LONG WINAPI    _llseek(HFILE file, LONG offset, int origin);
 UINT WINAPI    _lread(HFILE file, void* buffer, UINT count);
