@@ -32,6 +32,7 @@ const char* ParseNumPicture(const char* picture, bool negative, bool editForm, N
 int NumCharFilter(char* text, const char* picture, int pos, char ch, int* outAdvance, int* outRepaint);
 int FloatCharFilter(char* text, const char* picture, int pos, char ch, int* outAdvance, int* outRepaint);
 
-// Delete steps: 0 nothing to delete, 1 the caller removes the character, 2 the caret only steps, 3 done.
+// Delete steps: 0 nothing to delete, 1 the caller removes the character, 2 the caret only steps, 3 done. That of class
+// z may put in a zero and a point, for which the text has room.
 int NumCharDelete(char* text, const char* picture, int pos);
 int FloatCharDelete(char* text, const char* picture, int pos);
