@@ -35,14 +35,14 @@ int ParseString(HEditCtl* ctl, const char* text)
     const int noCheck = ctl->pfnValidate != nullptr;
     const int size = static_cast<int>(std::strlen(text)) + 1;
     if (GrowData(ctl, size)) {
-        return ParseData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, text, noCheck);
+        return ParseData(ctl->pData, ctl->cClass, ctl->cType, FormatOf(ctl), text, noCheck);
     }
     char* const cut = hstrdup(text);
     if (!cut) {
         return 1;
     }
     cut[ctl->cbData - 1] = 0;
-    const int status = ParseData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, cut, noCheck);
+    const int status = ParseData(ctl->pData, ctl->cClass, ctl->cType, FormatOf(ctl), cut, noCheck);
     HBlockFree(cut);
     return status;
 }
@@ -52,7 +52,7 @@ int ParseText(HEditCtl* ctl, const char* text)
     if (IsStringType(ctl)) {
         return ParseString(ctl, text);
     }
-    return ParseData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, text, ctl->pfnValidate != nullptr);
+    return ParseData(ctl->pData, ctl->cClass, ctl->cType, FormatOf(ctl), text, ctl->pfnValidate != nullptr);
 }
 
 // Whether the bound applies, is passed, and the parent doesn't mind that the value moves to it.

@@ -96,9 +96,9 @@ void StampDate(HEditCtl* ctl, const DateTimeRec& today)
 {
     DateTimeRec back = {};
     FormatDateTime(&today, nullptr, ctl->pszText, dateSize, false, true, false);
-    ParseDateTime(&back, ctl->pszText, ctl->pszFormat, true, false);
+    ParseDateTime(&back, ctl->pszText, FormatOf(ctl), true, false);
     if (std::memcmp(&back, &today, sizeof back) != 0) {
-        FormatDateTime(&today, ctl->pszFormat, ctl->pszText, dateSize, true, true, false);
+        FormatDateTime(&today, FormatOf(ctl), ctl->pszText, dateSize, true, true, false);
     }
 }
 
@@ -118,7 +118,7 @@ Entered Stamp(HEditCtl* ctl)
         rec.minute = static_cast<BYTE>(now.wMinute);
         rec.second = static_cast<BYTE>(now.wSecond);
         rec.msec = now.wMilliseconds;
-        FormatDateTime(&rec, ctl->pszFormat, ctl->pszText, dateTimeSize, true, true, true);
+        FormatDateTime(&rec, FormatOf(ctl), ctl->pszText, dateTimeSize, true, true, true);
     }
     return { LOWORD(ctl->dwStyle), 0, 0, true };
 }
@@ -127,7 +127,7 @@ Entered Stamp(HEditCtl* ctl)
 void LayOutMask(HEditCtl* ctl)
 {
     if (ctl->cClass == 'm' && !*ctl->pszText) {
-        MaskToString("", ctl->pszFormat, ctl->pszText, ctl->cbText, 0);
+        MaskToString("", FormatOf(ctl), ctl->pszText, ctl->cbText, 0);
     }
 }
 
@@ -146,7 +146,7 @@ Entered Enter(HEditCtl* ctl, char ch)
         return Stamp(ctl);
     }
     LayOutMask(ctl);
-    entered.refused = DataCharFilter(ctl->cClass, ctl->cType, ctl->pszText, ctl->pszFormat, SelectionOf(ctl).lo, ch,
+    entered.refused = DataCharFilter(ctl->cClass, ctl->cType, ctl->pszText, FormatOf(ctl), SelectionOf(ctl).lo, ch,
                                      &entered.advance, &entered.repaint);
     return entered;
 }
@@ -154,9 +154,9 @@ Entered Enter(HEditCtl* ctl, char ch)
 // The text of a truth value is written anew from what it stands for.
 void ShowTruth(HEditCtl* ctl)
 {
-    const int value = BoolFromText(ctl->pszFormat, ctl->pszText);
+    const int value = BoolFromText(FormatOf(ctl), ctl->pszText);
     int       negative = 0;
-    FormatData(&value, 'b', 'w', ctl->pszFormat, ctl->pszText, ctl->cbText, &negative, 0);
+    FormatData(&value, 'b', 'w', FormatOf(ctl), ctl->pszText, ctl->cbText, &negative, 0);
     SetFlag(ctl, HEF_NEGATIVE, negative != 0);
     UpdateScrollRange(ctl);
     InvalidateRect(ctl->hWnd, nullptr, TRUE);

@@ -33,6 +33,13 @@ inline bool IsStringType(const HEditCtl* ctl)
     return GetDataSize(ctl->cClass, ctl->cType) < 0;
 }
 
+// The part of the format that conversions and entry steps read. pszFormat's block holds two texts: the format as it was
+// given, and behind its end that part of it.
+inline const char* FormatOf(const HEditCtl* ctl)
+{
+    return ctl->pszFormat ? ctl->pszFormat + std::strlen(ctl->pszFormat) + 1 : nullptr;
+}
+
 // The text and its length. A record that lost its buffers for want of memory reads as empty.
 inline const char* FieldText(const HEditCtl* ctl)
 {
@@ -108,6 +115,7 @@ void        StoreComparable(HEditCtl* ctl, double value);
 
 // Buffers (portable)
 bool ResizeBuffers(HEditCtl* ctl, int size, const void* value); // both buffers; pData gets the text of value
+char* MakeFormat(const char* format, size_t used); // a block for pszFormat; the first characters of it are used
 bool GrowText(HEditCtl* ctl, int size);
 bool GrowData(HEditCtl* ctl, int size);
 void CopyValue(const HEditCtl* ctl, void* dest, const void* src);

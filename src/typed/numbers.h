@@ -28,6 +28,9 @@ constexpr WORD numMinus = 0x0002;   // a minus sign must be printed
 // Fills outPicture from the section for the sign and gives the start of that section, past any bracket group.
 const char* ParseNumPicture(const char* picture, bool negative, bool editForm, NumPicture* outPicture);
 
+// Characters of the longest text that any number has through a picture, in either form.
+int LongestNumberText(const char* picture);
+
 // Entry steps: 0 if ch was taken. Class z has its own, calculator entry.
 int NumCharFilter(char* text, const char* picture, int pos, char ch, int* outAdvance, int* outRepaint);
 int FloatCharFilter(char* text, const char* picture, int pos, char ch, int* outAdvance, int* outRepaint);
