@@ -120,7 +120,8 @@ bool Differs(const HEditCtl* ctl, const OldValue& old)
     return std::memcmp(ctl->pData, old.bytes, static_cast<size_t>(old.size)) != 0;
 }
 
-// Puts the old value back where it is wanted, else notes whether the value is another one now.
+// Puts the old value back where it is wanted, else notes that the value is another one now. That it is the one of the
+// last commit takes no note back: the parent hasn't seen the first one yet.
 void Settle(HEditCtl* ctl, const Verdict& verdict, const OldValue& old)
 {
     if (!old.IsOf(ctl)) {
@@ -129,8 +130,8 @@ void Settle(HEditCtl* ctl, const Verdict& verdict, const OldValue& old)
     const bool isNull = HasFlag(ctl, CF_NULL);
     if (verdict.restore || (isNull && verdict.status)) {
         std::memcpy(ctl->pData, old.bytes, static_cast<size_t>(old.size));
-    } else {
-        SetFlag(ctl, CF_CHANGED, isNull || Differs(ctl, old));
+    } else if (isNull || Differs(ctl, old)) {
+        SetFlag(ctl, CF_CHANGED, true);
     }
 }
 

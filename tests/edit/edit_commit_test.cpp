@@ -4,6 +4,7 @@
 #include "support/guarded_memory.h"
 
 #include <cstring>
+#include <functional>
 
 namespace {
 
@@ -90,15 +91,49 @@ TEST_F(EditCommit, EmptyDateTextOnADateFails)
     EXPECT_EQ(Codes{ HEN_BADINPUT }, Told());
 }
 
-TEST_F(EditCommit, ChangedTellsWhetherTheValueDiffers)
+TEST_F(EditCommit, ChangedTellsThatTheValueDiffers)
 {
     Create("%nl");
+    Replace("00");
+    Send(HEM_COMMIT, 1, 0);
+    EXPECT_FALSE(HasFlag(Ctl(), CF_CHANGED));
     Replace("42");
     Send(HEM_COMMIT, 1, 0);
     EXPECT_TRUE(HasFlag(Ctl(), CF_CHANGED));
-    Replace("042");
-    Send(HEM_COMMIT, 1, 0);
-    EXPECT_FALSE(HasFlag(Ctl(), CF_CHANGED));
+}
+
+TEST_F(EditCommit, ChangedStaysWhenTheSameValueIsCommittedAgain)
+{
+    Create("%nl");
+    const int value = 7;
+    Send(HEM_SETDATA, 0, AsParam(&value));
+    Focus();
+    TypeText("42");
+    Send(WM_KEYDOWN, VK_F2);
+    Send(WM_KEYUP, VK_F2);
+    TypeKey(VK_HOME);
+    TypeText("4");
+    Blur();
+    EXPECT_EQ(42, Number());
+    EXPECT_EQ(1, Send(WWM_GETCHANGED)) << "the parent has not seen the 42 yet";
+}
+
+TEST_F(EditCommit, ChangedIsClearedByTheParentAlone)
+{
+    const std::function<void()> clears[] = {
+        [this] { Send(WWM_SETCHANGED, 0); },
+        [this] { Send(HEM_SETDATA, 0, 0); },
+        [this] { SendText(WM_SETTEXT, 0, "%nl"); },
+    };
+    for (const auto& clear : clears) {
+        edit = nullptr;
+        Create("%nl");
+        Replace("42");
+        Send(HEM_COMMIT, 1, 0);
+        EXPECT_EQ(1, Send(WWM_GETCHANGED));
+        clear();
+        EXPECT_EQ(0, Send(WWM_GETCHANGED)) << "step " << &clear - clears;
+    }
 }
 
 TEST_F(EditCommit, ChangedComparesTextsAsTexts)
@@ -208,6 +243,30 @@ TEST_F(EditCommit, MinimumIsTestedOnTheNumberThatTheMaximumLeft)
     Send(HEM_COMMIT, 1, 1);
     EXPECT_EQ((Codes{ HEN_ABOVEMAX, HEN_BELOWMIN }), Told());
     EXPECT_EQ(10, Number());
+}
+
+TEST_F(EditCommit, NumberTypedAboveTheMaximumMovesToItWhenTheFieldIsLeft)
+{
+    Create("%nl|0;100;|");
+    Focus();
+    TypeText("150");
+    EXPECT_EQ("150", Text());
+    seen.Clear();
+    Blur();
+    EXPECT_EQ((Codes{ HEN_ABOVEMAX, HEN_KILLFOCUS }), Told());
+    EXPECT_EQ("100", Text());
+    EXPECT_EQ(100, Number());
+}
+
+TEST_F(EditCommit, VetoKeepsATypedNumberAboveTheMaximum)
+{
+    Create("%nl|0;100;|");
+    Focus();
+    Veto(HEN_ABOVEMAX);
+    TypeText("150");
+    Blur();
+    EXPECT_EQ("150", Text());
+    EXPECT_EQ(150, Number());
 }
 
 TEST_F(EditCommit, NumberOnTheBoundIsNoCase)
