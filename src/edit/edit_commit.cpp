@@ -63,20 +63,13 @@ Told AskToMove(HEditCtl* ctl, double value, int code)
     return passed ? Tell(ctl, code) : Told::Vetoed;
 }
 
-// Holds the value between its bounds, the upper one first. Dates are held to one of them, numbers to both in turn.
-// Nothing is stored unless a bound takes effect, since the way through a double costs milliseconds and part dates.
-// false: the window went.
-bool HoldBounds(HEditCtl* ctl)
+// A number is held to both bounds in turn, the upper one first. false: the window went.
+bool HoldNumber(HEditCtl* ctl, double value)
 {
-    double value = 0;
-    if (!ctl->wBounds || !ComparableValue(ctl, &value)) {
-        return true;
-    }
-    const bool isDate = ctl->cClass == 'a' || ctl->cClass == 'd' || ctl->cClass == 't';
     Told told = AskToMove(ctl, value, HEN_ABOVEMAX);
     if (told == Told::Accepted) {
         StoreComparable(ctl, ctl->dMax);
-        if (isDate || !ComparableValue(ctl, &value)) {
+        if (!ComparableValue(ctl, &value)) {
             return true;
         }
     }
@@ -87,6 +80,36 @@ bool HoldBounds(HEditCtl* ctl)
         StoreComparable(ctl, ctl->dMin);
     }
     return told != Told::Gone;
+}
+
+// A date is held to one bound only. Settled: with or without bounds it comes back from the double, which has a whole
+// date, so a part of one is filled up: a day without a year is a day of 1992. false: the window went.
+bool HoldDate(HEditCtl* ctl, double value)
+{
+    Told   told = AskToMove(ctl, value, HEN_ABOVEMAX);
+    double bound = ctl->dMax;
+    if (told == Told::Vetoed) {
+        told = AskToMove(ctl, value, HEN_BELOWMIN);
+        bound = told == Told::Gone ? 0 : ctl->dMin;
+    }
+    if (told == Told::Gone) {
+        return false;
+    }
+    if (told == Told::Accepted) {
+        StoreComparable(ctl, bound);
+    } else {
+        StoreUnmoved(ctl, value);
+    }
+    return true;
+}
+
+bool HoldBounds(HEditCtl* ctl)
+{
+    double value = 0;
+    if (!ComparableValue(ctl, &value)) {
+        return true;
+    }
+    return IsDateClass(ctl->cClass) ? HoldDate(ctl, value) : HoldNumber(ctl, value);
 }
 
 // The host's validation, or else the parser's own word. false: the window went.

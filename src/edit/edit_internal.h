@@ -32,6 +32,10 @@ inline bool IsStringType(const HEditCtl* ctl)
 {
     return GetDataSize(ctl->cClass, ctl->cType) < 0;
 }
+inline bool IsDateClass(char dataClass)
+{
+    return dataClass == 'a' || dataClass == 'd' || dataClass == 't';
+}
 
 // The part of the format that conversions and entry steps read. pszFormat's block holds two texts: the format as it was
 // given, and behind its end that part of it.
@@ -112,6 +116,7 @@ int         ReadBound(HEditCtl* ctl, int which, void* data);       // which: 1 d
 void        SetBound(HEditCtl* ctl, int which, const void* data);  // null: the bound no longer applies
 bool        ComparableValue(const HEditCtl* ctl, double* value);   // as CommitText compares it; false: no bounds
 void        StoreComparable(HEditCtl* ctl, double value);
+void        StoreUnmoved(HEditCtl* ctl, double value); // the date's own value; its milliseconds stay
 
 // Buffers (portable)
 bool ResizeBuffers(HEditCtl* ctl, int size, const void* value); // both buffers; pData gets the text of value
