@@ -158,9 +158,16 @@ void Settle(HEditCtl* ctl, const Verdict& verdict, const OldValue& old)
     }
 }
 
-bool IsNullDate(const HEditCtl* ctl)
+// Reads the text into the value and holds it to its bounds. A date that was emptied has neither text nor bounds: it
+// stays null with zeros for a value. false: the window went.
+bool TakeText(HEditCtl* ctl, const char* text, Verdict* verdict)
 {
-    return HasFlag(ctl, CF_NULL) && (ctl->cClass == 'd' || ctl->cClass == 'a');
+    if (!*text && IsNullDate(ctl) && ctl->pData) {
+        std::memset(ctl->pData, 0, static_cast<size_t>(ctl->cbData));
+        return true;
+    }
+    verdict->status = ParseText(ctl, text);
+    return HoldBounds(ctl);
 }
 
 void SelectOnFocus(HEditCtl* ctl)
@@ -189,11 +196,8 @@ int CommitText(HEditCtl* ctl, const char* text)
     }
     const OldValue old(ctl);
     const bool isEmpty = !*text;
-    Verdict verdict = { ParseText(ctl, text), false };
-    if (isEmpty && IsNullDate(ctl)) {
-        verdict.status = 0;
-    }
-    if (!HoldBounds(ctl) || !Judge(ctl, &verdict)) {
+    Verdict verdict = {};
+    if (!TakeText(ctl, text, &verdict) || !Judge(ctl, &verdict)) {
         return verdict.status;
     }
     Settle(ctl, verdict, old);

@@ -123,11 +123,14 @@ Entered Stamp(HEditCtl* ctl)
     return { LOWORD(ctl->dwStyle), 0, 0, true };
 }
 
-// A mask whose text was cleared is laid out anew: its literals have to stand before something is typed between them.
-void LayOutMask(HEditCtl* ctl)
+// The entry steps of masks and dates write between the literals and separators of a text, so one that was cleared is
+// laid out anew for them.
+void LayOut(HEditCtl* ctl)
 {
-    if (ctl->cClass == 'm' && !*ctl->pszText) {
+    if (ctl->cClass == 'm') {
         MaskToString("", FormatOf(ctl), ctl->pszText, ctl->cbText, 0);
+    } else if (IsDateClass(ctl->cClass) || ctl->cClass == 'k') {
+        ShowBlankForm(ctl);
     }
 }
 
@@ -145,9 +148,16 @@ Entered Enter(HEditCtl* ctl, char ch)
     if (ch == ' ' && (IsStampedDate(ctl) || IsStampedDateTime(ctl))) {
         return Stamp(ctl);
     }
-    LayOutMask(ctl);
+    const bool wasEmpty = !*ctl->pszText;
+    if (wasEmpty) {
+        LayOut(ctl);
+    }
     entered.refused = DataCharFilter(ctl->cClass, ctl->cType, ctl->pszText, FormatOf(ctl), SelectionOf(ctl).lo, ch,
                                      &entered.advance, &entered.repaint);
+    if (wasEmpty && entered.refused) {
+        *ctl->pszText = 0; // so that a value which is null by it stays null
+    }
+    entered.repaint = wasEmpty ? TextLength(ctl) : entered.repaint;
     return entered;
 }
 

@@ -36,6 +36,10 @@ inline bool IsDateClass(char dataClass)
 {
     return dataClass == 'a' || dataClass == 'd' || dataClass == 't';
 }
+inline bool IsNullDate(const HEditCtl* ctl)
+{
+    return HasFlag(ctl, CF_NULL) && (ctl->cClass == 'd' || ctl->cClass == 'a');
+}
 
 // The part of the format that conversions and entry steps read. pszFormat's block holds two texts: the format as it was
 // given, and behind its end that part of it.
@@ -129,6 +133,7 @@ void FreeBuffers(HEditCtl* ctl);
 // Value
 int  SetFormat(HEditCtl* ctl, const char* format, bool redraw);
 int  SetText(HEditCtl* ctl, const char* text);
+void ShowBlankForm(HEditCtl* ctl); // the entry form of a date or time without any digit typed
 int  LimitText(HEditCtl* ctl, int limit);
 void UndoTyping(HEditCtl* ctl);
 void ClearValue(HEditCtl* ctl);

@@ -1,8 +1,10 @@
 // The stored value of an edit control and the text made of it: installing, refreshing, formats and limits.
 #include "edit/edit_internal.h"
 #include "foundation/memory.h"
+#include "typed/date_time.h"
 #include "typed/numbers.h"
 
+#include <algorithm>
 #include <climits>
 
 namespace {
@@ -76,11 +78,28 @@ void FormatText(HEditCtl* ctl, bool editForm)
     SetFlag(ctl, HEF_NEGATIVE, negative != 0);
 }
 
+bool IsZero(const HEditCtl* ctl)
+{
+    const BYTE* const bytes = static_cast<const BYTE*>(ctl->pData);
+    return std::all_of(bytes, bytes + ctl->cbData, [](BYTE byte) { return byte == 0; });
+}
+
 void SetForm(HEditCtl* ctl, bool editForm)
 {
     SetFlag(ctl, HEF_DISPLAY, !editForm);
     SetFlag(ctl, HEF_RIGHT, HasStyle(ctl, editForm ? HES_EDITRIGHT : HES_RIGHT));
     SetFlag(ctl, HEF_CENTER, !editForm && HasStyle(ctl, HES_CENTER));
+}
+
+// A null date is typed into from the start, also where zeros are a day of their own.
+void ShowValue(HEditCtl* ctl, bool editForm)
+{
+    if (editForm && IsNullDate(ctl) && IsZero(ctl)) {
+        ShowBlankForm(ctl);
+        SetFlag(ctl, HEF_NEGATIVE, false);
+    } else {
+        FormatText(ctl, editForm);
+    }
 }
 
 // Stores the value, making room for a longer text. null stands for zeros.
@@ -114,6 +133,12 @@ void SelectAfterSet(HEditCtl* ctl)
 
 } // namespace
 
+void ShowBlankForm(HEditCtl* ctl)
+{
+    const DateTimeRec none = {};
+    FormatDateTime(&none, FormatOf(ctl), ctl->pszText, ctl->cbText, true, ctl->cClass != 't', ctl->cClass != 'd');
+}
+
 void RefreshText(HEditCtl* ctl, bool editForm)
 {
     SetForm(ctl, editForm);
@@ -126,7 +151,7 @@ void RefreshText(HEditCtl* ctl, bool editForm)
         if (ctl->pLinked) {
             CopyValue(ctl, ctl->pData, ctl->pLinked);
         }
-        FormatText(ctl, editForm);
+        ShowValue(ctl, editForm);
     }
     UpdateScrollRange(ctl);
     InvalidateRect(ctl->hWnd, nullptr, TRUE);

@@ -67,20 +67,6 @@ TEST_F(EditCommit, EmptyTextKeepsANullValueNull)
     EXPECT_FALSE(HasFlag(Ctl(), HEF_DIRTY));
 }
 
-TEST_F(EditCommit, EmptyDateTextOnANullDateSucceeds)
-{
-    for (const char* const type : { "%dl", "%aQ" }) {
-        edit = nullptr;
-        seen.Clear();
-        Create(type);
-        Send(HEM_SETDATA, 0, 0);
-        Replace("");
-        EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0)) << type;
-        EXPECT_TRUE(HasFlag(Ctl(), CF_NULL));
-        EXPECT_EQ(Codes(), Told());
-    }
-}
-
 TEST_F(EditCommit, EmptyDateTextOnADateFails)
 {
     Create("%dl");

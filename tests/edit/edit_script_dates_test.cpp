@@ -217,6 +217,52 @@ TEST_F(EditScript, ClocksAreTypedKeyByKey)
     });
 }
 
+TEST_F(EditScript, NullDatesAreTypedKeyByKey)
+{
+    RunAll({
+        { "%dldd/mm/yyyy", HES_CLEARALL, startNull, {
+            { "{Home}", "| . .    ", "null" },
+            { "{Right}", " |. .    ", "null" },
+            { "{Leave}", " . .    |", "null" },
+            { "{Home}", "| . .    ", "null" },
+            { "7", "7|. .    ", "@Y-@M-07" },
+            { "{Leave}", "7.@m.@Y|", "@Y-@M-07" },
+            { "{All}", "7.@m.@Y|", "@Y-@M-07" },
+            { "{Del}", "|", "null" },
+            { "{Del}", "|", "null" },
+            { "{Back}", "|", "null" },
+            { "x", "|", "null" },
+            { "{Leave}", " . .    |", "null" },
+            { "{Leave}", " . .    |", "null" },
+            { "{Home}", "| . .    ", "null" },
+            { "3", "3|. .    ", "@Y-@M-03" },
+            { "{All}", "3. .    |", "@Y-@M-03" },
+            { "{Del}", "|", "null" },
+            { "1", "1|. .    ", "@Y-@M-01" },
+            { "2", "12|. .    ", "@Y-@M-12" },
+            { ".", "12.| .    ", "@Y-@M-12" },
+            { "6", "12.6|.    ", "@Y-06-12" },
+        } },
+        { "%aQdd.mm.yyyy hh:mm", HES_CLEARALL, startNull, {
+            { "{Home}", "| . .     0:00", "null" },
+            { "{Leave}", " . .     0:00|", "null" },
+            { "{Home}", "| . .     0:00", "null" },
+            { "5", "5|. .     0:00", "@Y-@M-05 0:00:00" },
+        } },
+        // Without HES_CLEARALL the digits go and the date stays.
+        { "%dldd/mm/yyyy", 0, "17.5.2024", {
+            { "{All}", "17.5.2024|", "2024-05-17" },
+            { "{Del}", "| . .    ", "@Y-01-01" },
+        } },
+        { "%tt", HES_CLEARALL, "10:20:30", {
+            { "{All}", "10:20:30|", "10:20:30" },
+            { "{Del}", "|", "null" },
+            { "1", "1|0:00:00", "10:00:00" },
+            { "{Leave}", "10:00:00|", "10:00:00" },
+        } },
+    });
+}
+
 TEST_F(EditScript, DatesOfOtherSeparatorsAndOrdersAreTypedKeyByKey)
 {
     SetDateSep('-');
@@ -256,6 +302,11 @@ TEST_F(EditScript, DatesOfOtherSeparatorsAndOrdersAreTypedKeyByKey)
             { "2", "12| 17 2024", "2024-12-17" },
             { " ", "12 |17 2024", "2024-12-17" },
             { "2", "12 2|7 2024", "2024-12-27" },
+            { "{All}", "12 27 2024|", "2024-12-27" },
+            { "{Del}", "|", "null" },
+            { "4", "4|       ", "null" }, // no day yet
+            { " ", "4 |      ", "null" },
+            { "5", "4 5|     ", "@Y-04-05" },
         } },
     });
 }

@@ -154,7 +154,7 @@ void EditScriptModel::ExpectAsModelled(char dataClass, int scripts)
         if (!shape.format && std::strchr("adt", dataClass)) {
             continue; // a field always has a format
         }
-        for (const bool clearAll : { false }) {
+        for (const bool clearAll : { false, true }) {
             MakeField(shape, clearAll);
             for (int i = 0; i < 1 + scripts / static_cast<int>(2 * shapes.size()); ++i) {
                 const size_t             pick = random() % (shape.starts.size() + (clearAll ? 1 : 0));

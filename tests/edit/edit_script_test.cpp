@@ -294,6 +294,45 @@ TEST_F(EditScript, NumbersOfOtherSeparatorsAreTypedKeyByKey)
     });
 }
 
+TEST_F(EditScript, EmptiedFieldsAreTypedKeyByKey)
+{
+    RunAll({
+        { "%ssabc", HES_CLEARALL, nullptr, {
+            { "{All}", "abc|", "abc" },
+            { "{Del}", "|", "null" },
+            { "{Leave}", "|", "null" },
+            { "x", "x|", "x" },
+            { "{Leave}", "x|", "x" },
+        } },
+        { "%nl", HES_CLEARALL, "425", {
+            { "{All}", "425|", "425" },
+            { "{Del}", "|", "null" },
+            { "{Leave}", "0|", "null" },
+            { "{Home}", "|0", "null" },
+            { "3", "3|", "3" },
+        } },
+        { "%ms##-##", HES_CLEARALL, "1234", {
+            { "{All}", "12-34|", "1234" },
+            { "{Del}", "|", "null" },
+            { "{Del}", "|", "null" },
+            { "x", "|", "null" },
+            { "5", "5|_-__", "5" },
+            { "{Leave}", "5_-__|", "5" },
+        } },
+        { "%zd0.00", HES_CLEARALL, "1.25", {
+            { "{All}", "1.25|", "1.25" },
+            { "{Del}", "|", "null" },
+            { "7", "7|", "7" },
+            { "{Leave}", "7.00|", "7" },
+        } },
+        { "%bbyes;no", HES_CLEARALL, "no", {
+            { "{All}", "no|", "0" },
+            { "{Del}", "|", "null" },
+            { "n", "|no", "0" },
+        } },
+    });
+}
+
 TEST_F(EditScript, CalculatorNumbersAreTypedKeyByKey)
 {
     RunAll({
