@@ -189,27 +189,35 @@ void ValidateAfterLeaving(HEditCtl* ctl)
 
 } // namespace
 
+// What the host is told of here may make it ask for the value, or take the focus: that is no second commit.
 int CommitText(HEditCtl* ctl, const char* text)
 {
-    if (!HasFlag(ctl, HEF_DIRTY)) {
+    if (!HasFlag(ctl, HEF_DIRTY) || HasFlag(ctl, HEF_COMMITTING)) {
         return 0;
     }
     const OldValue old(ctl);
     const bool isEmpty = !*text;
+    const bool showedDisplay = HasFlag(ctl, HEF_DISPLAY);
     Verdict verdict = {};
+    SetFlag(ctl, HEF_COMMITTING, true);
     if (!TakeText(ctl, text, &verdict) || !Judge(ctl, &verdict)) {
         return verdict.status;
     }
+    SetFlag(ctl, HEF_COMMITTING, false);
     Settle(ctl, verdict, old);
     if (ctl->pLinked && ctl->pData) {
         CopyValue(ctl, ctl->pLinked, ctl->pData);
     }
-    if (!verdict.status) {
-        SetFlag(ctl, HEF_DIRTY, false);
-        // An old value that came back is null again if it was.
-        SetFlag(ctl, CF_NULL, (isEmpty || verdict.restore) && HasFlag(ctl, CF_NULL));
+    if (verdict.status) {
+        return verdict.status;
     }
-    return verdict.status;
+    SetFlag(ctl, HEF_DIRTY, false);
+    // An old value that came back is null again if it was.
+    SetFlag(ctl, CF_NULL, (isEmpty || verdict.restore) && HasFlag(ctl, CF_NULL));
+    if (!showedDisplay && HasFlag(ctl, HEF_DISPLAY)) {
+        RefreshText(ctl, IsFocused(ctl)); // a host that took the focus had it made of what wasn't settled yet
+    }
+    return 0;
 }
 
 bool CommitIfFocused(HEditCtl* ctl)

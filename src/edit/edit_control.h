@@ -5,6 +5,9 @@
 
 #include <widgets/widgets.h>
 
+// A bit of wFlags that hosts neither see nor set: the host is being told of a commit.
+constexpr WORD HEF_COMMITTING = 0x8000;
+
 #pragma pack(push, 2)
 struct HEditCtl {
     HWND       hWnd;

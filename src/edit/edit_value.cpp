@@ -124,6 +124,19 @@ bool StoreValue(HEditCtl* ctl, const void* data)
     return true;
 }
 
+// A host that is told of a bad text may put a better one in its place.
+void CommitOtherText(HEditCtl* ctl, const char* text)
+{
+    const HWND hwnd = ctl->hWnd;
+    const bool wasCommitting = HasFlag(ctl, HEF_COMMITTING);
+    SetFlag(ctl, HEF_COMMITTING, false);
+    SetFlag(ctl, HEF_DIRTY, true);
+    CommitText(ctl, text);
+    if (IsWindow(hwnd)) {
+        SetFlag(ctl, HEF_COMMITTING, wasCommitting);
+    }
+}
+
 // The whole field is repainted anyway.
 void SelectAfterSet(HEditCtl* ctl)
 {
@@ -226,8 +239,7 @@ int SetText(HEditCtl* ctl, const char* text)
     } else if (ctl->cClass == 's') {
         return HEditSetData(ctl, text);
     } else {
-        SetFlag(ctl, HEF_DIRTY, true);
-        CommitText(ctl, text);
+        CommitOtherText(ctl, text);
     }
     if (IsWindow(hwnd)) {
         RefreshText(ctl, IsFocused(ctl));
