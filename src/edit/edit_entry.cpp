@@ -203,15 +203,24 @@ void Accept(HEditCtl* ctl, const Entered& entered)
     }
 }
 
+void ShowWhole(HEditCtl* ctl)
+{
+    UpdateScrollRange(ctl);
+    InvalidateRect(ctl->hWnd, nullptr, TRUE);
+    PlaceCaret(ctl, ctl->nCaret);
+}
+
+// A character that is refused may have cost a number its sign all the same.
 void EnterAndShow(HEditCtl* ctl, char ch)
 {
     const HWND    hwnd = ctl->hWnd;
+    const int     length = TextLength(ctl);
     const Entered entered = Enter(ctl, ch);
     if (!IsWindow(hwnd)) {
         return;
     }
-    if (entered.stamped) {
-        InvalidateRect(hwnd, nullptr, TRUE);
+    if (entered.stamped || (entered.refused && TextLength(ctl) != length)) {
+        ShowWhole(ctl);
     }
     if (entered.refused) {
         MessageBeep(0);
