@@ -62,13 +62,14 @@ void Parse(const Pair& pair, const std::string& text, const char* format, int no
 void Type(const Pair& pair, std::string text, const char* format, FuzzInput keys)
 {
     constexpr char deleteKey = 127;
-    const size_t   room = pair.dataClass == 'b' ? std::strlen(format ? format : "") + sizeof "TRUE;FALSE" : 1;
+    const size_t   longestTruth = pair.dataClass == 'b' ? std::strlen(format ? format : "") + sizeof "TRUE;FALSE" : 0;
     int            caret = 0;
     while (!keys.IsEmpty() && text.size() < 300) {
         const char key = static_cast<char>(keys.Byte());
-        FuzzBuffer exact(text, room);
+        const bool deletes = key == deleteKey;
+        FuzzBuffer exact(text, std::max<size_t>(longestTruth, deletes ? 2 : 1));
         int        advance = 0, repaint = 0;
-        if (key == deleteKey) {
+        if (deletes) {
             advance = DataCharDelete(pair.dataClass, pair.dataType, exact.Get(), format, caret);
             Require(advance == 0 || advance == 1);
         } else {

@@ -57,9 +57,10 @@ void Type(char dataClass, std::string text, const std::string& picture, FuzzInpu
     int            caret = 0;
     while (!keys.IsEmpty() && text.size() < 300) {
         const char key = static_cast<char>(keys.Byte());
-        FuzzBuffer room(text, 1);
+        const bool deletes = key == deleteKey;
+        FuzzBuffer room(text, deletes ? 2 : 1);
         int        advance = 0, repaint = 0;
-        if (key == deleteKey) {
+        if (deletes) {
             advance = DataCharDelete(dataClass, 'd', room.Get(), picture.c_str(), caret);
         } else if (DataCharFilter(dataClass, 'd', room.Get(), picture.c_str(), caret, key, &advance, &repaint)) {
             Require(advance == 0 && repaint == 0);

@@ -1525,7 +1525,16 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 /*
  * Edit control
  *
- * The typed single-line edit, of the classes "HEdit" and "HEdit_SS".
+ * The typed single-line edit, of the classes "HEdit" and "HEdit_SS". It takes some messages of the platform's edits in
+ * its own way:
+ *
+ * - `EM_LIMITTEXT`, for class s: at most wParam characters, and a longer text is cut; 0 or less takes the limit away,
+ *   and HEM_GETLIMIT begins again with 32. Gives 1; -1 for another class; -5 without memory.
+ * - `EM_UNDO`, `WM_UNDO`: the text is rebuilt from the value, so that typing which isn't committed is lost, and the
+ *   caret goes to the start. There is no other step back. They give 1, and so does `EM_CANUNDO` at any time.
+ * - `EM_SETRECT`, `EM_SETRECTNP`: change nothing and give the brush of HEM_GETFOCUSBRUSH. HEM_SETRECT sets the area.
+ * - `EM_GETMODIFY`: commits where WWM_GETCHANGED does, which is with the focus and text that isn't committed, unless
+ *   CF_CHANGED is set. The answer is the default's.
  */
 
 /** Display form centred. Style bit. */
@@ -1540,7 +1549,10 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HES_PASSWORD 0x0020
 /** The text may be wider than the field. Style bit. */
 #define HES_AUTOHSCROLL 0x0080
-/** The selection shows without the focus. Style bit. */
+/**
+ * The selection shows without the focus. The focus doesn't select all either, and EM_SETSEL with 0 and 0xFFFE, by which
+ * the library selects all, does nothing and gives 0. Style bit.
+ */
 #define HES_KEEPSEL 0x0100
 /** The control paints a frame of its own. Style bit. */
 #define HES_FRAME 0x0200
@@ -1557,16 +1569,43 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 /** Neither caret nor selection. Style bit. */
 #define HES_STATIC 0x8000
 
+/** The text shows the display form. Bit of HEM_GETFLAGS. */
+#define HEF_DISPLAY 0x0002
+/** The text is right-aligned now. Bit of HEM_GETFLAGS. */
+#define HEF_RIGHT 0x0004
+/** The text is centred now. Bit of HEM_GETFLAGS. */
+#define HEF_CENTER 0x0008
+/** A typed character is replacing a selection. Bit of HEM_GETFLAGS. */
+#define HEF_REPLACING 0x0010
+/** The length of the text is limited. Bit of HEM_GETFLAGS. */
+#define HEF_LIMITED 0x0020
+/** The text was changed and isn't committed yet. Bit of HEM_GETFLAGS. */
+#define HEF_DIRTY 0x0040
+/** The text shows a negative value. Bit of HEM_GETFLAGS. */
+#define HEF_NEGATIVE 0x0080
+/** The next WM_CHAR is ignored. Bit of HEM_GETFLAGS. */
+#define HEF_SKIPCHAR 0x0100
+/** The thumb of the scroll bar is being dragged. Bit of HEM_GETFLAGS. */
+#define HEF_TRACKING 0x0200
+/** The control has the focus. Bit of HEM_GETFLAGS. */
+#define HEF_FOCUS 0x0400
+
 /** Checks a value of an edit control. @return 0 to accept it. */
 typedef int(CALLBACK* HEVALIDATE)(HWND hwnd, int id, void* data);
 
-/** wParam: size. lParam: buffer. Commits, then copies the value. Gives the bytes copied; 0 for the null value. */
+/**
+ * wParam: size, for a text. lParam: buffer. Commits if the control has the focus, then copies the value. Gives the
+ * bytes copied; 0 for the null value.
+ */
 #define HEM_GETDATA 1064
 /** lParam: value, or 0 for null. Gives 1; -5 without memory. */
 #define HEM_SETDATA 1065
 /** lParam: RECT that receives the text area. Gives 1; -2 for null. */
 #define HEM_GETRECT 1066
-/** wParam: non-zero repaints. lParam: RECT of the text area, or 0 for the client area. Gives 1. */
+/**
+ * wParam: non-zero rebuilds the text from the value, so that typing which isn't committed is lost. lParam: RECT of the
+ * text area, or 0 for the client area. Gives 1.
+ */
 #define HEM_SETRECT 1067
 /** Gives the most characters of the text. */
 #define HEM_GETLIMIT 1068
@@ -1582,7 +1621,10 @@ typedef int(CALLBACK* HEVALIDATE)(HWND hwnd, int id, void* data);
 #define HEM_GETSCROLL 1073
 /** wParam: characters to scroll off. Gives 1. */
 #define HEM_SETSCROLL 1074
-/** wParam: non-zero commits. lParam: with wParam, 0 keeps the text as it is. Gives 0 for success with wParam. */
+/**
+ * wParam: non-zero commits. lParam: with wParam, 0 keeps the text as it is. Gives 0 for success with wParam. While the
+ * host is told of a commit, or validates for it, there is no other one, and the answer is 0.
+ */
 #define HEM_COMMIT 1077
 /** Gives the HEVALIDATE, or 0. */
 #define HEM_GETVALIDATOR 1078
@@ -1608,9 +1650,13 @@ typedef int(CALLBACK* HEVALIDATE)(HWND hwnd, int id, void* data);
 #define HEM_GETBRUSH 1124
 /** wParam: background brush, kept by the caller. Gives the old one. */
 #define HEM_SETBRUSH 1125
-/** wParam: size. lParam: buffer for the format. Gives the count copied. */
+/** wParam: size. lParam: buffer for the format, all its sections. Gives the count copied. */
 #define HEM_GETFORMAT 1126
-/** wParam: non-zero repaints. lParam: format. Gives 1; -2 for null; 0 for class s. */
+/**
+ * wParam: non-zero rebuilds the text from the value, so that typing which isn't committed is lost. lParam: format; what
+ * the null value shows stands behind its first semicolon, in classes n, c and b behind its second one. Gives 1; -2 for
+ * null; 0 for class s; -5 without memory, and then the old format stays.
+ */
 #define HEM_SETFORMAT 1127
 /** Gives the brush used while focused. */
 #define HEM_GETFOCUSBRUSH 1128
@@ -1626,15 +1672,19 @@ typedef int(CALLBACK* HEVALIDATE)(HWND hwnd, int id, void* data);
 #define HEM_GETDATASIZE 1133
 /** Gives the data type. */
 #define HEM_GETTYPE 1134
-/** wParam: non-zero loads from the buffer. lParam: buffer that follows the value, or 0; kept by the caller. */
+/**
+ * wParam: non-zero takes the value from the buffer, 0 writes it there. lParam: buffer that is linked to the value from
+ * now on, kept by the caller; 0 ends the link and makes the value null. A commit and HEM_SETDATA write to the buffer,
+ * and the value is read from it whenever the text is rebuilt. Gives 1.
+ */
 #define HEM_LINKDATA 1136
-/** Gives wFlags. */
+/** Gives the HEF_ and CF_ bits. */
 #define HEM_GETFLAGS 1141
-/** wParam: mask. lParam: non-zero sets, 0 clears. Gives 1. */
+/** wParam: HEF_ and CF_ bits. lParam: non-zero sets them, 0 clears them. Gives 1. */
 #define HEM_SETFLAGS 1142
 /** Gives the address of the text. */
 #define HEM_GETTEXTPTR 1153
-/** Gives the address of the format. */
+/** Gives the address of the format, all its sections. */
 #define HEM_GETFORMATPTR 1154
 
 /** The control has got the focus. */

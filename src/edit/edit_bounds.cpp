@@ -10,10 +10,6 @@ bool IsNumberClass(char dataClass)
 {
     return dataClass == 'n' || dataClass == 'c';
 }
-bool IsDateClass(char dataClass)
-{
-    return dataClass == 'a' || dataClass == 'd' || dataClass == 't';
-}
 
 } // namespace
 
@@ -83,12 +79,25 @@ bool ComparableValue(const HEditCtl* ctl, double* value)
 
 void StoreComparable(HEditCtl* ctl, double value)
 {
-    if (IsNumberClass(ctl->cClass)) {
+    if (ctl->pData && IsNumberClass(ctl->cClass)) {
         DoubleToNum(ctl->pData, ctl->cType, value);
         return;
     }
+    // Bounded: a host that made a text of the field meanwhile has no date for it.
     DateTimeRec rec = {};
-    if (DataToDateTime(&rec, &value, 'u')) {
+    if (IsDateClass(ctl->cClass) && DataToDateTime(&rec, &value, 'u')) {
         DateTimeToData(&rec, ctl->pData, ctl->cType);
     }
+}
+
+void StoreUnmoved(HEditCtl* ctl, double value)
+{
+    DateTimeRec before = {};
+    DateTimeRec rec = {};
+    if (!IsDateClass(ctl->cClass) || !DataToDateTime(&before, ctl->pData, ctl->cType) ||
+        !DataToDateTime(&rec, &value, 'u')) {
+        return;
+    }
+    rec.msec = before.msec;
+    DateTimeToData(&rec, ctl->pData, ctl->cType);
 }

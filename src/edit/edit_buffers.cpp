@@ -29,6 +29,17 @@ void CopyText(char* dest, const char* src, int size)
 
 } // namespace
 
+char* MakeFormat(const char* format, size_t used)
+{
+    const size_t length = std::strlen(format);
+    char* const  block = static_cast<char*>(HBlockAlloc(length + 1 + used + 1));
+    if (block) {
+        std::memcpy(block, format, length);
+        std::memcpy(block + length + 1, format, used);
+    }
+    return block;
+}
+
 void FreeBuffers(HEditCtl* ctl)
 {
     HBlockFree(ctl->pData);

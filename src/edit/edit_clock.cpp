@@ -15,7 +15,8 @@ std::int64_t clockValue; // handed to all clocks
 
 bool FormatHolds(const HEditCtl* ctl, char letter)
 {
-    return ctl->pszFormat && std::strchr(ctl->pszFormat, letter);
+    const char* const format = FormatOf(ctl);
+    return format && std::strchr(format, letter);
 }
 
 bool ShowsAnother(const HEditCtl* ctl, std::int64_t now, std::int64_t shown)

@@ -35,14 +35,14 @@ int ParseString(HEditCtl* ctl, const char* text)
     const int noCheck = ctl->pfnValidate != nullptr;
     const int size = static_cast<int>(std::strlen(text)) + 1;
     if (GrowData(ctl, size)) {
-        return ParseData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, text, noCheck);
+        return ParseData(ctl->pData, ctl->cClass, ctl->cType, FormatOf(ctl), text, noCheck);
     }
     char* const cut = hstrdup(text);
     if (!cut) {
         return 1;
     }
     cut[ctl->cbData - 1] = 0;
-    const int status = ParseData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, cut, noCheck);
+    const int status = ParseData(ctl->pData, ctl->cClass, ctl->cType, FormatOf(ctl), cut, noCheck);
     HBlockFree(cut);
     return status;
 }
@@ -52,7 +52,7 @@ int ParseText(HEditCtl* ctl, const char* text)
     if (IsStringType(ctl)) {
         return ParseString(ctl, text);
     }
-    return ParseData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, text, ctl->pfnValidate != nullptr);
+    return ParseData(ctl->pData, ctl->cClass, ctl->cType, FormatOf(ctl), text, ctl->pfnValidate != nullptr);
 }
 
 // Whether the bound applies, is passed, and the parent doesn't mind that the value moves to it.
@@ -63,20 +63,13 @@ Told AskToMove(HEditCtl* ctl, double value, int code)
     return passed ? Tell(ctl, code) : Told::Vetoed;
 }
 
-// Holds the value between its bounds, the upper one first. Dates are held to one of them, numbers to both in turn.
-// Nothing is stored unless a bound takes effect, since the way through a double costs milliseconds and part dates.
-// false: the window went.
-bool HoldBounds(HEditCtl* ctl)
+// A number is held to both bounds in turn, the upper one first. false: the window went.
+bool HoldNumber(HEditCtl* ctl, double value)
 {
-    double value = 0;
-    if (!ctl->wBounds || !ComparableValue(ctl, &value)) {
-        return true;
-    }
-    const bool isDate = ctl->cClass == 'a' || ctl->cClass == 'd' || ctl->cClass == 't';
     Told told = AskToMove(ctl, value, HEN_ABOVEMAX);
     if (told == Told::Accepted) {
         StoreComparable(ctl, ctl->dMax);
-        if (isDate || !ComparableValue(ctl, &value)) {
+        if (!ComparableValue(ctl, &value)) {
             return true;
         }
     }
@@ -87,6 +80,36 @@ bool HoldBounds(HEditCtl* ctl)
         StoreComparable(ctl, ctl->dMin);
     }
     return told != Told::Gone;
+}
+
+// A date is held to one bound only. Settled: with or without bounds it comes back from the double, which has a whole
+// date, so a part of one is filled up: a day without a year is a day of 1992. false: the window went.
+bool HoldDate(HEditCtl* ctl, double value)
+{
+    Told   told = AskToMove(ctl, value, HEN_ABOVEMAX);
+    double bound = ctl->dMax;
+    if (told == Told::Vetoed) {
+        told = AskToMove(ctl, value, HEN_BELOWMIN);
+        bound = told == Told::Gone ? 0 : ctl->dMin;
+    }
+    if (told == Told::Gone) {
+        return false;
+    }
+    if (told == Told::Accepted) {
+        StoreComparable(ctl, bound);
+    } else {
+        StoreUnmoved(ctl, value);
+    }
+    return true;
+}
+
+bool HoldBounds(HEditCtl* ctl)
+{
+    double value = 0;
+    if (!ComparableValue(ctl, &value)) {
+        return true;
+    }
+    return IsDateClass(ctl->cClass) ? HoldDate(ctl, value) : HoldNumber(ctl, value);
 }
 
 // The host's validation, or else the parser's own word. false: the window went.
@@ -120,7 +143,8 @@ bool Differs(const HEditCtl* ctl, const OldValue& old)
     return std::memcmp(ctl->pData, old.bytes, static_cast<size_t>(old.size)) != 0;
 }
 
-// Puts the old value back where it is wanted, else notes whether the value is another one now.
+// Puts the old value back where it is wanted, else notes that the value is another one now. That it is the one of the
+// last commit takes no note back: the parent hasn't seen the first one yet.
 void Settle(HEditCtl* ctl, const Verdict& verdict, const OldValue& old)
 {
     if (!old.IsOf(ctl)) {
@@ -129,14 +153,21 @@ void Settle(HEditCtl* ctl, const Verdict& verdict, const OldValue& old)
     const bool isNull = HasFlag(ctl, CF_NULL);
     if (verdict.restore || (isNull && verdict.status)) {
         std::memcpy(ctl->pData, old.bytes, static_cast<size_t>(old.size));
-    } else {
-        SetFlag(ctl, CF_CHANGED, isNull || Differs(ctl, old));
+    } else if (isNull || Differs(ctl, old)) {
+        SetFlag(ctl, CF_CHANGED, true);
     }
 }
 
-bool IsNullDate(const HEditCtl* ctl)
+// Reads the text into the value and holds it to its bounds. A date that was emptied has neither text nor bounds: it
+// stays null with zeros for a value. false: the window went.
+bool TakeText(HEditCtl* ctl, const char* text, Verdict* verdict)
 {
-    return HasFlag(ctl, CF_NULL) && (ctl->cClass == 'd' || ctl->cClass == 'a');
+    if (!*text && IsNullDate(ctl) && ctl->pData) {
+        std::memset(ctl->pData, 0, static_cast<size_t>(ctl->cbData));
+        return true;
+    }
+    verdict->status = ParseText(ctl, text);
+    return HoldBounds(ctl);
 }
 
 void SelectOnFocus(HEditCtl* ctl)
@@ -158,30 +189,35 @@ void ValidateAfterLeaving(HEditCtl* ctl)
 
 } // namespace
 
+// What the host is told of here may make it ask for the value, or take the focus: that is no second commit.
 int CommitText(HEditCtl* ctl, const char* text)
 {
-    if (!HasFlag(ctl, HEF_DIRTY)) {
+    if (!HasFlag(ctl, HEF_DIRTY) || HasFlag(ctl, HEF_COMMITTING)) {
         return 0;
     }
     const OldValue old(ctl);
     const bool isEmpty = !*text;
-    Verdict verdict = { ParseText(ctl, text), false };
-    if (isEmpty && IsNullDate(ctl)) {
-        verdict.status = 0;
-    }
-    if (!HoldBounds(ctl) || !Judge(ctl, &verdict)) {
+    const bool showedDisplay = HasFlag(ctl, HEF_DISPLAY);
+    Verdict verdict = {};
+    SetFlag(ctl, HEF_COMMITTING, true);
+    if (!TakeText(ctl, text, &verdict) || !Judge(ctl, &verdict)) {
         return verdict.status;
     }
+    SetFlag(ctl, HEF_COMMITTING, false);
     Settle(ctl, verdict, old);
     if (ctl->pLinked && ctl->pData) {
         CopyValue(ctl, ctl->pLinked, ctl->pData);
     }
-    if (!verdict.status) {
-        SetFlag(ctl, HEF_DIRTY, false);
-        // An old value that came back is null again if it was.
-        SetFlag(ctl, CF_NULL, (isEmpty || verdict.restore) && HasFlag(ctl, CF_NULL));
+    if (verdict.status) {
+        return verdict.status;
     }
-    return verdict.status;
+    SetFlag(ctl, HEF_DIRTY, false);
+    // An old value that came back is null again if it was.
+    SetFlag(ctl, CF_NULL, (isEmpty || verdict.restore) && HasFlag(ctl, CF_NULL));
+    if (!showedDisplay && HasFlag(ctl, HEF_DISPLAY)) {
+        RefreshText(ctl, IsFocused(ctl)); // a host that took the focus had it made of what wasn't settled yet
+    }
+    return 0;
 }
 
 bool CommitIfFocused(HEditCtl* ctl)

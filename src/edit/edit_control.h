@@ -5,17 +5,8 @@
 
 #include <widgets/widgets.h>
 
-// Bits of wFlags beside those of the frame.
-constexpr WORD HEF_DISPLAY = 0x0002;   // the text shows the display form
-constexpr WORD HEF_RIGHT = 0x0004;     // the text is right-aligned now
-constexpr WORD HEF_CENTER = 0x0008;    // the text is centred now
-constexpr WORD HEF_REPLACING = 0x0010; // a typed character is replacing a selection
-constexpr WORD HEF_LIMITED = 0x0020;   // cchMax is fixed
-constexpr WORD HEF_DIRTY = 0x0040;     // the text was changed and not yet committed
-constexpr WORD HEF_NEGATIVE = 0x0080;  // the last format reported a negative value
-constexpr WORD HEF_SKIPCHAR = 0x0100;  // the next WM_CHAR is to be ignored
-constexpr WORD HEF_TRACKING = 0x0200;  // the scroll-bar thumb is being dragged
-constexpr WORD HEF_FOCUS = 0x0400;     // the control has the focus
+// A bit of wFlags that hosts neither see nor set: the host is being told of a commit.
+constexpr WORD HEF_COMMITTING = 0x8000;
 
 #pragma pack(push, 2)
 struct HEditCtl {

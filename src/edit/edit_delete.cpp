@@ -113,7 +113,7 @@ void DeleteChar(HEditCtl* ctl, bool stepForward)
         return;
     }
     const HWND hwnd = ctl->hWnd;
-    const int  step = DataCharDelete(ctl->cClass, ctl->cType, ctl->pszText, ctl->pszFormat, selection.lo);
+    const int  step = DataCharDelete(ctl->cClass, ctl->cType, ctl->pszText, FormatOf(ctl), selection.lo);
     if (Tell(ctl, HEN_UPDATE) == Told::Gone) {
         return;
     }

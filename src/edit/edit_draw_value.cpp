@@ -115,7 +115,7 @@ void FormatValue(HEditCtl* ctl, const void* data, char* text, int* negative)
 {
     text[0] = 0;
     if (data) {
-        FormatData(data, ctl->cClass, ctl->cType, ctl->pszFormat, text, valueTextSize, negative, 0);
+        FormatData(data, ctl->cClass, ctl->cType, FormatOf(ctl), text, valueTextSize, negative, 0);
     } else {
         _fstrnzcpy(text, ctl->pszEmpty, valueTextSize);
     }

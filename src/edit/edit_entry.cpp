@@ -96,9 +96,9 @@ void StampDate(HEditCtl* ctl, const DateTimeRec& today)
 {
     DateTimeRec back = {};
     FormatDateTime(&today, nullptr, ctl->pszText, dateSize, false, true, false);
-    ParseDateTime(&back, ctl->pszText, ctl->pszFormat, true, false);
+    ParseDateTime(&back, ctl->pszText, FormatOf(ctl), true, false);
     if (std::memcmp(&back, &today, sizeof back) != 0) {
-        FormatDateTime(&today, ctl->pszFormat, ctl->pszText, dateSize, true, true, false);
+        FormatDateTime(&today, FormatOf(ctl), ctl->pszText, dateSize, true, true, false);
     }
 }
 
@@ -118,16 +118,19 @@ Entered Stamp(HEditCtl* ctl)
         rec.minute = static_cast<BYTE>(now.wMinute);
         rec.second = static_cast<BYTE>(now.wSecond);
         rec.msec = now.wMilliseconds;
-        FormatDateTime(&rec, ctl->pszFormat, ctl->pszText, dateTimeSize, true, true, true);
+        FormatDateTime(&rec, FormatOf(ctl), ctl->pszText, dateTimeSize, true, true, true);
     }
     return { LOWORD(ctl->dwStyle), 0, 0, true };
 }
 
-// A mask whose text was cleared is laid out anew: its literals have to stand before something is typed between them.
-void LayOutMask(HEditCtl* ctl)
+// The entry steps of masks and dates write between the literals and separators of a text, so one that was cleared is
+// laid out anew for them.
+void LayOut(HEditCtl* ctl)
 {
-    if (ctl->cClass == 'm' && !*ctl->pszText) {
-        MaskToString("", ctl->pszFormat, ctl->pszText, ctl->cbText, 0);
+    if (ctl->cClass == 'm') {
+        MaskToString("", FormatOf(ctl), ctl->pszText, ctl->cbText, 0);
+    } else if (IsDateClass(ctl->cClass) || ctl->cClass == 'k') {
+        ShowBlankForm(ctl);
     }
 }
 
@@ -145,18 +148,25 @@ Entered Enter(HEditCtl* ctl, char ch)
     if (ch == ' ' && (IsStampedDate(ctl) || IsStampedDateTime(ctl))) {
         return Stamp(ctl);
     }
-    LayOutMask(ctl);
-    entered.refused = DataCharFilter(ctl->cClass, ctl->cType, ctl->pszText, ctl->pszFormat, SelectionOf(ctl).lo, ch,
+    const bool wasEmpty = !*ctl->pszText;
+    if (wasEmpty) {
+        LayOut(ctl);
+    }
+    entered.refused = DataCharFilter(ctl->cClass, ctl->cType, ctl->pszText, FormatOf(ctl), SelectionOf(ctl).lo, ch,
                                      &entered.advance, &entered.repaint);
+    if (wasEmpty && entered.refused) {
+        *ctl->pszText = 0; // so that a value which is null by it stays null
+    }
+    entered.repaint = wasEmpty ? TextLength(ctl) : entered.repaint;
     return entered;
 }
 
 // The text of a truth value is written anew from what it stands for.
 void ShowTruth(HEditCtl* ctl)
 {
-    const int value = BoolFromText(ctl->pszFormat, ctl->pszText);
+    const int value = BoolFromText(FormatOf(ctl), ctl->pszText);
     int       negative = 0;
-    FormatData(&value, 'b', 'w', ctl->pszFormat, ctl->pszText, ctl->cbText, &negative, 0);
+    FormatData(&value, 'b', 'w', FormatOf(ctl), ctl->pszText, ctl->cbText, &negative, 0);
     SetFlag(ctl, HEF_NEGATIVE, negative != 0);
     UpdateScrollRange(ctl);
     InvalidateRect(ctl->hWnd, nullptr, TRUE);
@@ -193,15 +203,24 @@ void Accept(HEditCtl* ctl, const Entered& entered)
     }
 }
 
+void ShowWhole(HEditCtl* ctl)
+{
+    UpdateScrollRange(ctl);
+    InvalidateRect(ctl->hWnd, nullptr, TRUE);
+    PlaceCaret(ctl, ctl->nCaret);
+}
+
+// A character that is refused may have cost a number its sign all the same.
 void EnterAndShow(HEditCtl* ctl, char ch)
 {
     const HWND    hwnd = ctl->hWnd;
+    const int     length = TextLength(ctl);
     const Entered entered = Enter(ctl, ch);
     if (!IsWindow(hwnd)) {
         return;
     }
-    if (entered.stamped) {
-        InvalidateRect(hwnd, nullptr, TRUE);
+    if (entered.stamped || (entered.refused && TextLength(ctl) != length)) {
+        ShowWhole(ctl);
     }
     if (entered.refused) {
         MessageBeep(0);

@@ -32,6 +32,21 @@ inline bool IsStringType(const HEditCtl* ctl)
 {
     return GetDataSize(ctl->cClass, ctl->cType) < 0;
 }
+inline bool IsDateClass(char dataClass)
+{
+    return dataClass == 'a' || dataClass == 'd' || dataClass == 't';
+}
+inline bool IsNullDate(const HEditCtl* ctl)
+{
+    return HasFlag(ctl, CF_NULL) && (ctl->cClass == 'd' || ctl->cClass == 'a');
+}
+
+// The part of the format that conversions and entry steps read. pszFormat's block holds two texts: the format as it was
+// given, and behind its end that part of it.
+inline const char* FormatOf(const HEditCtl* ctl)
+{
+    return ctl->pszFormat ? ctl->pszFormat + std::strlen(ctl->pszFormat) + 1 : nullptr;
+}
 
 // The text and its length. A record that lost its buffers for want of memory reads as empty.
 inline const char* FieldText(const HEditCtl* ctl)
@@ -105,9 +120,11 @@ int         ReadBound(HEditCtl* ctl, int which, void* data);       // which: 1 d
 void        SetBound(HEditCtl* ctl, int which, const void* data);  // null: the bound no longer applies
 bool        ComparableValue(const HEditCtl* ctl, double* value);   // as CommitText compares it; false: no bounds
 void        StoreComparable(HEditCtl* ctl, double value);
+void        StoreUnmoved(HEditCtl* ctl, double value); // the date's own value; its milliseconds stay
 
 // Buffers (portable)
 bool ResizeBuffers(HEditCtl* ctl, int size, const void* value); // both buffers; pData gets the text of value
+char* MakeFormat(const char* format, size_t used); // a block for pszFormat; the first characters of it are used
 bool GrowText(HEditCtl* ctl, int size);
 bool GrowData(HEditCtl* ctl, int size);
 void CopyValue(const HEditCtl* ctl, void* dest, const void* src);
@@ -116,6 +133,7 @@ void FreeBuffers(HEditCtl* ctl);
 // Value
 int  SetFormat(HEditCtl* ctl, const char* format, bool redraw);
 int  SetText(HEditCtl* ctl, const char* text);
+void ShowBlankForm(HEditCtl* ctl); // the entry form of a date or time without any digit typed
 int  LimitText(HEditCtl* ctl, int limit);
 void UndoTyping(HEditCtl* ctl);
 void ClearValue(HEditCtl* ctl);

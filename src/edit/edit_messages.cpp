@@ -308,12 +308,12 @@ LRESULT OnSetColor(HEditCtl* ctl, const MsgArgs& args)
 
 LRESULT OnGetFlags(HEditCtl* ctl, const MsgArgs&)
 {
-    return ctl->wFlags;
+    return ctl->wFlags & static_cast<WORD>(~HEF_COMMITTING);
 }
 
 LRESULT OnSetFlags(HEditCtl* ctl, const MsgArgs& args)
 {
-    SetFlag(ctl, LOWORD(args.wParam), args.lParam != 0);
+    SetFlag(ctl, static_cast<WORD>(args.wParam & ~HEF_COMMITTING), args.lParam != 0);
     return 1;
 }
 

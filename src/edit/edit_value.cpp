@@ -1,7 +1,10 @@
 // The stored value of an edit control and the text made of it: installing, refreshing, formats and limits.
 #include "edit/edit_internal.h"
 #include "foundation/memory.h"
+#include "typed/date_time.h"
+#include "typed/numbers.h"
 
+#include <algorithm>
 #include <climits>
 
 namespace {
@@ -10,6 +13,11 @@ constexpr int textRoom = 32;     // characters by which a text may outgrow its b
 constexpr int defaultLimit = 32; // characters of a text field without a limit
 constexpr int noMemory = -5;
 constexpr int nullArgument = -2;
+
+bool IsNumeric(char dataClass)
+{
+    return dataClass == 'n' || dataClass == 'c' || dataClass == 'z';
+}
 
 // Numbers, pictures of truth values: their second section means something else.
 bool HasTwoSections(char dataClass)
@@ -39,13 +47,41 @@ void InstallEmptyText(HEditCtl* ctl, const char* semicolon)
     }
 }
 
-// The text of a value; what can't be formatted shows as nothing.
+// Where the part of a format ends that conversions read: at its empty text, and before an empty section too. They don't
+// stop there by themselves: the letters of "mm/dd/yyyy;no date" would be fields.
+const char* EndOfUsed(const char* format, char dataClass)
+{
+    const char* const empty = FindEmptySection(format, dataClass);
+    if (!empty) {
+        return format + std::strlen(format);
+    }
+    const bool behindEmpty = HasTwoSections(dataClass) && empty[-1] == ';';
+    return behindEmpty ? empty - 1 : empty;
+}
+
+int PrintValue(HEditCtl* ctl, bool editForm, int* negative)
+{
+    ctl->pszText[0] = 0;
+    return FormatData(ctl->pData, ctl->cClass, ctl->cType, FormatOf(ctl), ctl->pszText, ctl->cbText, negative,
+                      editForm);
+}
+
+// The text of a value; what can't be formatted shows as nothing. A number that has no room is no value to type on, so
+// the text gets the room.
 void FormatText(HEditCtl* ctl, bool editForm)
 {
-    int negative = 0;
-    ctl->pszText[0] = 0;
-    FormatData(ctl->pData, ctl->cClass, ctl->cType, ctl->pszFormat, ctl->pszText, ctl->cbText, &negative, editForm);
+    int        negative = 0;
+    const bool fits = PrintValue(ctl, editForm, &negative) > 0;
+    if (!fits && IsNumeric(ctl->cClass) && GrowText(ctl, LongestNumberText(FormatOf(ctl)) + 1)) {
+        PrintValue(ctl, editForm, &negative);
+    }
     SetFlag(ctl, HEF_NEGATIVE, negative != 0);
+}
+
+bool IsZero(const HEditCtl* ctl)
+{
+    const BYTE* const bytes = static_cast<const BYTE*>(ctl->pData);
+    return std::all_of(bytes, bytes + ctl->cbData, [](BYTE byte) { return byte == 0; });
 }
 
 void SetForm(HEditCtl* ctl, bool editForm)
@@ -53,6 +89,17 @@ void SetForm(HEditCtl* ctl, bool editForm)
     SetFlag(ctl, HEF_DISPLAY, !editForm);
     SetFlag(ctl, HEF_RIGHT, HasStyle(ctl, editForm ? HES_EDITRIGHT : HES_RIGHT));
     SetFlag(ctl, HEF_CENTER, !editForm && HasStyle(ctl, HES_CENTER));
+}
+
+// A null date is typed into from the start, also where zeros are a day of their own.
+void ShowValue(HEditCtl* ctl, bool editForm)
+{
+    if (editForm && IsNullDate(ctl) && IsZero(ctl)) {
+        ShowBlankForm(ctl);
+        SetFlag(ctl, HEF_NEGATIVE, false);
+    } else {
+        FormatText(ctl, editForm);
+    }
 }
 
 // Stores the value, making room for a longer text. null stands for zeros.
@@ -77,6 +124,19 @@ bool StoreValue(HEditCtl* ctl, const void* data)
     return true;
 }
 
+// A host that is told of a bad text may put a better one in its place.
+void CommitOtherText(HEditCtl* ctl, const char* text)
+{
+    const HWND hwnd = ctl->hWnd;
+    const bool wasCommitting = HasFlag(ctl, HEF_COMMITTING);
+    SetFlag(ctl, HEF_COMMITTING, false);
+    SetFlag(ctl, HEF_DIRTY, true);
+    CommitText(ctl, text);
+    if (IsWindow(hwnd)) {
+        SetFlag(ctl, HEF_COMMITTING, wasCommitting);
+    }
+}
+
 // The whole field is repainted anyway.
 void SelectAfterSet(HEditCtl* ctl)
 {
@@ -85,6 +145,12 @@ void SelectAfterSet(HEditCtl* ctl)
 }
 
 } // namespace
+
+void ShowBlankForm(HEditCtl* ctl)
+{
+    const DateTimeRec none = {};
+    FormatDateTime(&none, FormatOf(ctl), ctl->pszText, ctl->cbText, true, ctl->cClass != 't', ctl->cClass != 'd');
+}
 
 void RefreshText(HEditCtl* ctl, bool editForm)
 {
@@ -98,7 +164,7 @@ void RefreshText(HEditCtl* ctl, bool editForm)
         if (ctl->pLinked) {
             CopyValue(ctl, ctl->pData, ctl->pLinked);
         }
-        FormatText(ctl, editForm);
+        ShowValue(ctl, editForm);
     }
     UpdateScrollRange(ctl);
     InvalidateRect(ctl->hWnd, nullptr, TRUE);
@@ -132,7 +198,6 @@ int WINAPI HEditSetData(void* record, const void* data)
     return 1;
 }
 
-// Sections of the format that print nothing stay in it: the converters stop at them by themselves.
 int SetFormat(HEditCtl* ctl, const char* format, bool redraw)
 {
     if (!format) {
@@ -143,7 +208,7 @@ int SetFormat(HEditCtl* ctl, const char* format, bool redraw)
     }
     const char* const empty = FindEmptySection(format, ctl->cClass);
     const size_t length = empty ? static_cast<size_t>(empty - format) : std::strlen(format);
-    char* const copy = hstrdup(format);
+    char* const       copy = MakeFormat(format, static_cast<size_t>(EndOfUsed(format, ctl->cClass) - format));
     // Bounded: entry steps write at any place of a mask, so the text gets room for all of it.
     const bool hasRoom = copy && GrowText(ctl, static_cast<int>(std::strlen(format)) + textRoom) &&
                          (!IsStringType(ctl) || GrowData(ctl, static_cast<int>(length) + 1));
@@ -174,8 +239,7 @@ int SetText(HEditCtl* ctl, const char* text)
     } else if (ctl->cClass == 's') {
         return HEditSetData(ctl, text);
     } else {
-        SetFlag(ctl, HEF_DIRTY, true);
-        CommitText(ctl, text);
+        CommitOtherText(ctl, text);
     }
     if (IsWindow(hwnd)) {
         RefreshText(ctl, IsFocused(ctl));

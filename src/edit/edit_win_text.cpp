@@ -125,7 +125,8 @@ void InstallTyped(HEditCtl* ctl, const char* format)
     const int size = GetDataSize(ctl->cClass, ctl->cType);
     ctl->cbData = size < 0 ? static_cast<int>(std::strlen(format)) + 1 : size;
     ctl->pData = HBlockAlloc(static_cast<size_t>(ctl->cbData));
-    ctl->pszFormat = hstrdup(*format ? format : DefaultEditFormat(ctl->cClass, ctl->cType));
+    const char* const chosen = *format ? format : DefaultEditFormat(ctl->cClass, ctl->cType);
+    ctl->pszFormat = MakeFormat(chosen, std::strlen(chosen));
 }
 
 // The rest of the text goes into new buffers.

@@ -16,5 +16,6 @@ int HValuesDiffer(const void* a, const void* b, char dataClass, char dataType);
 // 0 if it was taken. outAdvance: places the caret moves; outRepaint: characters from the old caret to paint.
 int DataCharFilter(char dataClass, char dataType, char* text, const char* format, int pos, char ch, int* outAdvance,
                    int* outRepaint);
-// The delete key at index pos: 1 if the caret has to step on without anything having been removed.
+// The delete key at index pos: 1 if the caret has to step on without anything having been removed. The text has room
+// for two characters more, which class z may put in.
 int DataCharDelete(char dataClass, char dataType, char* text, const char* format, int pos);

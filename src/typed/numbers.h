@@ -28,10 +28,14 @@ constexpr WORD numMinus = 0x0002;   // a minus sign must be printed
 // Fills outPicture from the section for the sign and gives the start of that section, past any bracket group.
 const char* ParseNumPicture(const char* picture, bool negative, bool editForm, NumPicture* outPicture);
 
+// Characters of the longest text that any number has through a picture, in either form.
+int LongestNumberText(const char* picture);
+
 // Entry steps: 0 if ch was taken. Class z has its own, calculator entry.
 int NumCharFilter(char* text, const char* picture, int pos, char ch, int* outAdvance, int* outRepaint);
 int FloatCharFilter(char* text, const char* picture, int pos, char ch, int* outAdvance, int* outRepaint);
 
-// Delete steps: 0 nothing to delete, 1 the caller removes the character, 2 the caret only steps, 3 done.
+// Delete steps: 0 nothing to delete, 1 the caller removes the character, 2 the caret only steps, 3 done. That of class
+// z may put in a zero and a point, for which the text has room.
 int NumCharDelete(char* text, const char* picture, int pos);
 int FloatCharDelete(char* text, const char* picture, int pos);

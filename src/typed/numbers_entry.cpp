@@ -284,9 +284,8 @@ bool TakeOff(char* text, int pos)
     return true;
 }
 
-// Puts the point back to its place from the end; true if a zero had to come in front. The text gets longer than
-// length by one character at the most.
-bool RebuildFixedPoint(char* text, int length, const NumPicture& picture)
+// Puts the point back to its place from the end; true if a zero had to come in front.
+bool RebuildFixedPoint(char* text, const NumPicture& picture)
 {
     const char* const sign = std::strchr(text, '-');
     const bool        minus = TakeOff(text, sign ? static_cast<int>(sign - text) : -1);
@@ -298,8 +297,8 @@ bool RebuildFixedPoint(char* text, int length, const NumPicture& picture)
         ++digits;
     }
     // Settled: the plain point, whatever the separator is.
-    // Bounded: in a text with too few digits it stands at the front, and where there is no room for it it stays away.
-    if (picture.cFracZeros != 0 && digits + (minus ? 1 : 0) <= length) {
+    // Bounded: in a text with too few digits it stands at the front.
+    if (picture.cFracZeros != 0) {
         HInsertChars(text, '.', 1, digits > picture.cFracZeros ? digits - picture.cFracZeros : 0);
     }
     if (minus) {
@@ -368,5 +367,5 @@ int FloatCharDelete(char* text, const char* picture, int pos)
     if (code == deleteDone) {
         HRemoveChars(text, 1, pos);
     }
-    return RebuildFixedPoint(text, length, parsed) ? deleteStep : code;
+    return RebuildFixedPoint(text, parsed) ? deleteStep : code;
 }

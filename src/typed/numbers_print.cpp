@@ -17,6 +17,8 @@ constexpr double tiny = 1e-15; // a value nearer to zero isn't cut to the pictur
 constexpr int    longestInteger = 19;
 constexpr int    mostLeadingZeros = 14;
 constexpr int    groupLength = 3;
+constexpr int    shownDigits = 5;        // of a number in scientific form
+constexpr int    longestScientific = 12; // -1.2345e-308
 
 // A number between its analysis and its text.
 struct Layout {
@@ -241,9 +243,8 @@ int FillOverflow(char* out, int outSize)
 // The first digit, four more without rounding, and the power of ten; cut where out ends.
 int PrintScientific(const DecimalDigits& digits, char* out, int outSize)
 {
-    constexpr int shownDigits = 5;
-    char          shown[shownDigits];
-    const int     first = digits.iExponent < 0 ? -digits.iExponent : 0;
+    char      shown[shownDigits];
+    const int first = digits.iExponent < 0 ? -digits.iExponent : 0;
     for (int i = 0; i < shownDigits; ++i) {
         // Bounded: behind the last digit there are zeros.
         shown[i] = first + i < digits.cDigits ? digits.szDigits[first + i] : '0';
@@ -265,7 +266,26 @@ int PrintScientific(const DecimalDigits& digits, char* out, int outSize)
     return fitting;
 }
 
+// What Measure gives for the most digits that a number can have on each side.
+int LongestOfSection(const char* picture, bool negative)
+{
+    NumPicture section;
+    ParseNumPicture(picture, negative, false, &section);
+    const int places = section.cFracMax == unlimited ? unlimitedPlaces : section.cFracMax;
+    const int intDigits = std::max<int>(longestInteger, section.cIntZeros);
+    const int separators = section.wFlags & numGrouped ? (intDigits - 1) / groupLength : 0;
+    const int minus = 1; // in edit form a section that spells the sign has the minus instead
+    return minus + section.cIntLits + intDigits + separators + section.cFracLits +
+           std::max<int>(places, section.cFracZeros);
+}
+
 } // namespace
+
+int LongestNumberText(const char* picture)
+{
+    const char* const sections = NumPictureOrDefault(picture);
+    return std::max({ longestScientific, LongestOfSection(sections, false), LongestOfSection(sections, true) });
+}
 
 int WINAPI DoubleToString(double value, const char* picture, char* out, int outSize, int editForm)
 {

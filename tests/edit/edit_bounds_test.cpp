@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstddef>
+#include <cstring>
 
 namespace {
 
@@ -160,6 +162,42 @@ TEST(StoreComparable, StoresDayNumbersAsDates)
     EditRecord edit("%dl");
     StoreComparable(&edit.ctl, 2.0);
     EXPECT_EQ(19000101, LoadAs<int>(edit.ctl.pData));
+}
+
+TEST(StoreComparable, LeavesClassesWithoutBoundsAlone)
+{
+    for (const char* const text : { "%ss20abc", "%zd", "%kT", "%ms##" }) {
+        EditRecord        edit(text);
+        const std::string before(static_cast<const char*>(edit.ctl.pData), static_cast<size_t>(+edit.ctl.cbData));
+        StoreComparable(&edit.ctl, 45000.5);
+        StoreUnmoved(&edit.ctl, 45000.5);
+        EXPECT_EQ(before, std::string(static_cast<const char*>(edit.ctl.pData), before.size())) << text;
+    }
+}
+
+TEST(StoreUnmoved, KeepsTheMillisecondsThatTheDoubleLacks)
+{
+    EditRecord        edit("%aD");
+    const DateTimeRec rec = { 2024, 5, 17, 10, 20, 30, 0, 456 };
+    std::memcpy(edit.ctl.pData, &rec, sizeof rec);
+    double value = 0;
+    ASSERT_TRUE(ComparableValue(&edit.ctl, &value));
+    StoreUnmoved(&edit.ctl, value);
+    EXPECT_EQ(0, std::memcmp(edit.ctl.pData, &rec, sizeof rec));
+    StoreComparable(&edit.ctl, value);
+    EXPECT_EQ(0, LoadAs<WORD>(static_cast<const BYTE*>(edit.ctl.pData) + offsetof(DateTimeRec, msec)));
+}
+
+// Settled: the bounds are day numbers, but BoundMinMax takes their bytes for year, month and day.
+TEST(BoundMinMax, StartsADateWithTextBoundsAtTheWordsOfTheLowerOne)
+{
+    GetIntlSettings();
+    const EditRecord edit("%dl|1.1.2020;31.12.2020;|");
+    EXPECT_EQ(3, +edit.ctl.wBounds);
+    EXPECT_EQ(43831.0, +edit.ctl.dMin);
+    EXPECT_EQ(44196.0, +edit.ctl.dMax);
+    // 43831.0 is the bytes 00 00, 00 00, E0 66, ...: the year 0, the month 0 and the day 0xE0.
+    EXPECT_EQ(0xE0, LoadAs<int>(edit.ctl.pData));
 }
 
 } // namespace

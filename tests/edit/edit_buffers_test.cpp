@@ -1,5 +1,6 @@
 // Buffers of the record: growing, copying, failing.
 #include "edit_record.h"
+#include "foundation/memory.h"
 #include "support/guarded_memory.h"
 
 #include <gtest/gtest.h>
@@ -78,6 +79,24 @@ TEST(GrowData, MakesABlockThatAFailureLeftMissing)
     EXPECT_TRUE(GrowData(&edit.ctl, 2));
     EXPECT_EQ(5, +edit.ctl.cbData);
     EXPECT_EQ("", edit.Text());
+}
+
+TEST(MakeFormat, HoldsTheFormatAndThePartOfItThatIsUsed)
+{
+    char* const format = MakeFormat("0;-0;none", 4);
+    EXPECT_STREQ("0;-0;none", format);
+    HEditCtl ctl = {};
+    ctl.pszFormat = format;
+    EXPECT_STREQ("0;-0", FormatOf(&ctl));
+    HBlockFree(format);
+}
+
+TEST(MakeFormat, OfAWindowTextIsUsedWhole)
+{
+    EXPECT_STREQ("0;-0;none", EditRecord("%nl0;-0;none").UsedFormat());
+    EXPECT_STREQ("mm/dd/yyyy", EditRecord("%dl").UsedFormat());
+    EXPECT_STREQ("", EditRecord("%zd").UsedFormat());
+    EXPECT_EQ(nullptr, EditRecord("%ss20abc").UsedFormat());
 }
 
 TEST(CopyValue, CopiesTheBytesOfAFixedType)

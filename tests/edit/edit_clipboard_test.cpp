@@ -71,6 +71,31 @@ TEST_F(EditClipboard, CutCopiesAndDeletes)
     EXPECT_EQ("aef", Text());
 }
 
+TEST_F(EditClipboard, CutOfAllUnderClearAllMakesTheValueNull)
+{
+    for (const char* const window : { "abcdef", "%nl", "%dl", "%ms##" }) {
+        Make(window, HES_CLEARALL);
+        const std::string before = Text();
+        Send(EM_SETSEL, 0, -1);
+        EXPECT_EQ(1, Send(WM_CUT));
+        EXPECT_EQ(before, Clipboard()) << window;
+        EXPECT_EQ("", Text()) << window;
+        EXPECT_EQ(1, Send(WWM_ISNULL)) << window;
+        DestroyWindow(edit);
+    }
+}
+
+TEST_F(EditClipboard, CutOfAPartUnderClearAllGoesByTheRuleOfTheClass)
+{
+    Make("%ms##-##", HES_CLEARALL);
+    SendText(HEM_SETDATA, 0, "1234");
+    Send(EM_SETSEL, 0, 4);
+    EXPECT_EQ(1, Send(WM_CUT));
+    EXPECT_EQ("12-3", Clipboard());
+    EXPECT_EQ("__-_4", Text());
+    EXPECT_EQ(0, Send(WWM_ISNULL));
+}
+
 TEST_F(EditClipboard, CutWithoutASelectionDoesNothing)
 {
     Make("abcdef");

@@ -84,6 +84,16 @@ TEST_F(EditDelete, WholeDateUnderClearAllBecomesNull)
     EXPECT_EQ("", Text());
     EXPECT_EQ(1, Send(WWM_ISNULL));
     EXPECT_EQ((Codes{ HEN_UPDATE, HEN_CHANGE }), Told());
+    Blur();
+    EXPECT_EQ("", Text());
+    EXPECT_EQ(1, Send(WWM_ISNULL));
+    EXPECT_EQ(Codes{ HEN_KILLFOCUS }, Told());
+    Focus();
+    Send(WM_CHAR, '9');
+    EXPECT_EQ('9', Text()[0]);
+    Blur();
+    EXPECT_EQ(0, Send(WWM_ISNULL));
+    EXPECT_EQ("09", Text().substr(0, 2));
 }
 
 TEST_F(EditDelete, WholeDateWithoutClearAllLeavesBlanksAndSeparators)

@@ -1,5 +1,8 @@
 // Keys, as a keyboard sends them.
 #include "edit_window.h"
+#include "support/import_hook.h"
+
+#include <initializer_list>
 
 namespace {
 
@@ -64,16 +67,6 @@ TEST_F(EditKeyboard, DeleteRemovesTheCharacterAtTheCaret)
     EXPECT_EQ("ac", Text());
 }
 
-TEST_F(EditKeyboard, DeleteInAReadOnlyFieldDoesNothing)
-{
-    Make("abc", HES_READONLY, 1);
-    TypeKey(VK_DELETE);
-    EXPECT_EQ("abc", Text());
-    Send(EM_SETSEL, 0, 3);
-    TypeKey(VK_DELETE, withShift);
-    EXPECT_EQ("abc", Text());
-}
-
 TEST_F(EditKeyboard, BackspaceKeyArrivesAsACharacter)
 {
     Make("abc", 0, 2);
@@ -125,6 +118,60 @@ TEST_F(EditKeyboard, CopyNeverTypesACharacter)
     SetSelection(Ctl(), 0, 3, 3);
     TypeText("d");
     EXPECT_EQ("abcd", Text());
+}
+
+// The keyboard's state as GetKeyState gives it, without a message of its own.
+struct HeldKeys {
+    BYTE before[256];
+    explicit HeldKeys(std::initializer_list<int> keys)
+    {
+        GetKeyboardState(before);
+        BYTE state[256] = {};
+        for (const int vk : keys) {
+            state[vk] = 0x80;
+        }
+        SetKeyboardState(state);
+    }
+    ~HeldKeys() { SetKeyboardState(before); }
+    HeldKeys(const HeldKeys&) = delete;
+    HeldKeys& operator=(const HeldKeys&) = delete;
+};
+
+TEST_F(EditKeyboard, CopyHasTheNextCharacterIgnoredWhateverItIs)
+{
+    Make("abc");
+    Send(EM_SETSEL, 0, 3);
+    {
+        const HeldKeys keys({ VK_CONTROL });
+        Send(WM_KEYDOWN, 'C');
+    }
+    EXPECT_TRUE(HasFlag(Ctl(), HEF_SKIPCHAR));
+    Send(WM_CHAR, 'x');
+    EXPECT_EQ("abc", Text());
+    EXPECT_FALSE(HasFlag(Ctl(), HEF_SKIPCHAR));
+    Send(WM_CHAR, 'y');
+    EXPECT_EQ("y", Text());
+}
+
+// AltGr is Ctrl with Alt: with it these keys are letters of some layouts.
+TEST_F(EditKeyboard, CtrlCountsWithoutAltOnly)
+{
+    for (const WPARAM vk : { WPARAM{ 'C' }, WPARAM{ 'V' }, WPARAM{ 'X' }, WPARAM{ 'Z' } }) {
+        Make("abc def");
+        TypeText("?");
+        Send(EM_SETSEL, 0, 3);
+        const HeldKeys keys({ VK_CONTROL, VK_MENU });
+        Send(WM_KEYDOWN, vk);
+        EXPECT_EQ("?abc def", Text()) << static_cast<char>(vk);
+        EXPECT_FALSE(HasFlag(Ctl(), HEF_SKIPCHAR));
+        EXPECT_EQ(MAKELRESULT(0, 3), Selection()) << static_cast<char>(vk);
+    }
+    Make("abc def");
+    const HeldKeys keys({ VK_CONTROL, VK_MENU });
+    Send(WM_KEYDOWN, VK_RIGHT);
+    EXPECT_EQ(MAKELRESULT(1, 1), Selection()) << "no word";
+    Send(WM_CHAR, 0x80);
+    EXPECT_EQ(std::string("a\x80") + "bc def", Text()) << "the euro sign of AltGr+E";
 }
 
 TEST_F(EditKeyboard, UndoKeysRebuildTheTextAndSelectAll)
@@ -200,6 +247,66 @@ TEST_F(EditKeyboard, F2ShowsTheDisplayFormWhileItIsDown)
     EXPECT_EQ("42", Text());
     EXPECT_FALSE(HasFlag(Ctl(), HEF_DISPLAY));
     EXPECT_EQ(MAKELRESULT(2, 2), Selection()) << "keys in between do nothing";
+}
+
+// How often the caret was hidden more than shown: it shows at 0 only.
+int gHidden;
+
+BOOL WINAPI CountHide(HWND)
+{
+    ++gHidden;
+    return TRUE;
+}
+BOOL WINAPI CountShow(HWND)
+{
+    --gHidden;
+    return TRUE;
+}
+
+class EditCaret : public EditKeyboard {
+protected:
+    EditCaret() : hide_("HideCaret", CountHide), show_("ShowCaret", CountShow) {}
+
+private:
+    ImportHook hide_;
+    ImportHook show_;
+};
+
+TEST_F(EditCaret, F2ThatRepeatsHidesItOnce)
+{
+    Make("%nl(*0)");
+    Send(EM_SETSEL, 0, -1);
+    TypeText("42");
+    gHidden = 0;
+    seen.Clear();
+    for (int i = 0; i < 5; ++i) {
+        Send(WM_KEYDOWN, VK_F2, i ? 1 | 1 << 30 : 1);
+        EXPECT_EQ("(42)", Text()) << i;
+        EXPECT_EQ(1, gHidden) << i;
+    }
+    Send(WM_KEYUP, VK_F2);
+    EXPECT_EQ("42", Text());
+    EXPECT_EQ(0, gHidden);
+    EXPECT_EQ(Codes(), Told());
+}
+
+TEST_F(EditCaret, F2OnATextThatIsRefusedShowsTheRepairedValue)
+{
+    Make("%dldd/mm/yyyy");
+    gHidden = 0;
+    Replace(DateText(31, 4, 2024).c_str());
+    Send(WM_KEYDOWN, VK_F2);
+    EXPECT_EQ(Codes{ HEN_BADINPUT }, Told());
+    const std::string display = Text();
+    EXPECT_EQ("30", display.substr(0, 2)) << display;
+    EXPECT_TRUE(HasFlag(Ctl(), HEF_DIRTY));
+    Send(WM_KEYDOWN, VK_F2, 1 | 1 << 30);
+    EXPECT_EQ(Codes(), Told()) << "the repeated key commits nothing";
+    Send(WM_KEYUP, VK_F2);
+    EXPECT_EQ(DateText(30, 4, 2024), Text());
+    EXPECT_EQ(0, gHidden);
+    Blur();
+    EXPECT_EQ(Codes{ HEN_KILLFOCUS }, Told()) << "what shows is a date";
 }
 
 TEST_F(EditKeyboard, KeysOfAFieldInDisplayFormDoNothing)

@@ -14,6 +14,7 @@ struct EditRecord {
     EditRecord& operator=(const EditRecord&) = delete;
 
     std::string Format() const { return ctl.pszFormat ? ctl.pszFormat : "(null)"; }
+    const char* UsedFormat() const { return FormatOf(&ctl); }
     std::string Text() const { return static_cast<const char*>(ctl.pData); }
     double      Number() const { return NumToDouble(ctl.pData, ctl.cType); }
 };

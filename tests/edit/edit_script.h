@@ -11,8 +11,9 @@
 #include <string>
 #include <vector>
 
-// A key is one character, or {Home}, {End}, {Left}, {Right}, {Del}, {Back}, {Ins}, or {All}, which selects the text.
-// In a value, @Y and @M stand for the current year and month.
+// A key is one character, or {Home}, {End}, {Left}, {Right}, {Del}, {Back}, {Ins}, {All}, which selects the text, or
+// {Leave}, which takes the focus away and gives it back. In texts and values, @Y and @M stand for the current year and
+// month, @m for the month without a zero in front. A value that is null reads "null".
 struct ScriptStep {
     const char* key;
     const char* shown; // the caret is "|"
@@ -25,6 +26,7 @@ struct TypedScript {
     const char*             start; // a text to begin with; null for the value that the field comes with
     std::vector<ScriptStep> steps;
 };
+inline constexpr char startNull[] = "null"; // the start at the null value
 
 struct NamedKey {
     const char* name;
@@ -57,6 +59,11 @@ protected:
             Send(EM_SETSEL, 0, -1);
             return;
         }
+        if (std::strcmp(key, "{Leave}") == 0) {
+            Blur();
+            Focus();
+            return;
+        }
         for (const NamedKey& named : namedKeys) {
             if (std::strcmp(key, named.name) == 0) {
                 Send(named.message, named.key);
@@ -80,6 +87,9 @@ protected:
     {
         char value[512] = {};
         Send(HEM_GETDATA, sizeof value, AsParam(value));
+        if (Send(WWM_ISNULL)) {
+            return "null";
+        }
         const char dataClass = Ctl()->cClass;
         if (dataClass == 'n' || dataClass == 'c' || dataClass == 'z') {
             char text[32];
@@ -95,7 +105,9 @@ protected:
     {
         edit = nullptr;
         Create(script.winText, script.style | HES_AUTOHSCROLL, 300);
-        if (script.start) {
+        if (script.start == startNull) {
+            Send(HEM_SETDATA, 0, 0);
+        } else if (script.start) {
             SendText(WM_SETTEXT, 0, script.start);
         }
         Focus();
@@ -103,7 +115,7 @@ protected:
         for (const ScriptStep& step : script.steps) {
             keys += step.key;
             Press(step.key);
-            EXPECT_EQ(step.shown, Shown()) << script.winText << " by " << keys;
+            EXPECT_EQ(Filled(step.shown), Shown()) << script.winText << " by " << keys;
             EXPECT_EQ(Filled(step.value), Stored()) << script.winText << " by " << keys;
         }
         DestroyWindow(edit);
@@ -127,8 +139,9 @@ private:
                 text += value[i];
                 continue;
             }
-            char number[8];
-            std::snprintf(number, sizeof number, "%02d", value[++i] == 'Y' ? now.wYear : now.wMonth);
+            char       number[8];
+            const char letter = value[++i];
+            std::snprintf(number, sizeof number, letter == 'm' ? "%d" : "%02d", letter == 'Y' ? now.wYear : now.wMonth);
             text += number;
         }
         return text;

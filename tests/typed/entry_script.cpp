@@ -113,13 +113,16 @@ public:
         if (at >= kinds_.size()) {
             return 0;
         }
-        (*text)[at] = shown_[at];
+        if (at < text->size()) {
+            (*text)[at] = shown_[at];
+        }
         return 1;
     }
+    std::string Blank() override { return shown_; }
     std::string Value(const std::string& text) const override
     {
         std::string bare;
-        for (size_t i = 0; i < kinds_.size(); ++i) {
+        for (size_t i = 0; i < kinds_.size() && i < text.size(); ++i) {
             if (kinds_[i] == '.') {
                 continue;
             }
@@ -206,9 +209,17 @@ void EntryField::Place(int index)
     caret = std::clamp(index, 0, length);
 }
 
-void EntryField::TypeChar(char ch)
+void EntryField::TypeChar(char ch, bool replacing)
 {
+    if (overwrites_ && !replacing && caret < static_cast<int>(text.size())) {
+        text[static_cast<size_t>(caret)] = ch;
+        Place(caret + 1);
+        return;
+    }
+    const bool wasEmpty = text.empty();
+    text = wasEmpty ? steps_->Blank() : text;
     const ScriptEntered entered = steps_->Filter(&text, caret, ch);
+    text = wasEmpty && entered.refused ? "" : text;
     inRange = inRange && (entered.refused ? entered.advance == 0 : entered.advance >= 0);
     if (entered.refused) {
         Place(caret);
@@ -246,26 +257,46 @@ void EntryField::DeleteRange(int from, int to)
     }
 }
 
+// By the delete key: a text that goes as a whole may leave the null value.
+void EntryField::DeleteSelected(int from, int to)
+{
+    if (clearAll && from == 0 && to == static_cast<int>(text.size())) {
+        text.clear();
+        isNull = true;
+        Place(0);
+    } else {
+        DeleteRange(from, to);
+    }
+}
+
 void EntryField::Press(const ScriptKey& key)
 {
     const int length = static_cast<int>(text.size());
     const int from = std::min(key.from, length);
     const int to = std::min(key.to, length);
     switch (key.kind) {
-    case ScriptKey::Type: TypeChar(key.ch); break;
+    case ScriptKey::Type: TypeChar(key.ch, false); break;
     case ScriptKey::Delete: DeleteChar(true); break;
     case ScriptKey::Backspace: DeleteBackwards(); break;
     case ScriptKey::Move: Place(from); break;
     case ScriptKey::TypeOver:
         Place(to); // an empty selection is a caret
         DeleteRange(from, to);
-        TypeChar(key.ch);
+        TypeChar(key.ch, from < to);
         break;
     case ScriptKey::DeleteOver:
         if (from < to) {
-            DeleteRange(from, to);
+            DeleteSelected(from, to);
         } else {
             Place(to);
+            DeleteChar(true);
+        }
+        break;
+    case ScriptKey::Overwrite: overwrites_ = !overwrites_; break;
+    case ScriptKey::DeleteAll:
+        if (length > 0) {
+            DeleteSelected(0, length);
+        } else {
             DeleteChar(true);
         }
         break;
@@ -296,6 +327,7 @@ std::string StoredText(char dataClass, char dataType, const void* data)
     case 'h': return std::string(static_cast<const char*>(data), *static_cast<const char*>(data) ? 1 : 0);
     case 'a':
     case 'd':
+    case 'k':
     case 't':
         DataToDateTime(&rec, data, dataType);
         return ScriptDateText(rec.year, rec.month, rec.day, rec.hour, rec.minute, rec.second);
@@ -303,7 +335,7 @@ std::string StoredText(char dataClass, char dataType, const void* data)
     }
 }
 
-std::vector<ScriptKey> RandomScript(std::mt19937* random, const ScriptShape& shape)
+std::vector<ScriptKey> RandomScript(std::mt19937* random, const ScriptShape& shape, bool deletesAll)
 {
     const std::string keys = KeysOf(shape.dataClass);
     const auto        pick = [&](size_t count) { return static_cast<int>((*random)() % count); };
@@ -314,7 +346,10 @@ std::vector<ScriptKey> RandomScript(std::mt19937* random, const ScriptShape& sha
         constexpr ScriptKey::Kind kinds[] = { ScriptKey::Delete, ScriptKey::Backspace, ScriptKey::Move,
                                               ScriptKey::Move,   ScriptKey::TypeOver,  ScriptKey::DeleteOver };
         const int                 kind = pick(24);
-        key.kind = kind < 6 ? kinds[kind] : ScriptKey::Type;
+        key.kind = kind < 6                               ? kinds[kind]
+                   : kind == 6 && shape.dataClass == 's' ? ScriptKey::Overwrite
+                   : kind == 7 && deletesAll             ? ScriptKey::DeleteAll
+                                                         : ScriptKey::Type;
         key.ch = keys[static_cast<size_t>(pick(keys.size()))];
         // A blank puts in the date of today there.
         key.ch = key.ch == ' ' && IsStamped(shape) ? '.' : key.ch;
@@ -333,6 +368,8 @@ std::string KeyText(const ScriptKey& key)
     case ScriptKey::Move: return "{To " + std::to_string(key.from) + "}";
     case ScriptKey::TypeOver: return "{Over " + range + "}" + key.ch;
     case ScriptKey::DeleteOver: return "{Del " + range + "}";
+    case ScriptKey::Overwrite: return "{Ins}";
+    case ScriptKey::DeleteAll: return "{All}{Del}";
     default: return std::string(1, key.ch);
     }
 }

@@ -51,33 +51,62 @@ struct Spot {
     int place;  // of the picture
 };
 
+// clang-format off
 struct DateShape {
     char        dataClass;
     const char* types;
     const char* format;
     const char* picture; // of the entry
+    const char* blank;   // the entry before anything is typed
 };
 
 constexpr DateShape dateShapes[] = {
-    { 'd', "laAd", nullptr, "d/m/yyyy" },
-    { 'd', "ladA", "mm/dd/yyyy", "d/m/yyyy" },
-    { 'd', "lad", "dddd, d. mmmm yyyy", "d/m/yyyy" },
-    { 'd', "lad", "yy", "//yyyy" },
-    { 'd', "lad", "mm|yyyy", "m|yyyy" },
-    { 'd', "lad", "mm.yyyy", "/m/yyyy" },
-    { 'd', "lad", "dd.mm", "d/m/" },
-    { 't', "Iit", nullptr, "h:mm:ss" },
-    { 't', "Iit", "hh:mm:ss", "hh:mm:ss" },
-    { 't', "Iit", "hh:mm", "hh:mm" },
-    { 't', "Iit", "hh:mm ap", "hh:mm ap" },
-    { 't', "Iit", "h:mm", "h:mm" },
-    { 't', "Iit", "h", "h" },
-    { 'a', "DsQu", nullptr, "d/m/yyyy h:mm:ss" },
-    { 'a', "DsQu", "mm/dd/yyyy hh:mm:ss", "d/m/yyyy h:mm:ss" },
-    { 'a', "DsQu", "dd.mm.yyyy hh:mm", "d/m/yyyy h:mm" },
-    { 'a', "DsQu", "dd.mm.yyyy", "d/m/yyyy" },
-    { 'a', "Ds", "hh:mm:ss", "hh:mm:ss" },
+    { 'd', "laAd",    nullptr,               "d/m/yyyy",         " . .    "         },
+    { 'd', "ladA",    "mm/dd/yyyy",          "d/m/yyyy",         " . .    "         },
+    { 'd', "lad",     "dddd, d. mmmm yyyy",  "d/m/yyyy",         " . .    "         },
+    { 'd', "lad",     "yy",                  "//yyyy",           "..    "           },
+    { 'd', "lad",     "mm|yyyy",             "m|yyyy",           " /    "           },
+    { 'd', "lad",     "mm.yyyy",             "/m/yyyy",          ". .    "          },
+    { 'd', "lad",     "dd.mm",               "d/m/",             " . ."             },
+    { 't', "Iit",     nullptr,               "h:mm:ss",          "0:00:00"          },
+    { 't', "Iit",     "hh:mm:ss",            "hh:mm:ss",         "00:00:00"         },
+    { 't', "Iit",     "hh:mm",               "hh:mm",            "00:00"            },
+    { 't', "Iit",     "hh:mm ap",            "hh:mm ap",         "12:00 am"         },
+    { 't', "Iit",     "h:mm",                "h:mm",             "0:00"             },
+    { 't', "Iit",     "h",                   "h",                "0"                },
+    { 'a', "DsQuTmq", nullptr,               "d/m/yyyy h:mm:ss", " . .    "         },
+    { 'a', "DsQuTmq", "mm/dd/yyyy hh:mm:ss", "d/m/yyyy h:mm:ss", " . .     0:00:00" },
+    { 'a', "DsQuTmq", "dd.mm.yyyy hh:mm",    "d/m/yyyy h:mm",    " . .     0:00"    },
+    { 'a', "DsQuTmq", "dd.mm.yyyy",          "d/m/yyyy",         " . .    "         },
+    { 'a', "Ds",      "hh:mm:ss",            "hh:mm:ss",         "00:00:00"         },
+    { 'k', "T",       nullptr,               "d/m/yyyy h:mm:ss", " . .    "         },
+    { 'k', "T",       "dd.mm.yyyy hh:mm",    "d/m/yyyy h:mm",    " . .     0:00"    },
+    { 'k', "T",       "hh:mm:ss",            "hh:mm:ss",         "00:00:00"         },
 };
+// clang-format on
+
+// Days since 1 March 1600, and back. The month 0 is the December before, the day 0 the last one of the month before.
+int DaysOf(int year, int month, int day)
+{
+    const int shifted = (year - 1600) * 12 + month - 3; // months, from March on
+    const int years = shifted / 12;
+    return years * 365 + years / 4 - years / 100 + years / 400 + (shifted % 12 * 153 + 2) / 5 + day - 1;
+}
+
+void SetDays(Moment* moment, int days)
+{
+    int year = 1600;
+    while (DaysOf(year + 1, 3, 1) <= days) {
+        ++year;
+    }
+    int month = 3;
+    while (month < 14 && DaysOf(year, month + 1, 1) <= days) {
+        ++month;
+    }
+    moment->day = days - DaysOf(year, month, 1) + 1;
+    moment->year = year + (month > 12 ? 1 : 0);
+    moment->month = month > 12 ? month - 12 : month;
+}
 
 class DateModel : public EntryModel {
 public:
@@ -97,17 +126,22 @@ public:
         const ScriptEntered entered = Filter(text, pos, ' ');
         return entered.advance > 0 ? 1 : 0;
     }
-    std::string Value(const std::string& text) const override
+    std::string Blank() override { return shape_.blank; }
+    std::string Value(const std::string& text) const override { return Shown(Stored(text)); }
+    // A date goes through a count of days, in which the year 0 is 1992.
+    std::string Committed(const std::string& text) const override
     {
-        Moment moment = Read(text);
-        Repair(&moment);
-        if (dataType_ == 'A') {
-            moment.year = 1980 + ((moment.year - 1980) & 127);
+        Moment moment = Stored(text);
+        if (shape_.dataClass == 'a' || shape_.dataClass == 'd') {
+            SetDays(&moment, DaysOf(moment.year ? moment.year : 1992, moment.month, moment.day));
+            FitType(&moment);
         }
-        if (dataType_ == 'I') {
-            moment.second -= moment.second % 2;
-        }
-        return ScriptDateText(moment.year, moment.month, moment.day, moment.hour, moment.minute, moment.second);
+        return Shown(moment);
+    }
+    // A clock begins in 1970, wherever that is, and takes the year of another call for one up to 1900.
+    bool HoldsValue(const std::string& text) const override
+    {
+        return !Holds("Tm", dataType_) || Stored(text).year > 1970;
     }
     // A packed year above 2099 reads as one of this century.
     bool ReadsBack(const std::string& text) const override
@@ -232,6 +266,35 @@ private:
             break;
         default: moment->second = value; break;
         }
+    }
+
+    Moment Stored(const std::string& text) const
+    {
+        Moment moment = Read(text);
+        Repair(&moment);
+        FitType(&moment);
+        return moment;
+    }
+
+    // What the type has no room for goes.
+    void FitType(Moment* moment) const
+    {
+        constexpr int countedDays = 65536;
+        switch (dataType_) {
+        case 'A': moment->year = 1980 + ((moment->year - 1980) & 127); break;
+        case 'I': moment->second -= moment->second % 2; break;
+        case 'q':
+            moment->second = 0;
+            SetDays(moment, DaysOf(1900, 1, 1) +
+                                (DaysOf(moment->year, moment->month, moment->day) - DaysOf(1900, 1, 1)) % countedDays);
+            break;
+        default: break;
+        }
+    }
+
+    static std::string Shown(const Moment& moment)
+    {
+        return ScriptDateText(moment.year, moment.month, moment.day, moment.hour, moment.minute, moment.second);
     }
 
     Moment Read(const std::string& text) const

@@ -276,7 +276,7 @@ public:
             Insert(text, 0, '0');
         }
         if (places.fracZeros) {
-            Insert(text, static_cast<int>(text->size()) - places.fracZeros, '.');
+            Insert(text, std::max(0, static_cast<int>(text->size()) - places.fracZeros), '.');
         }
         if (minus) {
             Insert(text, 0, '-');

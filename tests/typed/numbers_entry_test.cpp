@@ -48,7 +48,7 @@ using DeleteStep = int (*)(char* text, const char* picture, int pos);
 void ExpectDeletion(DeleteStep step, const Deleted& row)
 {
     const Field field = AtCaret(row.shown);
-    ExactBuffer text(field.text, 1);
+    ExactBuffer text(field.text, roomForDelete);
     EXPECT_EQ(row.result, step(text.Get(), row.picture, field.pos)) << row.shown << " under " << row.picture;
     EXPECT_EQ(row.after, text.Text()) << row.shown << " under " << row.picture;
 }
@@ -403,10 +403,11 @@ TEST_F(FloatCharDeleteTest, PutsAPlainPointWhateverTheSeparatorIs)
     ExpectDeletion(FloatCharDelete, { "0.00", "12|,34", 2, "12.34" });
 }
 
-TEST_F(FloatCharDeleteTest, MakesATextLongerByOneCharacterAtTheMost)
+TEST_F(FloatCharDeleteTest, MakesATextLongerByAZeroAndAPointAtTheMost)
 {
-    ExpectDeletion(FloatCharDelete, { "0.00", "5|", 2, "05" });
+    ExpectDeletion(FloatCharDelete, { "0.00", "5|", 2, ".05" });
     ExpectDeletion(FloatCharDelete, { "0.00", "|5", 2, ".0" });
-    ExpectDeletion(FloatCharDelete, { "0.00", "|-5", 2, "-05" });
-    ExpectDeletion(FloatCharDelete, { "0.00", "|", 2, "0" });
+    ExpectDeletion(FloatCharDelete, { "0.00", "|-5", 2, "-.05" });
+    ExpectDeletion(FloatCharDelete, { "0.00", "|", 2, ".0" });
+    ExpectDeletion(FloatCharDelete, { "0.0", "12|", 0, "1.2" });
 }

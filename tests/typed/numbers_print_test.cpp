@@ -3,7 +3,9 @@
 
 #include "typed/numbers.h"
 
+#include <cmath>
 #include <limits>
+#include <random>
 
 namespace {
 
@@ -259,4 +261,35 @@ TEST_F(DoubleToStringTest, TakesANumberTooSmallForAnyPlaceForZero)
 {
     EXPECT_EQ("0.00", Print(5e-324, "0.00", 100, 0).text);
     EXPECT_EQ("0", Print(1e-80, nullptr, 100, 0).text);
+}
+
+TEST_F(DoubleToStringTest, FitsInTheLongestTextOfItsPicture)
+{
+    std::mt19937_64 random(4711);
+    for (const char* const picture : { "", "0", "*0.0*", "#,##0", "#,##0.###", "0.0;(0.00) owed", "$ *#,##0.## net",
+                                       "000,000,000,000,000,000,000,000.00", "[red]0.0*;[blue]-0.0#" }) {
+        const int longest = LongestNumberText(picture);
+        for (int i = 0; i < 2000; ++i) {
+            const double size = std::ldexp(static_cast<double>(random() >> 11), static_cast<int>(random() % 140) - 70);
+            const Result printed = Print(i % 2 ? -size : size, picture, longest + 1, i / 2 % 2);
+            ASSERT_EQ(std::string::npos, printed.text.find('#')) << size << " through " << picture;
+            ASSERT_LE(printed.text.size(), static_cast<size_t>(longest)) << size << " through " << picture;
+        }
+    }
+}
+
+TEST_F(DoubleToStringTest, NeedsTheLongestTextOfItsPicture)
+{
+    struct Row {
+        const char* picture;
+        double      value;
+    };
+    constexpr Row rows[] = {
+        { "#,##0", -9e18 }, { "0.00", -1234567890123456768.0 }, { "#,##0.00 net", -9e18 }
+    };
+    for (const Row& row : rows) {
+        const int longest = LongestNumberText(row.picture);
+        EXPECT_EQ(static_cast<size_t>(longest), Print(row.value, row.picture, longest + 1, 0).text.size())
+            << row.picture;
+    }
 }

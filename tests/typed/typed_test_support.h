@@ -118,10 +118,13 @@ inline void PrintTo(const Deletion& deletion, std::ostream* out)
     *out << "\"" << deletion.text << "\", caret +" << deletion.step;
 }
 
+// A delete step may put in a zero and a point.
+inline constexpr int roomForDelete = 2;
+
 inline Deletion DeleteFrom(char dataClass, const std::string& shown, const char* format)
 {
     const Field field = AtCaret(shown);
-    ExactBuffer text(field.text, 1);
+    ExactBuffer text(field.text, roomForDelete);
     Deletion    deletion;
     deletion.step = DataCharDelete(dataClass, 's', text.Get(), format, field.pos);
     deletion.text = text.Text();
