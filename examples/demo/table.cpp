@@ -71,13 +71,14 @@ bool IsBlank(const Table& table, const std::string& text)
     return text.empty() || (table.before.empty() && std::none_of(text.begin(), text.end(), isDigit));
 }
 
-// Deleting all of a date or a number leaves the cell empty.
-void AllowClearing(HWND grid, size_t columns)
+// Deleting all of a date or a number leaves the cell empty; a text may be longer than its column is wide.
+void PrepareEditors(HWND grid, const std::vector<Column>& columns)
 {
-    for (size_t i = 0; i < columns; ++i) {
+    for (size_t i = 0; i < columns.size(); ++i) {
         const HWND    editor = reinterpret_cast<HWND>(SendMessageA(grid, HGM_GETFIELDCHILD, i, 0));
         const LRESULT style = SendMessageA(editor, WWM_GETSTYLE, 0, 0);
-        SendMessageA(editor, WWM_SETSTYLE, 0, style | HES_CLEARALL);
+        const LRESULT scrolls = columns[i].dataClass == 's' ? HES_AUTOHSCROLL : 0;
+        SendMessageA(editor, WWM_SETSTYLE, 0, style | HES_CLEARALL | scrolls);
     }
 }
 
@@ -100,7 +101,7 @@ Cell CurrentCell(HWND grid)
 
 void BeginEditing(HWND grid, Table& table)
 {
-    AllowClearing(grid, table.columns.size());
+    PrepareEditors(grid, table.columns);
     table.watching = true;
     SendMessageA(grid, HGM_ADDROW, TRUE, 0);
     SendMessageA(grid, HGM_SETSTYLEBITS, FALSE, HGS_READONLY);

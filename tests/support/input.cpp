@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <vector>
 
 namespace {
@@ -16,7 +17,12 @@ struct ModifierKey {
 
 constexpr ModifierKey modifierKeys[] = { { withShift, VK_SHIFT }, { withCtrl, VK_CONTROL }, { withAlt, VK_MENU } };
 
-DWORD gLastClick; // tick count
+// The last press of the left button.
+struct LastClick {
+    DWORD time; // tick count
+    POINT at;
+};
+LastClick gLastClick;
 
 using Inputs = std::vector<INPUT>;
 
@@ -44,11 +50,20 @@ void AddModifiers(Inputs* inputs, unsigned modifiers, bool up)
     }
 }
 
-void AddMouse(Inputs* inputs, DWORD flags, int data = 0)
+// The system takes the whole part of this many 65536ths of the screen as the pixel.
+LONG ScreenShare(LONG pixel, int pixels)
+{
+    return (pixel * 65536 + pixels - 1) / pixels;
+}
+
+// Each event carries its place: a pointer that something else has moved meanwhile doesn't press elsewhere.
+void AddMouse(Inputs* inputs, POINT at, DWORD flags, int data = 0)
 {
     INPUT input = {};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
+    input.mi.dx = ScreenShare(at.x, GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = ScreenShare(at.y, GetSystemMetrics(SM_CYSCREEN));
+    input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
     input.mi.mouseData = static_cast<DWORD>(data);
     inputs->push_back(input);
 }
@@ -60,29 +75,64 @@ void SendAll(Inputs inputs)
     PumpPending();
 }
 
-void PutCursor(HWND hwnd, int x, int y)
+POINT OnScreen(HWND hwnd, int x, int y)
 {
     POINT point = { x, y };
     ClientToScreen(hwnd, &point);
-    SetCursorPos(point.x, point.y);
-    PumpPending();
+    return point;
+}
+
+void PutCursor(POINT at)
+{
+    Inputs inputs;
+    AddMouse(&inputs, at, 0);
+    SendAll(inputs);
 }
 
 // A click near the last one in space and time would count as its double.
-void LetDoubleClickPass()
+void LetDoubleClickPass(POINT at)
 {
-    PumpUntil([] { return GetTickCount() - gLastClick > GetDoubleClickTime(); });
+    const bool close = std::abs(at.x - gLastClick.at.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+                       std::abs(at.y - gLastClick.at.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
+    PumpUntil([close] { return !close || GetTickCount() - gLastClick.time > GetDoubleClickTime(); });
+}
+
+void NoteClick(POINT at)
+{
+    gLastClick = { GetTickCount(), at };
 }
 
 } // namespace
 
 void TypeKey(WORD vk, unsigned modifiers)
 {
+    const KeyPress key = { vk, modifiers };
+    TypeKeys({ &key, 1 });
+}
+
+void TypeKeys(std::span<const KeyPress> keys)
+{
     Inputs inputs;
-    AddModifiers(&inputs, modifiers, false);
+    for (const KeyPress& key : keys) {
+        AddModifiers(&inputs, key.modifiers, false);
+        AddKey(&inputs, key.vk, false);
+        AddKey(&inputs, key.vk, true);
+        AddModifiers(&inputs, key.modifiers, true);
+    }
+    SendAll(inputs);
+}
+
+void HoldKey(WORD vk)
+{
+    Inputs inputs;
     AddKey(&inputs, vk, false);
+    SendAll(inputs);
+}
+
+void ReleaseKey(WORD vk)
+{
+    Inputs inputs;
     AddKey(&inputs, vk, true);
-    AddModifiers(&inputs, modifiers, true);
     SendAll(inputs);
 }
 
@@ -94,68 +144,84 @@ void TypeText(const char* text)
     }
 }
 
+void SendMouse(POINT screen, DWORD flags, unsigned released)
+{
+    Inputs inputs;
+    AddMouse(&inputs, screen, flags);
+    AddModifiers(&inputs, released, true);
+    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
 void MoveMouse(HWND hwnd, int x, int y)
 {
-    PutCursor(hwnd, x, y);
+    PutCursor(OnScreen(hwnd, x, y));
 }
 
-void PressButton(HWND hwnd, int x, int y)
+void PressButton(HWND hwnd, int x, int y, unsigned modifiers)
 {
-    LetDoubleClickPass();
-    PutCursor(hwnd, x, y);
+    const POINT at = OnScreen(hwnd, x, y);
+    LetDoubleClickPass(at);
+    PutCursor(at);
     Inputs inputs;
-    AddMouse(&inputs, MOUSEEVENTF_LEFTDOWN);
+    AddModifiers(&inputs, modifiers, false);
+    AddMouse(&inputs, at, MOUSEEVENTF_LEFTDOWN);
     SendAll(inputs);
-    gLastClick = GetTickCount();
+    NoteClick(at);
 }
 
-void ReleaseButton(HWND hwnd, int x, int y)
+void ReleaseButton(HWND hwnd, int x, int y, unsigned modifiers)
 {
-    PutCursor(hwnd, x, y);
+    const POINT at = OnScreen(hwnd, x, y);
+    PutCursor(at);
     Inputs inputs;
-    AddMouse(&inputs, MOUSEEVENTF_LEFTUP);
+    AddMouse(&inputs, at, MOUSEEVENTF_LEFTUP);
+    AddModifiers(&inputs, modifiers, true);
     SendAll(inputs);
 }
 
 void ClickAt(HWND hwnd, int x, int y, unsigned modifiers)
 {
-    LetDoubleClickPass();
-    PutCursor(hwnd, x, y);
+    const POINT at = OnScreen(hwnd, x, y);
+    LetDoubleClickPass(at);
+    PutCursor(at);
     Inputs inputs;
     AddModifiers(&inputs, modifiers, false);
-    AddMouse(&inputs, MOUSEEVENTF_LEFTDOWN);
-    AddMouse(&inputs, MOUSEEVENTF_LEFTUP);
+    AddMouse(&inputs, at, MOUSEEVENTF_LEFTDOWN);
+    AddMouse(&inputs, at, MOUSEEVENTF_LEFTUP);
     AddModifiers(&inputs, modifiers, true);
     SendAll(inputs);
-    gLastClick = GetTickCount();
+    NoteClick(at);
 }
 
 void RightClickAt(HWND hwnd, int x, int y)
 {
-    PutCursor(hwnd, x, y);
+    const POINT at = OnScreen(hwnd, x, y);
+    PutCursor(at);
     Inputs inputs;
-    AddMouse(&inputs, MOUSEEVENTF_RIGHTDOWN);
-    AddMouse(&inputs, MOUSEEVENTF_RIGHTUP);
+    AddMouse(&inputs, at, MOUSEEVENTF_RIGHTDOWN);
+    AddMouse(&inputs, at, MOUSEEVENTF_RIGHTUP);
     SendAll(inputs);
 }
 
 void DoubleClickAt(HWND hwnd, int x, int y)
 {
-    LetDoubleClickPass();
-    PutCursor(hwnd, x, y);
+    const POINT at = OnScreen(hwnd, x, y);
+    LetDoubleClickPass(at);
+    PutCursor(at);
     Inputs inputs;
     for (int i = 0; i < 2; ++i) {
-        AddMouse(&inputs, MOUSEEVENTF_LEFTDOWN);
-        AddMouse(&inputs, MOUSEEVENTF_LEFTUP);
+        AddMouse(&inputs, at, MOUSEEVENTF_LEFTDOWN);
+        AddMouse(&inputs, at, MOUSEEVENTF_LEFTUP);
     }
     SendAll(inputs);
-    gLastClick = GetTickCount();
+    NoteClick(at);
 }
 
 void Wheel(HWND hwnd, int x, int y, int delta)
 {
-    PutCursor(hwnd, x, y);
+    const POINT at = OnScreen(hwnd, x, y);
+    PutCursor(at);
     Inputs inputs;
-    AddMouse(&inputs, MOUSEEVENTF_WHEEL, delta);
+    AddMouse(&inputs, at, MOUSEEVENTF_WHEEL, delta);
     SendAll(inputs);
 }

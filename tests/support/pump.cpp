@@ -5,15 +5,25 @@ namespace {
 
 constexpr DWORD longestWait = 10;
 
+HWND gDialog;
+
 } // namespace
 
 void PumpPending()
 {
     MSG message;
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (gDialog && IsDialogMessageA(gDialog, &message)) {
+            continue;
+        }
         TranslateMessage(&message);
         DispatchMessageA(&message);
     }
+}
+
+void PumpForDialog(HWND dialog)
+{
+    gDialog = dialog;
 }
 
 bool PumpUntil(const std::function<bool()>& condition, DWORD limitMs)
