@@ -93,9 +93,7 @@ void ClickWithCtrl(HListCtl* ctl, int index, bool shift)
         return;
     }
     HLSelectOne(ctl, index, HLSEL_TOGGLE);
-    const bool selected = ctl->pSelected && PlaceInSelection(ctl, index) < ctl->pSelected->cItems &&
-                          SelectedAt(ctl, PlaceInSelection(ctl, index)) == index;
-    SetFlag(ctl, HLF_DRAGSET, selected);
+    SetFlag(ctl, HLF_DRAGSET, IsInSelection(ctl, index));
 }
 
 bool IsBetween(int index, int a, int b)

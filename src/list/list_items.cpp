@@ -45,16 +45,16 @@ bool CanHoldCurrentCode(char dataClass, char dataType)
 // Reads the type text, which is changed, into the record.
 bool ReadTypeText(HListCtl* ctl, char* text)
 {
-    char dataClass = 's';
-    char dataType = 's';
-    char codeClass = 0;
-    char codeType = 0;
+    char        dataClass = 's';
+    char        dataType = 's';
+    char        codeClass = 0;
+    char        codeType = 0;
     char* const format = GetDataTypes(text, &dataClass, &dataType, &codeClass, &codeType);
     if (!CanHoldCurrentCode(codeClass, codeType)) {
         ctl->dwStyle &= ~static_cast<DWORD>(HLS_CODECURRENT);
     }
     TakeColors(ctl, format);
-    DataList items = {};
+    DataList   items = {};
     const bool made = HDLInit(&items, SortModeOf(ctl), dataClass, dataType, codeClass, codeType, format) != 0;
     ctl->items = items;
     return made;
@@ -149,7 +149,7 @@ private:
 int InsertQuietly(HListCtl* ctl, int index, const void* data, const void* code)
 {
     const int before = HLCount(ctl);
-    DataList items = ctl->items;
+    DataList  items = ctl->items;
     const int at = HDLInsertItem(&items, index, data, code);
     if (HLCount(ctl) > before) {
         HLAdjustIndexes(ctl, 1, at);
@@ -157,12 +157,20 @@ int InsertQuietly(HListCtl* ctl, int index, const void* data, const void* code)
     return at;
 }
 
+// An index of no item, as a fresh record and one with items of somebody else's may have.
+bool HasStrayIndex(const HListCtl* ctl)
+{
+    const int count = HLCount(ctl);
+    const int selected = HLListCount(ctl->pSelected);
+    return ctl->nCurrent >= count || ctl->nAnchor >= count || (selected && SelectedAt(ctl, selected - 1) >= count);
+}
+
 // The same for many, at the cost of one sort and one walk.
 void InsertAll(HListCtl* ctl, int index, int n, const GivenItems& given)
 {
     int first = 0;
-    // Into an empty list the first one goes alone: indexes that a fresh record has name it then.
-    while (first < n && HLCount(ctl) == 0) {
+    // Items go in one by one while an index names none: an insertion limits it.
+    while (first < n && HasStrayIndex(ctl)) {
         InsertQuietly(ctl, index < 0 ? index : index + first, ValueAt(given.data, given.dataSize, first),
                       ValueAt(given.codes, given.codeSize, first));
         ++first;
@@ -185,7 +193,7 @@ void InsertAll(HListCtl* ctl, int index, int n, const GivenItems& given)
 // The owner of drawn items hears of each one that goes.
 void TellOwner(HListCtl* ctl, int index)
 {
-    constexpr UINT listControl = 2; // ODT_LISTBOX
+    constexpr UINT   listControl = 2; // ODT_LISTBOX
     DELETEITEMSTRUCT gone = {};
     gone.CtlType = listControl;
     gone.CtlID = ctl->wId;
@@ -201,9 +209,112 @@ LONG Moved(LONG index, int delta, int at, int last)
     return std::clamp<LONG>(moved, -1, std::max(last, -1));
 }
 
-int RemoveStep(HListCtl* ctl, int index, void*)
+// A current item that is held by its code is found by it again.
+void MoveMarks(HListCtl* ctl, int delta, int at)
 {
-    return HLRemoveItem(ctl, index);
+    const int last = LastItem(ctl);
+    ctl->nCurrent = Moved(ctl->nCurrent, delta, at, last);
+    ctl->nAnchor = Moved(ctl->nAnchor, delta, at, last);
+}
+
+int RemoveValue(HListCtl* ctl, int index)
+{
+    if (index == 0 && ctl->nCurrent == 0) {
+        HLCurIndex(ctl); // an item that is held by its code may have moved, and isn't lost with the first one
+    }
+    DataList         items = ctl->items;
+    const KeptCursor values(items.pValues, index);
+    const KeptCursor codes(items.pCodes, index);
+    return HDLDeleteItem(&items, index);
+}
+
+// A step that counts what goes: an index out of range is visited too.
+int RemoveStep(HListCtl* ctl, int index, void* context)
+{
+    const int removed = HLRemoveItem(ctl, index);
+    *static_cast<int*>(context) += removed != 0;
+    return removed;
+}
+
+// A walk from the first item on that deletes. What each deletion takes off the selected indexes behind it is held back
+// until the walk gets there, so that deleting all of many selected items takes one pass.
+class Sweep {
+public:
+    explicit Sweep(HListCtl* ctl) : ctl_(ctl), selected_(ctl->pSelected), node_(selected_ ? selected_->pHead : nullptr)
+    {
+    }
+    // Indexes must not descend.
+    bool IsSelected(int index)
+    {
+        PassBelow(index);
+        if (HasFlag(ctl_, HLF_SINGLESEL)) {
+            return index == HLCurIndex(ctl_);
+        }
+        return HasNext() && Next() == index;
+    }
+    void Remove(int index)
+    {
+        PassBelow(index);
+        RemoveValue(ctl_, index);
+        MoveMarks(ctl_, -1, index);
+        if (HasNext()) {
+            void* const      following = HNodeLink(node_);
+            const KeptCursor cursor(selected_, place_);
+            HLListRemove(selected_, place_);
+            node_ = following;
+        }
+        ++removed_;
+    }
+    // Ends the walk; how many items went.
+    int Finish()
+    {
+        while (HasNext()) {
+            Pass();
+        }
+        return removed_;
+    }
+
+private:
+    bool HasNext() const { return place_ < HLListCount(selected_); }
+    int  Next() const { return LoadAs<LONG>(HNodePayload(node_)) - removed_; }
+    void Pass()
+    {
+        StoreAs<LONG>(HNodePayload(node_), Next());
+        node_ = HNodeLink(node_);
+        ++place_;
+    }
+    void PassBelow(int index)
+    {
+        while (HasNext() && Next() < index) {
+            Pass();
+        }
+    }
+
+    HListCtl* ctl_;
+    HLList*   selected_;
+    void*     node_;
+    int       place_ = 0; // of node_, the first one that isn't passed
+    int       removed_ = 0;
+};
+
+// An owner that draws hears of each item while the list is as it was then.
+bool CanSweep(const HListCtl* ctl, int which)
+{
+    return (which == HLI_ALL || which == HLI_SELECTED || which == HLI_UNSELECTED) && !HasStyle(ctl, HLS_OWNERDRAW) &&
+           !HasFlag(ctl, HLF_TRACKING);
+}
+
+int SweepItems(HListCtl* ctl, int which)
+{
+    Sweep sweep(ctl);
+    for (int i = 0; i < HLCount(ctl);) {
+        if (which == HLI_ALL || sweep.IsSelected(i) == (which == HLI_SELECTED)) {
+            sweep.Remove(i);
+        } else {
+            ++i;
+        }
+    }
+    return sweep.Finish();
 }
 
 } // namespace
@@ -279,8 +390,8 @@ int HLInsertText(HListCtl* ctl, int index, const char* data, const char* code)
     const DataList& items = ctl->items;
     alignas(8) char value[parseBufferSize] = {};
     alignas(8) char codeValue[parseBufferSize] = {};
-    const void* newData = data;
-    const void* newCode = items.cType2 == 's' ? code : nullptr;
+    const void*     newData = data;
+    const void*     newCode = items.cType2 == 's' ? code : nullptr;
     if (items.cType != 's') {
         ParseData(value, items.cClass, items.cType, items.pszFormat, data, 0);
         newData = value;
@@ -297,8 +408,7 @@ int HLRemoveItem(HListCtl* ctl, int index)
     if (HasStyle(ctl, HLS_OWNERDRAW)) {
         TellOwner(ctl, index);
     }
-    DataList items = ctl->items;
-    const int removed = HDLDeleteItem(&items, index);
+    const int removed = RemoveValue(ctl, index);
     HLAdjustIndexes(ctl, -1, index);
     return removed;
 }
@@ -308,7 +418,12 @@ int HLRemoveMany(HListCtl* ctl, int which, int n, const void* list)
     const bool held = HasFlag(ctl, HLF_NOREDRAW);
     const HWND hwnd = ctl->hWnd;
     SetFlag(ctl, HLF_NOREDRAW, true);
-    const int removed = HLForEachItem(ctl, which, n, list, RemoveStep, nullptr, false);
+    int removed = 0;
+    if (CanSweep(ctl, which)) {
+        removed = SweepItems(ctl, which);
+    } else {
+        HLForEachItem(ctl, which, n, list, RemoveStep, &removed, false);
+    }
     if (removed > 0) {
         HLRecalc(ctl);
     }
@@ -321,10 +436,7 @@ int HLRemoveMany(HListCtl* ctl, int which, int n, const void* list)
 // Settled: a deletion drops the first selected item at or behind it, whichever that is.
 void HLAdjustIndexes(HListCtl* ctl, int delta, int at)
 {
-    const int last = LastItem(ctl);
-    // A current item that is held by its code is found by it again.
-    ctl->nCurrent = Moved(ctl->nCurrent, delta, at, last);
-    ctl->nAnchor = Moved(ctl->nAnchor, delta, at, last);
+    MoveMarks(ctl, delta, at);
     int place = ctl->pSelected ? PlaceInSelection(ctl, at) : 0;
     if (delta < 0 && place < HLListCount(ctl->pSelected)) {
         HLListRemove(ctl->pSelected, place);
@@ -343,13 +455,14 @@ void HLEmptyItems(HListCtl* ctl)
 
 void HLShareItems(HListCtl* ctl, const DataList* list)
 {
-    DataList shared;
-    std::memcpy(&shared, list, sizeof shared); // another list's record may hold it at any address
     if (!HasFlag(ctl, HLF_SHAREDLIST)) {
         DataList own = ctl->items;
         HDLDestroy(&own);
+        ctl->items = {}; // what a list that is given its own items finds there
     }
     SetFlag(ctl, HLF_SHAREDLIST, true);
+    DataList shared;
+    std::memcpy(&shared, list, sizeof shared); // another list's record may hold it at any address
     ctl->items = shared;
     ctl->nAnchor = -1;
     HLStoreCurrent(ctl, -1);
@@ -369,7 +482,7 @@ ULONG_PTR HLItemData(HListCtl* ctl, int index)
     DataList items = ctl->items;
     if (items.cClass2 == 'n' && items.cType2 == 'W') {
         const void* const code = HDLGetCodePtr(&items, index);
-        return code ? LoadAs<WORD>(code) : 0;
+        return code ? LoadAs<DWORD>(code) : 0;
     }
     return reinterpret_cast<ULONG_PTR>(HDLGetDataPtr(&items, index));
 }

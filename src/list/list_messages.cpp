@@ -166,7 +166,7 @@ LRESULT OnDeleteItem(HListCtl*, const MsgArgs& args)
 
 LRESULT OnSelectItem(HListCtl* ctl, const MsgArgs& args)
 {
-    return HLSelectGuarded(ctl, static_cast<short>(LOWORD(args.lParam)), IndexOf(args));
+    return HLSelectGuarded(ctl, LOWORD(args.lParam), IndexOf(args));
 }
 
 LRESULT OnGetData(HListCtl*, const MsgArgs& args)
@@ -182,8 +182,8 @@ LRESULT OnGetCode(HListCtl*, const MsgArgs& args)
 // The text of an item as it shows; its length, or -1 for an empty one.
 int ShownText(HListCtl* ctl, int index, char* buffer)
 {
-    int negative = 0;
-    DataList items = ctl->items;
+    int       negative = 0;
+    DataList  items = ctl->items;
     const int length = HDLFormatItem(&items, index, buffer, itemTextSize, &negative, 0);
     SetFlag(ctl, HLF_NEGATIVE, negative != 0);
     return length > 0 ? length : -1;
@@ -191,7 +191,7 @@ int ShownText(HListCtl* ctl, int index, char* buffer)
 
 LRESULT OnGetItemText(HListCtl* ctl, const MsgArgs& args)
 {
-    char buffer[itemTextSize];
+    char      buffer[itemTextSize];
     const int length = ShownText(ctl, IndexOf(args), buffer);
     if (length > 0 && args.lParam) {
         std::memcpy(PointerOf<char>(args), buffer, static_cast<size_t>(length) + 1);
@@ -259,14 +259,15 @@ LRESULT GiveCurrent(HListCtl* ctl, const MsgArgs& args, bool code)
     if (current < 0 || !args.lParam) {
         return 0;
     }
-    DataList items = ctl->items;
+    DataList            items = ctl->items;
     const HLList* const values = code ? items.pCodes : items.pValues;
     if (args.wParam && values && values->cbItem < 0) {
         const void* const text = code ? HDLGetCodePtr(&items, current) : HDLGetDataPtr(&items, current);
-        const int size = static_cast<int>(std::min<WPARAM>(args.wParam, INT_MAX));
+        const int         size = static_cast<int>(std::min<WPARAM>(args.wParam, INT_MAX));
         return _fstrnzcpy(PointerOf<char>(args), static_cast<const char*>(text), size) > 0;
     }
-    return code ? HDLGetCode(&items, current, PointerOf<void>(args)) : HDLGetData(&items, current, PointerOf<void>(args));
+    return code ? HDLGetCode(&items, current, PointerOf<void>(args))
+                : HDLGetData(&items, current, PointerOf<void>(args));
 }
 
 LRESULT OnGetCurData(HListCtl* ctl, const MsgArgs& args)
@@ -316,9 +317,7 @@ LRESULT OnGetSelCount(HListCtl* ctl, const MsgArgs&)
 
 LRESULT OnSelectRange(HListCtl* ctl, const MsgArgs& args)
 {
-    const int from = static_cast<short>(LOWORD(args.lParam));
-    const int to = static_cast<short>(HIWORD(args.lParam));
-    return HLSelectRange(ctl, from, to, IndexOf(args)) > 0 ? 1 : nothingChanged;
+    return HLSelectRange(ctl, LOWORD(args.lParam), HIWORD(args.lParam), IndexOf(args)) > 0 ? 1 : nothingChanged;
 }
 
 // Bounded: with single selection there is nothing to read.
@@ -353,7 +352,7 @@ LRESULT OnGetTotalWidth(HListCtl* ctl, const MsgArgs&)
 
 LRESULT OnGetItemRect(HListCtl* ctl, const MsgArgs& args)
 {
-    RECT rect;
+    RECT       rect;
     const bool visible = HLItemRect(ctl, IndexOf(args), &rect);
     if (args.lParam) {
         *PointerOf<RECT>(args) = rect;
@@ -390,8 +389,8 @@ LRESULT OnSetTabs(HListCtl* ctl, const MsgArgs& args)
     HBlockFree(ctl->pTabs);
     ctl->pTabs = nullptr;
     ctl->cTabs = 0;
-    LONG* const stops = count < 1 ? nullptr
-                                  : static_cast<LONG*>(HBlockAlloc(static_cast<size_t>(count) * sizeof(LONG)));
+    LONG* const stops =
+        count < 1 ? nullptr : static_cast<LONG*>(HBlockAlloc(static_cast<size_t>(count) * sizeof(LONG)));
     if (!stops) {
         return 1;
     }
@@ -501,8 +500,8 @@ constexpr auto handlers = ByNumber<HLM_GETBKBRUSH, HLM_GETSTYLE>(entries);
 ListHandler FindListHandler(UINT message)
 {
     switch (message) {
-    case addString:     return OnAddItem;
+    case addString: return OnAddItem;
     case getItemHeight: return OnGetItemHeight;
-    default:            return FindHandler<HLM_GETBKBRUSH>(handlers, message);
+    default: return FindHandler<HLM_GETBKBRUSH>(handlers, message);
     }
 }

@@ -68,7 +68,7 @@ struct ItemLook {
 ItemLook LookOf(const ListPaint& paint, int index)
 {
     HListCtl* const ctl = paint.ctl;
-    const bool marked = index == ctl->nHot || (ctl->nHot == -1 && HLIsItemSelected(ctl, index));
+    const bool      marked = index == ctl->nHot || (ctl->nHot == -1 && HLIsItemSelected(ctl, index));
     return { marked, paint.isField ? paint.focused : marked };
 }
 
@@ -86,14 +86,21 @@ void PaintItem(const ListPaint& paint, int index)
     const ItemLook look = LookOf(paint, index);
     SetBkMode(paint.hdc, look.highlighted ? OPAQUE : TRANSPARENT);
     SetBkColor(paint.hdc, GetSysColor(COLOR_HIGHLIGHT));
+    // The current item of a field without the focus: what a disabled list or a combo's one shows may differ.
+    const bool plainMark = look.marked && !look.highlighted;
+    if (plainMark) {
+        HLFillBackground(paint.ctl, paint.hdc, &rect, nullptr);
+    }
+    if (!IsWindow(paint.hwnd)) {
+        return;
+    }
     if (HasStyle(paint.ctl, HLS_OWNERDRAW)) {
-        if (!look.highlighted && look.marked) {
-            HLFillBackground(paint.ctl, paint.hdc, &rect, nullptr);
-        }
         PaintOwned(paint, rect, index, look);
         return;
     }
-    Fill(paint.hdc, rect, look.highlighted ? GetSysColorBrush(COLOR_HIGHLIGHT) : paint.brush);
+    if (!plainMark) {
+        Fill(paint.hdc, rect, look.highlighted ? GetSysColorBrush(COLOR_HIGHLIGHT) : paint.brush);
+    }
     if (look.marked || !paint.isField) {
         HLDrawItem(paint.ctl, paint.hdc, &rect, index, nullptr, look.highlighted, paint.color);
     }
@@ -102,8 +109,8 @@ void PaintItem(const ListPaint& paint, int index)
 void PaintItems(const ListPaint& paint, const RECT& area)
 {
     HListCtl* const ctl = paint.ctl;
-    const int first = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.left + 1, area.top + 1);
-    const int last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.right - 1, area.bottom - 1);
+    const int       first = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.left + 1, area.top + 1);
+    const int       last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.right - 1, area.bottom - 1);
     for (int index = first; index <= last && IsWindow(paint.hwnd); ++index) {
         PaintItem(paint, index);
     }
@@ -114,7 +121,7 @@ void PaintItems(const ListPaint& paint, const RECT& area)
 void HLFillBackground(HListCtl* ctl, HDC hdc, const RECT* rect, HBRUSH brush)
 {
     const HWND hwnd = ctl->hWnd;
-    RECT area = {};
+    RECT       area = {};
     if (rect) {
         area = *rect;
     } else {
@@ -143,8 +150,8 @@ void HLPaint(HListCtl* ctl)
         return;
     }
     const SelectedObject font(dc.hdc, ctl->hFont);
-    const COLORREF  color = IsListDisabled(ctl) ? GetSysColor(COLOR_GRAYTEXT) : 0;
-    const ListPaint paint = { ctl, dc.hdc, hwnd, focused, HasStyle(ctl, HLS_FIELD), brush, color };
+    const COLORREF       color = IsListDisabled(ctl) ? GetSysColor(COLOR_GRAYTEXT) : 0;
+    const ListPaint      paint = { ctl, dc.hdc, hwnd, focused, HasStyle(ctl, HLS_FIELD), brush, color };
     PaintItems(paint, dc.ps.rcPaint);
 }
 

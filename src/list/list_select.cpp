@@ -21,6 +21,11 @@ bool IsInDrag(HListCtl* ctl, int index)
     return index >= std::min(anchor, current) && index <= std::max(anchor, current);
 }
 
+int EntryOf(void* node)
+{
+    return LoadAs<LONG>(HNodePayload(node));
+}
+
 int Clear(HListCtl* ctl, int index)
 {
     const bool focusedField = HasStyle(ctl, HLS_FIELD) && GetFocus() == ctl->hWnd;
@@ -56,7 +61,7 @@ int Toggle(HListCtl* ctl, int index)
 
 int SelectedAt(const HListCtl* ctl, int place)
 {
-    return LoadAs<LONG>(HNodePayload(HLListGetItem(ctl->pSelected, place)));
+    return EntryOf(HLListGetItem(ctl->pSelected, place));
 }
 
 void SetSelectedAt(const HListCtl* ctl, int place, int index)
@@ -64,19 +69,38 @@ void SetSelectedAt(const HListCtl* ctl, int place, int index)
     StoreAs<LONG>(HNodePayload(HLListGetItem(ctl->pSelected, place)), index);
 }
 
-// From the place of the last question on, since questions come in ascending order.
+// The cursor stays before the place, so that the change that may follow finds it there.
 int PlaceInSelection(const HListCtl* ctl, int index)
 {
-    const HLList* const selected = ctl->pSelected;
-    const int count = HLListCount(selected);
-    int place = std::clamp(selected->iCursor, 0, std::max(count - 1, 0));
-    if (place < count && SelectedAt(ctl, place) >= index) {
-        place = 0;
+    HLList* const selected = ctl->pSelected;
+    const int     count = HLListCount(selected);
+    if (count == 0 || EntryOf(selected->pTail) < index) {
+        return count;
     }
-    while (place < count && SelectedAt(ctl, place) < index) {
+    const bool goesOn = selected->iCursor < count && EntryOf(selected->pCursor) < index;
+    int        place = goesOn ? selected->iCursor + 1 : 0;
+    void*      before = goesOn ? selected->pCursor : nullptr;
+    void*      node = goesOn ? HNodeLink(before) : selected->pHead;
+    while (EntryOf(node) < index) { // the last one isn't
+        before = node;
+        node = HNodeLink(node);
         ++place;
     }
+    if (before) {
+        selected->pCursor = before;
+        selected->iCursor = place - 1;
+    }
     return place;
+}
+
+bool IsInSelection(const HListCtl* ctl, int index)
+{
+    const int place = PlaceInSelection(ctl, index);
+    if (place >= HLListCount(ctl->pSelected)) {
+        return false;
+    }
+    HLList* const selected = ctl->pSelected;
+    return EntryOf(place > 0 ? HNodeLink(selected->pCursor) : selected->pHead) == index;
 }
 
 bool HLIsItemSelected(HListCtl* ctl, int index)
@@ -87,11 +111,7 @@ bool HLIsItemSelected(HListCtl* ctl, int index)
     if (IsInDrag(ctl, index)) {
         return HasFlag(ctl, HLF_DRAGSET);
     }
-    if (index < 0 || index >= HLCount(ctl) || !ctl->pSelected) {
-        return false;
-    }
-    const int place = PlaceInSelection(ctl, index);
-    return place < HLListCount(ctl->pSelected) && SelectedAt(ctl, place) == index;
+    return index >= 0 && index < HLCount(ctl) && IsInSelection(ctl, index);
 }
 
 int HLAddToSelection(HListCtl* ctl, int index)
@@ -99,15 +119,19 @@ int HLAddToSelection(HListCtl* ctl, int index)
     if (HasFlag(ctl, HLF_SINGLESEL)) {
         return index != HLCurIndex(ctl);
     }
-    if (!ctl->pSelected) {
-        return 0;
-    }
-    const int place = PlaceInSelection(ctl, index);
-    if (place < HLListCount(ctl->pSelected) && SelectedAt(ctl, place) == index) {
+    if (!ctl->pSelected || IsInSelection(ctl, index)) {
         return 0;
     }
     const LONG entry = index;
-    return HLListInsert(ctl->pSelected, place, &entry) >= 0;
+    const int  before = HLListCount(ctl->pSelected);
+    const int  place = PlaceInSelection(ctl, index);
+    if (place == before) {
+        HLListAppend(ctl->pSelected, &entry);
+    } else {
+        const KeptCursor cursor(ctl->pSelected, place);
+        HLListInsert(ctl->pSelected, place, &entry);
+    }
+    return HLListCount(ctl->pSelected) - before;
 }
 
 int HLRemoveFromSelection(HListCtl* ctl, int index)
@@ -115,21 +139,21 @@ int HLRemoveFromSelection(HListCtl* ctl, int index)
     if (HasFlag(ctl, HLF_SINGLESEL)) {
         return index == HLCurIndex(ctl);
     }
-    if (!ctl->pSelected) {
+    if (!IsInSelection(ctl, index)) {
         return 0;
     }
-    const int place = PlaceInSelection(ctl, index);
-    const bool present = place < HLListCount(ctl->pSelected) && SelectedAt(ctl, place) == index;
-    return present ? HLListRemove(ctl->pSelected, place) : 0;
+    const int        place = PlaceInSelection(ctl, index);
+    const KeptCursor cursor(ctl->pSelected, place);
+    return HLListRemove(ctl->pSelected, place);
 }
 
 int HLSelectOne(HListCtl* ctl, int index, int mode)
 {
     switch (mode) {
-    case HLSEL_CLEAR:  return Clear(ctl, index);
-    case HLSEL_SET:    return Set(ctl, index);
+    case HLSEL_CLEAR: return Clear(ctl, index);
+    case HLSEL_SET: return Set(ctl, index);
     case HLSEL_TOGGLE: return Toggle(ctl, index);
-    default:           return 0;
+    default: return 0;
     }
 }
 
@@ -142,7 +166,7 @@ int HLSelectRange(HListCtl* ctl, int from, int to, int mode)
 {
     const int low = ClampItem(ctl, std::min(from, to));
     const int high = ClampItem(ctl, std::max(from, to));
-    int changed = 0;
+    int       changed = 0;
     SetFlag(ctl, HLF_NOREDRAW, true);
     // An empty list has nothing to select.
     for (int index = low; index <= std::min(high, LastItem(ctl)); ++index) {
@@ -172,7 +196,7 @@ int HLCurIndex(HListCtl* ctl)
 {
     if (HasStyle(ctl, HLS_CODECURRENT) && ctl->nCurrent >= 0) {
         const DWORD code = ctl->lCurCode;
-        DataList items = ctl->items;
+        DataList    items = ctl->items;
         ctl->nCurrent = HDLFindCode(&items, 0, &code);
     }
     return ctl->nCurrent;
@@ -182,7 +206,7 @@ void HLStoreCurrent(HListCtl* ctl, int index)
 {
     ctl->nCurrent = index;
     if (HasStyle(ctl, HLS_CODECURRENT) && index >= 0) {
-        DWORD code = 0;
+        DWORD    code = 0;
         DataList items = ctl->items;
         HDLGetCode(&items, index, &code);
         ctl->lCurCode = code;

@@ -9,7 +9,7 @@ struct Walk {
     HListCtl* ctl;
     HLStep    step;
     void*     context;
-    bool      keep;  // steps don't remove items
+    bool      keep; // steps don't remove items
     int       calls;
 
     // Whether the item is gone.
@@ -58,8 +58,8 @@ void VisitByValue(Walk* walk, int n, const void* list, bool codes)
     const char* cursor = static_cast<const char*>(list);
     for (int i = 0; i < n; ++i) {
         const void* const value = size < 0 ? *reinterpret_cast<const void* const*>(cursor) : cursor;
-        DataList items = walk->ctl->items;
-        const int index = codes ? HDLFindCode(&items, 0, value) : HDLFindData(&items, 0, value);
+        DataList          items = walk->ctl->items;
+        const int         index = codes ? HDLFindCode(&items, 0, value) : HDLFindData(&items, 0, value);
         if (index != -1) {
             walk->Visit(index);
         }
@@ -80,12 +80,12 @@ constexpr int fetchIndex = 4;
 // A value goes to the running pointer, which advances by its size; a text to the buffer that the pointer points to.
 void FetchValue(HListCtl* ctl, int index, Fetch* fetch, bool code)
 {
-    DataList items = ctl->items;
+    DataList            items = ctl->items;
     const HLList* const values = code ? items.pCodes : items.pValues;
     if (!values) {
         return;
     }
-    const bool isText = values->cbItem < 0;
+    const bool  isText = values->cbItem < 0;
     void* const out = isText ? *reinterpret_cast<void**>(fetch->out) : fetch->out;
     if (code) {
         HDLGetCode(&items, index, out);
@@ -98,6 +98,9 @@ void FetchValue(HListCtl* ctl, int index, Fetch* fetch, bool code)
 int FetchStep(HListCtl* ctl, int index, void* context)
 {
     Fetch* const fetch = static_cast<Fetch*>(context);
+    if (!fetch->out) {
+        return 0; // the items are counted only
+    }
     if (fetch->kind == fetchIndex) {
         *reinterpret_cast<int*>(fetch->out) = index;
         fetch->out += sizeof(int);
@@ -111,11 +114,11 @@ int FetchStep(HListCtl* ctl, int index, void* context)
 
 int HLForEachItem(HListCtl* ctl, int which, int n, const void* list, HLStep step, void* context, bool keep)
 {
-    Walk walk = { ctl, step, context, keep, 0 };
+    Walk       walk = { ctl, step, context, keep, 0 };
     const bool hasList = list != nullptr; // Bounded: a selector that reads a list names nothing without one.
     switch (which) {
-    case HLI_ALL:        VisitAll(&walk); break;
-    case HLI_SELECTED:   VisitBySelection(&walk, true); break;
+    case HLI_ALL: VisitAll(&walk); break;
+    case HLI_SELECTED: VisitBySelection(&walk, true); break;
     case HLI_UNSELECTED: VisitBySelection(&walk, false); break;
     case HLI_BYDATA:
     case HLI_BYCODE:
@@ -135,7 +138,7 @@ int HLForEachItem(HListCtl* ctl, int which, int n, const void* list, HLStep step
 
 int HLFetchMany(HListCtl* ctl, int n, int kind, void* out, int which, const void* list)
 {
-    if (!list || !out) {
+    if (!list) {
         return 0;
     }
     Fetch fetch = { kind, static_cast<char*>(out) };
