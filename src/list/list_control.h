@@ -57,7 +57,7 @@ constexpr int itemTextSize = 128; // all buffers of item text: 127 characters
 // What HLForEachItem runs on each item. Non-zero: the item is gone.
 using HLStep = int (*)(HListCtl* ctl, int index, void* context);
 
-// Items (portable)
+// Items
 bool HLApplyType(HListCtl* ctl, const char* text);
 void HLFreeItems(HListCtl* ctl);
 int  HLCount(const HListCtl* ctl);
@@ -73,7 +73,7 @@ void HLEmptyItems(HListCtl* ctl);
 void HLShareItems(HListCtl* ctl, const DataList* list);
 ULONG_PTR HLItemData(HListCtl* ctl, int index); // for the structures of owner drawing
 
-// Selection, current item and links (portable)
+// Selection, current item and links
 bool HLIsItemSelected(HListCtl* ctl, int index);
 int  HLAddToSelection(HListCtl* ctl, int index);
 int  HLRemoveFromSelection(HListCtl* ctl, int index);
@@ -88,7 +88,7 @@ void HLUpdateLinks(HListCtl* ctl);
 void HLLinkData(HListCtl* ctl, void* link, bool select);
 void HLLinkCode(HListCtl* ctl, void* link, bool select);
 
-// Layout and scrolling (portable)
+// Layout and scrolling
 int  HLRowHeight(HListCtl* ctl);
 int  HLMaxItemWidth(HListCtl* ctl);
 void HLRecalc(HListCtl* ctl);

@@ -32,12 +32,6 @@ inline bool HasCodes(const HListCtl* ctl)
 {
     return (ctl->items.wFlags & HDL_HASCODE) != 0;
 }
-// The list and its parent.
-inline bool IsListDisabled(const HListCtl* ctl)
-{
-    return !IsWindowEnabled(ctl->hWnd) || (ctl->hParent && !IsWindowEnabled(ctl->hParent));
-}
-
 // An entry of pSelected, which must have one there.
 int  SelectedAt(const HListCtl* ctl, int place);
 void SetSelectedAt(const HListCtl* ctl, int place, int index);

@@ -15,6 +15,12 @@ bool IsFocused(const HListCtl* ctl)
     return GetFocus() == ctl->hWnd;
 }
 
+// So is a list whose parent is.
+bool IsListDisabled(const HListCtl* ctl)
+{
+    return !IsWindowEnabled(ctl->hWnd) || (ctl->hParent && !IsWindowEnabled(ctl->hParent));
+}
+
 // The list's own brush, or null.
 HBRUSH OwnBrush(const HListCtl* ctl, bool focused)
 {
