@@ -1736,6 +1736,307 @@ int WINAPI HEFindMinMaxInfo(char** pText, double* pMin, double* pMax, double* pT
 /** Holds an edit control's value between its bounds. */
 void WINAPI BoundMinMax(void* ctl);
 
+/*
+ * List control
+ *
+ * The class "HList": items of a typed value and, if wanted, a typed code, in one column or several, or as a field of one
+ * row. The window text is "%", class and type of the data, optionally "%", class and type of the code, and the format.
+ */
+
+/** A field of one row that shows the current item. Style bit. */
+#define HLS_FIELD 0x0001
+/** Items stay sorted by data. Style bit. */
+#define HLS_SORTDATA 0x0002
+/** Items stay sorted by code, unless HLS_SORTDATA is given. Style bit. */
+#define HLS_SORTCODE 0x0004
+/** A click toggles its item. Style bit. */
+#define HLS_MULTISEL 0x0008
+/** A sunken border of the list's own. Style bit. */
+#define HLS_3DBORDER 0x0010
+/** A brush of its own while focused. Style bit. */
+#define HLS_FOCUSBRUSH 0x0020
+/** The parent measures and draws items and is told of deletions, as with an owner-drawn list box. Style bit. */
+#define HLS_OWNERDRAW 0x0040
+/** Tab characters of an item jump to the tab stops. Style bit. */
+#define HLS_TABS 0x0080
+/** A partly shown last row counts as a row, and the height isn't trimmed to whole rows. Style bit. */
+#define HLS_NOINTEGRAL 0x0100
+/** Items run down and then to the next column; the list scrolls across. Style bit. */
+#define HLS_MULTICOLUMN 0x0200
+/** Ranges and single items by Shift, Ctrl and the mouse. Style bit. */
+#define HLS_EXTSEL 0x0800
+/** WM_GETDLGCODE asks for all keys. Style bit. */
+#define HLS_WANTKEYS 0x1000
+/** The current item is held by its code. Only for codes of class n or type l. Style bit. */
+#define HLS_CODECURRENT 0x2000
+/** No scroll bar is driven. Style bit. */
+#define HLS_NOSCROLL 0x4000
+/** The row under the mouse is marked. Style bit. */
+#define HLS_HOTTRACK 0x8000
+
+/** Modes of selecting: deselect. */
+#define HLSEL_CLEAR 0
+/** Select. */
+#define HLSEL_SET 1
+/** The other state. */
+#define HLSEL_TOGGLE 2
+
+/** Which items are meant: all. */
+#define HLI_ALL 0
+/** The first item with each of n data values: packed, or for texts an array of pointers. */
+#define HLI_BYDATA 1
+/** The first item with each of n codes, likewise; none in a list without codes. */
+#define HLI_BYCODE 2
+/** The items at n ascending indexes, an array of int. */
+#define HLI_BYINDEX 4
+/** The selected ones. */
+#define HLI_SELECTED 8
+/** The others. */
+#define HLI_UNSELECTED 16
+
+/*
+ * Messages of the list. c is an index; data and code are pointers to values of the list's types. Of a list
+ * box's messages, LB_ADDSTRING (384, lParam: data) and LB_GETITEMHEIGHT (417) are answered.
+ */
+
+/** Gives the background brush, or null. */
+#define HLM_GETBKBRUSH 1124
+/** wParam: brush, or null to ask the parent. lParam: repaint. Gives the old one. */
+#define HLM_SETBKBRUSH 1125
+/** wParam: bytes of lParam, a buffer. Copies the format and gives its length. */
+#define HLM_GETFORMAT 1126
+/** wParam: repaint. lParam: format. Gives 1; 0 for texts, which have none, or a null pointer. */
+#define HLM_SETFORMAT 1127
+/** Gives the brush while focused, or null. */
+#define HLM_GETFOCUSBRUSH 1128
+/** wParam: brush. lParam: repaint. Gives the old one. */
+#define HLM_SETFOCUSBRUSH 1129
+/** wParam: 0 the text colour, else that of negative values. Gives it. */
+#define HLM_GETCOLOR 1130
+/** wParam: as HLM_GETCOLOR. lParam: colour. Repaints. Gives 1. */
+#define HLM_SETCOLOR 1131
+/** Gives the class letter of the data. */
+#define HLM_GETDATACLASS 1132
+/** wParam: c. Gives the bytes of its data, for a text its length. */
+#define HLM_GETDATASIZE 1133
+/** Gives the type letter of the data. */
+#define HLM_GETDATATYPE 1134
+/** Gives the buffer that mirrors the current item's data, or null. */
+#define HLM_GETDATALINK 1135
+/** wParam, lParam: as the arguments of HLSetDataLink, the flag first. Gives 1. */
+#define HLM_SETDATALINK 1136
+/** Gives the number of items. */
+#define HLM_GETCOUNT 1174
+/** HLEmptyList. */
+#define HLM_EMPTY 1175
+/** wParam: c. HLDeleteItem. */
+#define HLM_DELETEITEM 1184
+/** wParam: HLSEL_ mode. lParam: c in the low word. HLSelectItem. 1237 is a second number of it. */
+#define HLM_SELECTITEM 1185
+/** wParam: c. lParam: out. HLGetData. */
+#define HLM_GETDATA 1186
+/** wParam: c. lParam: out. HLGetCode. */
+#define HLM_GETCODE 1187
+/** wParam: c. lParam: a buffer of 128 bytes. Copies the item as it shows and gives its length, or -1 for an empty one. */
+#define HLM_GETITEMTEXT 1188
+/** wParam: c. Gives the length of what HLM_GETITEMTEXT copies, or -1 for an empty one. */
+#define HLM_GETITEMTEXTLEN 1189
+/** wParam: c. lParam: code. HLSetCode. */
+#define HLM_SETCODE 1190
+/** wParam: c to start from. lParam: text. Gives the item with that text, or else one that begins so; -1 for none. */
+#define HLM_FINDTEXT 1192
+/** As HLM_FINDTEXT; the item, or none, becomes the current one. Gives it. */
+#define HLM_SELECTTEXT 1193
+/** lParam: data. HLAddItem. */
+#define HLM_ADDITEM 1199
+/** wParam: c. lParam: data. HLInsertItem. */
+#define HLM_INSERTITEM 1200
+/** wParam: c to start from. lParam: data. HLFindData. */
+#define HLM_FINDDATA 1201
+/** wParam: HLSEL_ mode. lParam: data. HLSelectData. */
+#define HLM_SELECTDATA 1202
+/** wParam: bytes of a text buffer, or 0. lParam: out. The current item's data: 1 if something was copied, else 0. */
+#define HLM_GETCURDATA 1203
+/** Gives the class letter of the code, or 0. */
+#define HLM_GETCODECLASS 1204
+/** Gives the buffer that mirrors the current item's code, or null. */
+#define HLM_GETCODELINK 1205
+/** wParam, lParam: as the arguments of HLSetCodeLink, the flag first. Gives 1. */
+#define HLM_SETCODELINK 1206
+/** wParam: c. Gives the bytes of its code, for a text its length; 0 without codes. */
+#define HLM_GETCODESIZE 1207
+/** Gives the type letter of the code, or 0. */
+#define HLM_GETCODETYPE 1208
+/** wParam: c to start from. lParam: code. HLFindCode. */
+#define HLM_FINDCODE 1209
+/** wParam: HLSEL_ mode. lParam: code. HLSelectCode. */
+#define HLM_SELECTCODE 1210
+/** As HLM_GETCURDATA, for the code. */
+#define HLM_GETCURCODE 1211
+/** Computes the layout anew. Gives 1. */
+#define HLM_RECALC 1224
+/** Gives the current item, or -1. */
+#define HLM_GETCURRENT 1234
+/** wParam: c; below 0 for none. Makes it current and scrolls to it, without a notification. Gives 1. */
+#define HLM_SETCURRENT 1235
+/** wParam: c. HLIsSelected. */
+#define HLM_ISSELECTED 1236
+/** Gives the number of selected items; with single selection 1 or 0. */
+#define HLM_GETSELCOUNT 1238
+/** wParam: HLSEL_ mode. lParam: first and last c. Gives 1 if a state changed, else -4. */
+#define HLM_SELECTRANGE 1239
+/** wParam: room of lParam, an array of int. Fills it with the selected c in order and gives their number. */
+#define HLM_GETSELITEMS 1240
+/** wParam: pixels; above 0 they stay. Gives 1; 0 without HLS_MULTICOLUMN. */
+#define HLM_SETCOLUMNWIDTH 1244
+/** Gives the width of the visible columns in pixels. */
+#define HLM_GETTOTALWIDTH 1245
+/** wParam: c. lParam: RECT in client coordinates. Gives 1 if it is visible, else 0. */
+#define HLM_GETITEMRECT 1246
+/** Gives the width of a column in pixels. */
+#define HLM_GETCOLUMNWIDTH 1247
+/** Gives the first visible c. */
+#define HLM_GETTOP 1254
+/** wParam: c. Scrolls to it as far as there are items. Gives the first visible c. */
+#define HLM_SETTOP 1255
+/** wParam: rows, or with HLS_MULTICOLUMN columns, up below 0. Gives by how many the list scrolled. */
+#define HLM_SCROLL 1257
+/** wParam: number of tab stops. lParam: array of int, in pixels at 96 dpi; for one stop the stop itself. Gives 1. */
+#define HLM_SETTABS 1258
+/** wParam: non-zero paints and lays out again, 0 stops it. lParam: repaint. Gives 1. */
+#define HLM_SETREDRAW 1261
+/** Gives the flags. */
+#define HLM_GETFLAGS 1265
+/** wParam: bits. lParam: 0 clears them, else they are set. Gives the flags. */
+#define HLM_SETFLAGS 1266
+/** Gives the style. */
+#define HLM_GETSTYLE 1268
+
+/* Notifications of the list: codes of WM_COMMAND. */
+
+/** The user moved the current item. */
+#define HLN_SELCHANGE 1
+/** A double click. */
+#define HLN_DBLCLK 2
+/** The list has got the focus. */
+#define HLN_SETFOCUS 4
+/** The list has lost the focus. */
+#define HLN_KILLFOCUS 5
+/** Return. */
+#define HLN_ENTER 257
+/** Esc. */
+#define HLN_ESCAPE 258
+/** Tab. */
+#define HLN_TAB 263
+/** Shift+Tab. */
+#define HLN_BACKTAB 264
+/** F1. */
+#define HLN_HELP 269
+
+/**
+ * Inserts an item.
+ *
+ * @param hwnd   A window that answers WWM_GETSTATE with a list's record.
+ * @param index  Place; -1 or beyond the end appends. A sorted list finds its own.
+ * @param data   The value, or the text.
+ * @param code   The code; null without one.
+ * @return Index of the new item; -1 without a list or data.
+ */
+int WINAPI HLInsertItemEx(HWND hwnd, int index, const void* data, const void* code);
+/** HLInsertItemEx without a code. */
+int WINAPI HLInsertItem(HWND hwnd, int index, const void* data);
+/** HLInsertItemEx at the end. */
+int WINAPI HLAddItemEx(HWND hwnd, const void* data, const void* code);
+/** HLInsertItemEx at the end, without a code. */
+int WINAPI HLAddItem(HWND hwnd, const void* data);
+/**
+ * Inserts many items and lays the list out once.
+ *
+ * @param index  Place of the first; below 0 appends.
+ * @param n      Number of items; below 1 inserts none.
+ * @param items  Values one behind the other, or for texts an array of pointers.
+ * @param codes  Codes, likewise; null without.
+ * @return Number of items inserted; -1 without a list or items.
+ */
+int WINAPI HLInsertItemsEx(HWND hwnd, int index, int n, const void* items, const void* codes);
+/** HLInsertItemsEx without codes. */
+int WINAPI HLInsertItems(HWND hwnd, int index, int n, const void* items);
+/** HLInsertItemsEx at the end. */
+int WINAPI HLAddItemsEx(HWND hwnd, int n, const void* items, const void* codes);
+/** HLInsertItemsEx at the end, without codes. */
+int WINAPI HLAddItems(HWND hwnd, int n, const void* items);
+/**
+ * Inserts an item whose data and code are given as texts: they are read into the list's types, the data by its format.
+ *
+ * @return Index of the new item; -1 without a list or data text.
+ */
+int WINAPI HLInsertStringEx(HWND hwnd, int index, const char* data, const char* code);
+/** Deletes an item. Gives 1, or 0 for an index out of range. */
+int WINAPI HLDeleteItem(HWND hwnd, int index);
+/**
+ * Deletes items.
+ *
+ * @param which    HLI_ selector.
+ * @param n, list  What the selector reads. Settled: an index behind a deleted one isn't lowered by it.
+ * @return Number of items deleted; 0 without a list.
+ */
+int WINAPI HLDeleteItems(HWND hwnd, int which, int n, const void* list);
+/** Deletes all items and the selection, without a repaint. Gives 1, or 0 without a list. */
+int WINAPI HLEmptyList(HWND hwnd);
+/** Gives the first item with the data from start on and then from the beginning, or -1; 0 without a list. */
+int WINAPI HLFindData(HWND hwnd, int start, const void* data);
+/** As HLFindData, for the code; -1 in a list without codes. */
+int WINAPI HLFindCode(HWND hwnd, int start, const void* code);
+/** Copies an item's data; index -1 means the last item. Gives 1 if something was copied, else 0. */
+int WINAPI HLGetData(HWND hwnd, int index, void* out);
+/** As HLGetData, for the code. */
+int WINAPI HLGetCode(HWND hwnd, int index, void* out);
+/** HDLSetCode on the list's items. */
+int WINAPI HLSetCode(HWND hwnd, int index, const void* code);
+/**
+ * Fetches items.
+ *
+ * @param n      What the selector reads.
+ * @param kind   1 data, 2 codes, 4 indexes.
+ * @param out    Values one behind the other, for texts an array of pointers to buffers, or an array of int.
+ * @param which  HLI_ selector.
+ * @param list   What the selector reads; not null, even where it reads nothing.
+ * @return Number of items visited; 0 without a list.
+ */
+int WINAPI HLGetItems(HWND hwnd, int n, int kind, void* out, int which, const void* list);
+/** Selects an item by an HLSEL_ mode; the current item stays. Gives 1 if its state changed, else 0. */
+int WINAPI HLSelectItem(HWND hwnd, int index, int mode);
+/** Selects the items of an HLI_ selector; with single selection one of them at the most. Gives the number visited. */
+int WINAPI HLSelectItems(HWND hwnd, int mode, int which, int n, const void* list);
+/**
+ * Selects the first item with the data. With single selection it, or none, becomes the current one.
+ *
+ * @return 1 if the item was found (single selection) or its state changed, else 0.
+ */
+int WINAPI HLSelectData(HWND hwnd, const void* data, int mode);
+/** As HLSelectData, by the code. */
+int WINAPI HLSelectCode(HWND hwnd, const void* code, int mode);
+/** Gives 1 if the item is selected, else 0. */
+int WINAPI HLIsSelected(HWND hwnd, int index);
+/**
+ * Sets the buffer into which the current item's data are copied whenever another item becomes current.
+ *
+ * @param link     Buffer with room for any item; null for none.
+ * @param fSelect  Non-zero: the item with the buffer's value is selected first.
+ * @return 1; 0 without a list.
+ */
+int WINAPI HLSetDataLink(HWND hwnd, void* link, int fSelect);
+/** As HLSetDataLink, for the code. */
+int WINAPI HLSetCodeLink(HWND hwnd, void* link, int fSelect);
+/** Gives the list's items, for HLSetList of another list; null without a list. */
+DataList* WINAPI HLGetList(HWND hwnd);
+/** Shows another holder's items, which have to live longer than this list. Gives 1; 0 without a list or for null. */
+int WINAPI HLSetList(HWND hwnd, DataList* list);
+/** Window procedure of the list. */
+LRESULT CALLBACK HListWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+/** Message handler of the list, for windows that inherit its behaviour. */
+LRESULT CALLBACK HListMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record);
+
 #ifdef __cplusplus
 }
 #endif

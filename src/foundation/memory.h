@@ -42,3 +42,5 @@ char* HInsertChars(char* text, char ch, int count, int pos);
 char* HRemoveChars(char* text, int count, int pos);
 // Orders two texts ignoring case under the current locale, as the list of strings does: -1, 0 or 1.
 int HCompareNoCase(const char* a, const char* b);
+// The first count characters of two texts, neither null.
+int HCompareNoCase(const char* a, const char* b, size_t count);

@@ -16,7 +16,7 @@ constexpr int      imageWidth = 13;
 constexpr COLORREF imageMask = 0x0000FF00;
 constexpr DWORD    allCommonControls = 255;
 
-enum class ClassCursor { IBeam, Grid };
+enum class ClassCursor { None, IBeam, Grid };
 
 struct ControlClass {
     const char* name;
@@ -34,6 +34,7 @@ struct ControlClass {
 constexpr ControlClass controlClasses[] = {
     { "HEdit_SS", 0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
     { "HEdit",    0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
+    { "HList",    0x400B, HListWnd, 1, ClassCursor::None,  0,          0,                0 },
     { "HGrid",    0x4008, HGridWnd, 1, ClassCursor::Grid,  gridIconId, COLOR_WINDOW + 1, 0 },
 };
 // clang-format on
@@ -46,6 +47,9 @@ void LoadCommonControls()
 
 HCURSOR CursorOf(ClassCursor cursor)
 {
+    if (cursor == ClassCursor::None) {
+        return nullptr;
+    }
     if (cursor == ClassCursor::IBeam) {
         return hCurIBeam;
     }

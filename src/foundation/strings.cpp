@@ -103,6 +103,21 @@ char* HRemoveChars(char* text, int count, int pos)
     return text;
 }
 
+int HCompareNoCase(const char* a, const char* b, size_t count)
+{
+    for (size_t i = 0; i < count; i++) {
+        const int left = a[i] == b[i] ? 0 : FoldCase(a[i]);
+        const int right = a[i] == b[i] ? 0 : FoldCase(b[i]);
+        if (left != right) {
+            return left < right ? -1 : 1;
+        }
+        if (!a[i]) {
+            return 0;
+        }
+    }
+    return 0;
+}
+
 int HCompareNoCase(const char* a, const char* b)
 {
     // A missing text equals only a missing text.

@@ -13,3 +13,4 @@ constexpr int cellCodeList = 'l';
 constexpr int firstCellId = 200;
 
 LRESULT CALLBACK HGEditCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CALLBACK HGListCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);

@@ -74,6 +74,23 @@ void ForgetControl(const ControlHeader* child)
     }
 }
 
+// The procedure that wraps a control: own is the control's, code tells its kind.
+LRESULT CellProc(WNDPROC own, int code, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WWM_GETSTATE || message == WWM_SETSTATE) {
+        return own(hwnd, message, wParam, lParam);
+    }
+    const ControlHeader* const record = reinterpret_cast<const ControlHeader*>(own(hwnd, WWM_GETSTATE, 0, 0));
+    if (record && message == WM_NCDESTROY) {
+        ForgetControl(record);
+    }
+    LRESULT result = 0;
+    if (record && HGCellForward(code, record->hParent, message, wParam, lParam, &result)) {
+        return result;
+    }
+    return own(hwnd, message, wParam, lParam);
+}
+
 } // namespace
 
 bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
@@ -115,17 +132,10 @@ bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lPa
 
 LRESULT CALLBACK HGEditCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message == WWM_GETSTATE || message == WWM_SETSTATE) {
-        return HEditWnd(hwnd, message, wParam, lParam);
-    }
-    const ControlHeader* const record =
-        reinterpret_cast<const ControlHeader*>(HEditWnd(hwnd, WWM_GETSTATE, 0, 0));
-    if (record && message == WM_NCDESTROY) {
-        ForgetControl(record);
-    }
-    LRESULT result = 0;
-    if (record && HGCellForward(cellCodeEdit, record->hParent, message, wParam, lParam, &result)) {
-        return result;
-    }
-    return HEditWnd(hwnd, message, wParam, lParam);
+    return CellProc(HEditWnd, cellCodeEdit, hwnd, message, wParam, lParam);
+}
+
+LRESULT CALLBACK HGListCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CellProc(HListWnd, cellCodeList, hwnd, message, wParam, lParam);
 }

@@ -3,6 +3,7 @@
 
 #include "edit/edit_control.h"
 #include "foundation/startup.h"
+#include "list/list_control.h"
 
 #include <widgets/widgets.h>
 
@@ -109,6 +110,16 @@ bool PaintAsEdit(CellPaint& cell)
     return true;
 }
 
+bool PaintAsList(CellPaint& cell)
+{
+    constexpr int asData = 1;
+    constexpr int asCode = 2;
+    const HWND hwnd = cell.ctl->hWnd;
+    HLDrawValue(reinterpret_cast<HListCtl*>(cell.field->pCtl), cell.hdc, &cell.rect, cell.brush, cell.value,
+                cell.field->wFlags & HFF_CODE ? asCode : asData, cell.color);
+    return IsWindow(hwnd) != FALSE;
+}
+
 // The message is meant for a subclass of the grid, which takes it before the grid's own handler does.
 bool PaintByHost(CellPaint& cell)
 {
@@ -134,6 +145,7 @@ struct KindPainter {
 
 constexpr KindPainter kindPainters[] = {
     { 'e', PaintAsEdit },
+    { 'l', PaintAsList },
     { 'q', PaintByHost },
 };
 

@@ -1,4 +1,4 @@
-// How a grid loads and reads the cell controls of the kinds c, d, l and k: by stand-ins that record what they are sent.
+// How a grid loads and reads the cell controls of the kinds c, d and k: by stand-ins that record what they are sent.
 #include "gridctl/grid_editing.h"
 #include "griddata/child_messages.h"
 
@@ -88,7 +88,7 @@ LRESULT CALLBACK StubProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-constexpr const char* stubClasses[] = { "HComb", "HList", "HButt" };
+constexpr const char* stubClasses[] = { "HComb", "HButt" };
 
 class GridStubCells : public GridEditing {
 protected:
@@ -149,8 +149,6 @@ struct KindRow {
 constexpr KindRow kinds[] = {
     { 'd', false, { HLM_SELECTDATA, 1, 2 }, { HLM_GETCURDATA, 4, 0 } },
     { 'd', true,  { HLM_SELECTCODE, 1, 2 }, { HLM_GETCURCODE, 4, 0 } },
-    { 'l', false, { HLM_SELECTDATA, 1, 2 }, { HLM_GETCURDATA, 4, 0 } },
-    { 'l', true,  { HLM_SELECTCODE, 1, 2 }, { HLM_GETCURCODE, 4, 0 } },
     { 'c', false, { HEM_SETDATA,    0, 0 }, { HEM_GETDATA,    4, 0 } },
     { 'c', true,  { HLM_FINDCODE,   0, 2 }, { HLM_GETCURCODE, 4, 0 } },
     { 'k', false, { HBM_SETVALUE,   0, 2 }, { HBM_GETVALUE,   0, 0 } },

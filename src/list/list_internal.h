@@ -1,0 +1,80 @@
+// What the sources of the list control share: questions about its record.
+#pragma once
+
+#include "dialog/message_table.h"
+#include "list/list_control.h"
+
+#include <algorithm>
+
+inline bool HasStyle(const HListCtl* ctl, DWORD bits)
+{
+    return (ctl->dwStyle & bits) != 0;
+}
+inline bool HasFlag(const HListCtl* ctl, WORD bits)
+{
+    return (ctl->wFlags & bits) != 0;
+}
+inline void SetFlag(HListCtl* ctl, WORD bits, bool on)
+{
+    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
+}
+// The last item, or -1.
+inline int LastItem(const HListCtl* ctl)
+{
+    return HLCount(ctl) - 1;
+}
+// An index between 0 and the last item; 0 for an empty list.
+inline int ClampItem(const HListCtl* ctl, int index)
+{
+    return std::clamp(index, 0, std::max(LastItem(ctl), 0));
+}
+inline bool HasCodes(const HListCtl* ctl)
+{
+    return (ctl->items.wFlags & HDL_HASCODE) != 0;
+}
+// An entry of pSelected, which must have one there.
+int  SelectedAt(const HListCtl* ctl, int place);
+void SetSelectedAt(const HListCtl* ctl, int place, int index);
+// The place of the first entry of pSelected that isn't below index; their number if there is none. A walk in ascending
+// order costs a step a question.
+int  PlaceInSelection(const HListCtl* ctl, int index);
+bool IsInSelection(const HListCtl* ctl, int index);
+
+// Insertions and removals send a list's cursor back to its head. This leaves it before the place of the change, where
+// the next one of an ascending walk is near.
+class KeptCursor {
+public:
+    KeptCursor(HLList* list, int place)
+        : list_(list), before_(place > 0 ? HLListGetItem(list, place - 1) : nullptr), place_(place)
+    {
+    }
+    ~KeptCursor()
+    {
+        if (before_) {
+            list_->pCursor = before_;
+            list_->iCursor = place_ - 1;
+        }
+    }
+    KeptCursor(const KeptCursor&) = delete;
+    KeptCursor& operator=(const KeptCursor&) = delete;
+
+private:
+    HLList* list_;
+    void*   before_;
+    int     place_;
+};
+
+// Drawing by the owner: WM_DRAWITEM.
+void HLDrawOwned(HListCtl* ctl, HDC hdc, const RECT& rect, int index, UINT action, UINT state);
+
+// Messages
+using ListHandler = LRESULT (*)(HListCtl* ctl, const MsgArgs& args);
+ListHandler FindListHandler(UINT message); // of the list's own ones; null for another
+LRESULT     HLOnNcCreate(const MsgArgs& args);
+void        HLOnNcDestroy(HListCtl* ctl);
+LRESULT     HLKeyDown(HListCtl* ctl, const MsgArgs& args);
+LRESULT     HLOnChar(HListCtl* ctl, const MsgArgs& args);
+LRESULT     HLOnButtonDown(HListCtl* ctl, const MsgArgs& args);
+LRESULT     HLOnMouseMove(HListCtl* ctl, const MsgArgs& args);
+LRESULT     HLOnButtonUp(HListCtl* ctl, const MsgArgs& args);
+LRESULT     HLOnPaint(HListCtl* ctl, const MsgArgs& args);

@@ -1,0 +1,203 @@
+// How a list control puts itself on the screen: background, items, and the rectangle that shows the focus.
+#include "foundation/gdi_guards.h"
+#include "foundation/startup.h"
+#include "list/list_internal.h"
+
+namespace {
+
+constexpr int  listKind = 2; // what FireCtlColorMsg asks for
+constexpr int  staticKind = 6;
+constexpr WORD comboListId = 2;
+constexpr UINT stateFocused = ODS_FOCUS;
+
+bool IsFocused(const HListCtl* ctl)
+{
+    return GetFocus() == ctl->hWnd;
+}
+
+// So is a list whose parent is.
+bool IsListDisabled(const HListCtl* ctl)
+{
+    return !IsWindowEnabled(ctl->hWnd) || (ctl->hParent && !IsWindowEnabled(ctl->hParent));
+}
+
+// The list's own brush, or null.
+HBRUSH OwnBrush(const HListCtl* ctl, bool focused)
+{
+    if (focused && HasStyle(ctl, HLS_FOCUSBRUSH) && ctl->hFocusBrush) {
+        return ctl->hFocusBrush;
+    }
+    return ctl->hBkBrush;
+}
+
+// A combo's list shows by the library's brush that the combo has the focus. null: nobody has a brush.
+HBRUSH AskForBrush(HListCtl* ctl, HDC hdc)
+{
+    if (IsListDisabled(ctl)) {
+        const HBRUSH brush = FireCtlColorMsg(ctl, staticKind, hdc);
+        if (brush || !IsWindow(ctl->hWnd)) {
+            return brush;
+        }
+    }
+    if (hFocusBrush && LOWORD(ctl->wId) == comboListId && GetFocus() == ctl->hParent) {
+        return hFocusBrush;
+    }
+    return FireCtlColorMsg(ctl, listKind, hdc);
+}
+
+void Fill(HDC hdc, const RECT& rect, HBRUSH brush)
+{
+    if (rect.left >= rect.right || rect.top >= rect.bottom || !brush) {
+        return;
+    }
+    const SelectedObject selected(hdc, brush);
+    PatBlt(hdc, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, PATCOPY);
+}
+
+// One paint under way.
+struct ListPaint {
+    HListCtl* ctl;
+    HDC       hdc;
+    HWND      hwnd;
+    bool      focused;
+    bool      isField;
+    HBRUSH    brush; // of items that aren't highlighted
+    COLORREF  color; // 0: the list's own
+};
+
+// How one item shows.
+struct ItemLook {
+    bool marked;
+    bool highlighted;
+};
+
+ItemLook LookOf(const ListPaint& paint, int index)
+{
+    HListCtl* const ctl = paint.ctl;
+    const bool      marked = index == ctl->nHot || (ctl->nHot == -1 && HLIsItemSelected(ctl, index));
+    return { marked, paint.isField ? paint.focused : marked };
+}
+
+void PaintOwned(const ListPaint& paint, const RECT& rect, int index, const ItemLook& look)
+{
+    const UINT state = (paint.focused ? stateFocused : 0) + (look.highlighted ? 1 : 0);
+    HLDrawOwned(paint.ctl, paint.hdc, rect, paint.isField && !look.marked ? -1 : index, ODA_SELECT, state);
+}
+
+// The background goes under the text at once, so that neither shows without the other for long.
+void PaintItem(const ListPaint& paint, int index)
+{
+    RECT rect;
+    HLItemRect(paint.ctl, index, &rect);
+    const ItemLook look = LookOf(paint, index);
+    SetBkMode(paint.hdc, look.highlighted ? OPAQUE : TRANSPARENT);
+    SetBkColor(paint.hdc, GetSysColor(COLOR_HIGHLIGHT));
+    // The current item of a field without the focus: what a disabled list or a combo's one shows may differ.
+    const bool plainMark = look.marked && !look.highlighted;
+    if (plainMark) {
+        HLFillBackground(paint.ctl, paint.hdc, &rect, nullptr);
+    }
+    if (!IsWindow(paint.hwnd)) {
+        return;
+    }
+    if (HasStyle(paint.ctl, HLS_OWNERDRAW)) {
+        PaintOwned(paint, rect, index, look);
+        return;
+    }
+    if (!plainMark) {
+        Fill(paint.hdc, rect, look.highlighted ? GetSysColorBrush(COLOR_HIGHLIGHT) : paint.brush);
+    }
+    if (look.marked || !paint.isField) {
+        HLDrawItem(paint.ctl, paint.hdc, &rect, index, nullptr, look.highlighted, paint.color);
+    }
+}
+
+void PaintItems(const ListPaint& paint, const RECT& area)
+{
+    HListCtl* const ctl = paint.ctl;
+    const int       first = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.left + 1, area.top + 1);
+    const int       last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.right - 1, area.bottom - 1);
+    for (int index = first; index <= last && IsWindow(paint.hwnd); ++index) {
+        PaintItem(paint, index);
+    }
+}
+
+} // namespace
+
+void HLFillBackground(HListCtl* ctl, HDC hdc, const RECT* rect, HBRUSH brush)
+{
+    const HWND hwnd = ctl->hWnd;
+    RECT       area = {};
+    if (rect) {
+        area = *rect;
+    } else {
+        GetClientRect(hwnd, &area);
+    }
+    HBRUSH chosen = OwnBrush(ctl, IsFocused(ctl));
+    if (!chosen) {
+        chosen = brush ? brush : AskForBrush(ctl, hdc);
+    }
+    Fill(hdc, area, chosen);
+}
+
+void HLPaint(HListCtl* ctl)
+{
+    const HWND    hwnd = ctl->hWnd;
+    const PaintDC dc(hwnd);
+    if (!dc.hdc || !IsWindow(hwnd) || HLCount(ctl) == 0) {
+        return;
+    }
+    const bool focused = IsFocused(ctl);
+    HBRUSH     brush = OwnBrush(ctl, focused);
+    if (!brush) {
+        brush = FireCtlColorMsg(ctl, listKind, dc.hdc);
+    }
+    if (!IsWindow(hwnd)) {
+        return;
+    }
+    const SelectedObject font(dc.hdc, ctl->hFont);
+    const COLORREF       color = IsListDisabled(ctl) ? GetSysColor(COLOR_GRAYTEXT) : 0;
+    const ListPaint      paint = { ctl, dc.hdc, hwnd, focused, HasStyle(ctl, HLS_FIELD), brush, color };
+    PaintItems(paint, dc.ps.rcPaint);
+}
+
+void HLShowFocus(HListCtl* ctl, int index)
+{
+    if (HasFlag(ctl, HLF_FOCUSRECT)) {
+        return;
+    }
+    SetFlag(ctl, HLF_FOCUSRECT, true);
+    const int      item = ClampItem(ctl, index);
+    RECT           rect;
+    const bool     visible = HLItemRect(ctl, item, &rect);
+    const WindowDC window(ctl->hWnd);
+    if (HasStyle(ctl, HLS_OWNERDRAW)) {
+        HLDrawOwned(ctl, window.hdc, rect, item, ODA_FOCUS, stateFocused);
+    } else if (visible && !IsRectEmpty(&rect)) {
+        DrawFocusRect(window.hdc, &rect);
+    }
+}
+
+void HLHideFocus(HListCtl* ctl, int index)
+{
+    SetFlag(ctl, HLF_FOCUSRECT, false);
+    HLInvalidateItem(ctl, ClampItem(ctl, index), true);
+    HLPaint(ctl);
+}
+
+LRESULT HLOnPaint(HListCtl* ctl, const MsgArgs& args)
+{
+    if (HasFlag(ctl, HLF_NOREDRAW)) {
+        return 0;
+    }
+    const bool focused = IsFocused(ctl);
+    if (focused && HasFlag(ctl, HLF_FOCUSRECT)) {
+        HLHideFocus(ctl, HLCurIndex(ctl));
+    } else {
+        HLPaint(ctl);
+    }
+    if (focused && IsWindow(args.hwnd) && !HasFlag(ctl, HLF_FOCUSRECT)) {
+        HLShowFocus(ctl, HLCurIndex(ctl));
+    }
+    return 0;
+}

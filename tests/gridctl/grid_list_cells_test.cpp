@@ -1,0 +1,107 @@
+// Columns of lists: what their cells show, and how they are edited and sorted.
+#include "gridctl/grid_editing.h"
+
+namespace {
+
+class GridListCells : public GridEditing {
+protected:
+    // A column of lists with the items red 3, green 1 and blue 2; it stores the code or the text.
+    void MakeColumn(bool code)
+    {
+        HGField* const field = HGFieldCreate("Colour", code ? HFF_CODE : 0, 80, 0, 's', 's', 'n', 'l', 16, 'l', 0, "", 0);
+        MakeGrid(GridOf({ field, Text() }), 4);
+        const char* const names[] = { "red", "green", "blue" };
+        constexpr LONG    codes[] = { 3, 1, 2 };
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_EQ(i, HLAddItemEx(ChildOf(0), names[i], &codes[i]));
+        }
+        SetFocus(grid);
+        Forget();
+    }
+    void Store(int row, LONG code) { HGSetCellData(grid, 0, row, &code); }
+    LONG Stored(int row) { return LoadAs<LONG>(HGCellPtr(ctl->pData, 0, row)); }
+    LRESULT Item() { return Send(Editor(), HLM_GETCURRENT); }
+};
+
+TEST_F(GridListCells, CellShowsTheItemOfItsCode)
+{
+    MakeColumn(true);
+    Store(1, 1);
+    EXPECT_EQ("green", CellText(0, 1));
+}
+
+TEST_F(GridListCells, EditorStandsOnTheCellsItem)
+{
+    for (const bool code : { false, true }) {
+        SCOPED_TRACE(code);
+        MakeColumn(code);
+        if (code) {
+            Store(1, 2);
+        } else {
+            HGSetCellData(grid, 0, 1, "blue");
+        }
+        MoveTo(0, 1);
+        EXPECT_EQ(2, Item());
+        MoveTo(0, 2);
+        EXPECT_EQ(-1, Item());
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(GridListCells, KeysInTheListMoveItsItemAndTabStoresIt)
+{
+    for (const bool code : { false, true }) {
+        SCOPED_TRACE(code);
+        MakeColumn(code);
+        StandOn(0, 1);
+        SetFocus(Editor());
+        TypeKey(VK_DOWN);
+        TypeKey(VK_DOWN);
+        EXPECT_EQ(1, Item());
+        TypeKey(VK_TAB);
+        EXPECT_EQ((Cell{ 1, 1 }), Current());
+        EXPECT_EQ("green", CellText(0, 1));
+        if (code) {
+            EXPECT_EQ(1, Stored(1));
+        }
+        EXPECT_EQ(1, parent.Count(HGN_CELLCHANGED));
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(GridListCells, TypedCharacterFindsAnItem)
+{
+    MakeColumn(true);
+    StandOn(0, 1);
+    TypeKey('B');
+    EXPECT_EQ(Editor(), GetFocus());
+    EXPECT_EQ(2, Item());
+    TypeKey(VK_TAB);
+    EXPECT_EQ(2, Stored(1));
+}
+
+TEST_F(GridListCells, ArrowsAcrossLeaveTheList)
+{
+    MakeColumn(true);
+    StandOn(0, 1);
+    SetFocus(Editor());
+    TypeKey(VK_RIGHT);
+    EXPECT_EQ((Cell{ 1, 1 }), Current());
+    EXPECT_EQ(grid, GetFocus());
+}
+
+TEST_F(GridListCells, SortsByWhatTheCellsShow)
+{
+    MakeColumn(true);
+    Store(0, 3);
+    Store(1, 1);
+    Store(2, 2);
+    Store(3, 1);
+    Send(grid, HGM_SORT, MAKEWPARAM(0, 1));
+    EXPECT_EQ("blue", CellText(0, 0));
+    EXPECT_EQ("green", CellText(0, 1));
+    EXPECT_EQ("green", CellText(0, 2));
+    EXPECT_EQ("red", CellText(0, 3));
+}
+
+} // namespace
