@@ -55,7 +55,13 @@ int InsertOne(DataList* dl, int index, int i, HDLITEMAT itemAt, const void* cont
     const void* code = nullptr;
     itemAt(context, i, &data, &code);
     const int before = dl->pValues->cItems;
-    HDLInsertItem(dl, index < 0 ? -1 : index + i, data, code);
+    if (index < 0 || SortModeOf(dl) != SortMode::None) {
+        HDLInsertItem(dl, -1, data, code);
+    } else {
+        const KeptCursor values(dl->pValues, index + i);
+        const KeptCursor codes(dl->pCodes, index + i);
+        HDLInsertItem(dl, index + i, data, code);
+    }
     return dl->pValues->cItems - before;
 }
 
@@ -86,6 +92,9 @@ int HDLInsertItems(DataList* dl, int index, int count, HDLITEMAT itemAt, const v
 {
     if (!dl || !dl->pValues) {
         return 0;
+    }
+    if (index >= dl->pValues->cItems) {
+        index = -1; // they go to the end
     }
     const ListPair pair = PairOf(dl);
     const bool     inOneGo = pair.leader && IsSorted(pair.leader);

@@ -31,6 +31,30 @@ inline int HLListCount(const HLList* list)
     return list ? list->cItems : 0;
 }
 
+// Insertions and removals send a list's cursor back to its head. This leaves it before the place of the change, where
+// the next one of an ascending walk is near.
+class KeptCursor {
+public:
+    KeptCursor(HLList* list, int place)
+        : list_(list), before_(place > 0 ? HLListGetItem(list, place - 1) : nullptr), place_(place)
+    {
+    }
+    ~KeptCursor()
+    {
+        if (before_) {
+            list_->pCursor = before_;
+            list_->iCursor = place_ - 1;
+        }
+    }
+    KeptCursor(const KeptCursor&) = delete;
+    KeptCursor& operator=(const KeptCursor&) = delete;
+
+private:
+    HLList* list_;
+    void*   before_;
+    int     place_;
+};
+
 // HLListInsert of a node that exists already.
 int HLListInsertNode(HLList* list, int index, void* node);
 // Takes the nodes from index first on, which were appended to a sorted list, to the places where HLListAdd would have

@@ -63,7 +63,7 @@ LRESULT LoadCodeText(HWND editor, const void* code)
         return 0;
     }
     char item[itemBufferSize] = {};
-    if (!SendMessageA(editor, HLM_GETDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item))) {
+    if (!HGFetchItem(editor, index, item)) {
         return 0;
     }
     item[itemBufferSize - 1] = 0;

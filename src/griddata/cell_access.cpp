@@ -154,6 +154,17 @@ int FinishWrite(HGridCtl* ctl, int col, int row)
     return 1;
 }
 
+// Bounded: an item's text may be longer than the caller's room, and is cut then.
+void CopyLongItem(HWND child, WPARAM index, size_t size, char* out)
+{
+    char* const item = static_cast<char*>(HBlockAlloc(size + 1));
+    if (item && SendMessageA(child, HLM_GETDATA, index, reinterpret_cast<LPARAM>(item))) {
+        std::memcpy(out, item, itemBufferSize - 1);
+        out[itemBufferSize - 1] = 0;
+    }
+    HBlockFree(item);
+}
+
 // The bytes of the field's value, where a code is shown through its item: null if there is nothing to show.
 const void* FormatSource(const HGField* field, const BYTE* cell, char* itemBuffer)
 {
@@ -167,7 +178,7 @@ const void* FormatSource(const HGField* field, const BYTE* cell, char* itemBuffe
     const HWND child = field->pCtl->hWnd;
     const LRESULT index = SendMessageA(child, HLM_FINDCODE, 0, reinterpret_cast<LPARAM>(cell));
     if (static_cast<int>(index) >= 0) {
-        SendMessageA(child, HLM_GETDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(itemBuffer));
+        HGFetchItem(child, index, itemBuffer);
     }
     return itemBuffer;
 }
@@ -188,6 +199,17 @@ bool TranslateToCode(const HGField* field, char* block)
 }
 
 } // namespace
+
+LRESULT HGFetchItem(HWND child, LRESULT index, char* out)
+{
+    const WPARAM  item = static_cast<WPARAM>(index);
+    const LRESULT size = SendMessageA(child, HLM_GETDATASIZE, item, 0);
+    if (size >= itemBufferSize) {
+        CopyLongItem(child, item, static_cast<size_t>(size), out);
+        return 1;
+    }
+    return SendMessageA(child, HLM_GETDATA, item, reinterpret_cast<LPARAM>(out));
+}
 
 BYTE* HGCellPtr(HGridData* grid, int col, int row)
 {

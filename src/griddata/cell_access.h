@@ -25,6 +25,9 @@ inline HGridCtl* HGFromWindow(HWND hwnd)
     return static_cast<HGridCtl*>(ControlRecord(hwnd));
 }
 
+// Copies the data of an item of a cell control's list to a buffer of itemBufferSize bytes. 0 if nothing was copied.
+LRESULT HGFetchItem(HWND child, LRESULT index, char* out);
+
 BYTE* HGCellPtr(HGridData* grid, int col, int row);      // null if grid, field or row is missing
 BYTE* HGCellFlagsPtr(HGridData* grid, int col, int row); // null if grid or row is missing; col must be valid
 

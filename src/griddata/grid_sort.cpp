@@ -1,6 +1,7 @@
 // Sorting the rows of a grid by one column. The order is that of a bubble sort which swaps neighbours whenever their
 // compare says so; here it is reached by sorting an index of the rows and linking the rows anew.
 #include "foundation/merge_sort.h"
+#include "griddata/cell_access.h"
 #include "griddata/child_messages.h"
 #include "griddata/griddata_internal.h"
 #include "typed/data_types.h"
@@ -47,7 +48,7 @@ void Translate(const SortJob& job, int row, char* buffer)
         return;
     }
     const LRESULT index = SendMessageA(job.translator, HLM_FINDCODE, 0, reinterpret_cast<LPARAM>(data + job.offset));
-    SendMessageA(job.translator, HLM_GETDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer));
+    HGFetchItem(job.translator, index, buffer);
 }
 
 int CompareRows(const SortJob& job, int rowA, int rowB)

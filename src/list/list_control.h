@@ -10,6 +10,7 @@
 constexpr WORD HLF_DRAGSET = 0x0001;     // the mouse range under way selects, or else deselects
 constexpr WORD HLF_FOCUSRECT = 0x0002;   // the focus rectangle is on the screen
 constexpr WORD HLF_FIXEDCOLUMN = 0x0004; // cxColumn was set by the host
+constexpr WORD HLF_OWNFORMAT = 0x0008;   // shared items show by a format of the list's own
 constexpr WORD HLF_SINGLESEL = 0x0010;   // the current item is the selection
 constexpr WORD HLF_TRACKING = 0x0020;    // the left button went down on the list and isn't up yet
 constexpr WORD HLF_NOREDRAW = 0x0040;    // neither painting nor layout
@@ -71,6 +72,7 @@ int  HLForEachItem(HListCtl* ctl, int which, int n, const void* list, HLStep ste
 int  HLFetchMany(HListCtl* ctl, int n, int kind, void* out, int which, const void* list);
 void HLEmptyItems(HListCtl* ctl);
 void HLShareItems(HListCtl* ctl, const DataList* list);
+int  HLSetFormat(HListCtl* ctl, const char* format); // 1, or 0 if the data has none or memory is short
 ULONG_PTR HLItemData(HListCtl* ctl, int index); // for the structures of owner drawing
 
 // Selection, current item and links
@@ -94,6 +96,7 @@ int  HLMaxItemWidth(HListCtl* ctl);
 void HLRecalc(HListCtl* ctl);
 bool HLItemRect(HListCtl* ctl, int index, RECT* out); // false: out of view
 void HLInvalidateItem(HListCtl* ctl, int index, bool erase);
+RECT HLRangeRect(HListCtl* ctl, int a, int b); // of all items from a to b that are in view
 void HLInvalidateRange(HListCtl* ctl, int a, int b, bool erase);
 int  HLItemFromPoint(HListCtl* ctl, int x, int y);
 int  HLScroll(HListCtl* ctl, int delta);

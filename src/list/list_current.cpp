@@ -73,13 +73,8 @@ void ClickAlone(HListCtl* ctl, int index, bool shift)
         }
         SetFlag(ctl, HLF_DRAGSET, true);
     } else if (shift) {
-        RECT anchor;
-        RECT item;
-        RECT both;
-        HLItemRect(ctl, ctl->nAnchor, &anchor);
-        HLItemRect(ctl, index, &item);
-        UnionRect(&both, &anchor, &item);
-        ValidateRect(ctl->hWnd, &both);
+        const RECT range = HLRangeRect(ctl, ctl->nAnchor, index);
+        ValidateRect(ctl->hWnd, &range);
         HLSelectRange(ctl, ctl->nAnchor, index, HLSEL_SET);
     } else {
         HLSelectOne(ctl, index, HLSEL_SET);
@@ -120,7 +115,7 @@ void InvalidateDrag(HListCtl* ctl, int from, int to)
 const char* ItemText(HListCtl* ctl, int index, char* buffer)
 {
     DataList items = ctl->items;
-    if (items.cType == 's' && items.cClass == 's') {
+    if (IsText(items.cClass, items.cType)) {
         const void* const text = HDLGetDataPtr(&items, index);
         return text ? static_cast<const char*>(text) : "";
     }
@@ -225,6 +220,9 @@ void HLSetCurrent(HListCtl* ctl, int index, bool notify, bool keepAnchor)
     }
     if (GetFocus() == hwnd) {
         HLShowFocus(ctl, now);
+    }
+    if (!IsWindow(hwnd)) {
+        return;
     }
     if (!notify) {
         SetFlag(ctl, CF_CHANGED, false);

@@ -99,26 +99,6 @@ void DrawTabbed(HListCtl* ctl, HDC hdc, const RECT& rect, const char* text)
     }
 }
 
-void CallOwner(HListCtl* ctl, HDC hdc, const RECT& rect, int index, UINT action, UINT state)
-{
-    constexpr UINT listControl = 2; // ODT_LISTBOX
-    DRAWITEMSTRUCT draw = {};
-    draw.CtlType = listControl;
-    draw.CtlID = ctl->wId;
-    draw.itemID = static_cast<UINT>(index);
-    draw.itemAction = action;
-    draw.itemState = state;
-    draw.hwndItem = ctl->hWnd;
-    draw.hDC = hdc;
-    draw.rcItem = rect;
-    draw.itemData = HLItemData(ctl, index);
-    if (HasStyle(ctl, HLS_FIELD)) {
-        InflateRect(&draw.rcItem, -1, -3);
-    }
-    const SelectedObject font(hdc, ctl->hFont);
-    SendMessageA(ctl->hParent, WM_DRAWITEM, ctl->wId, reinterpret_cast<LPARAM>(&draw));
-}
-
 int IndexOfValue(HListCtl* ctl, const void* value, int kind)
 {
     DataList items = ctl->items;
@@ -171,7 +151,22 @@ int HLMaxItemWidth(HListCtl* ctl)
 
 void HLDrawOwned(HListCtl* ctl, HDC hdc, const RECT& rect, int index, UINT action, UINT state)
 {
-    CallOwner(ctl, hdc, rect, index, action, state);
+    constexpr UINT listControl = 2; // ODT_LISTBOX
+    DRAWITEMSTRUCT draw = {};
+    draw.CtlType = listControl;
+    draw.CtlID = ctl->wId;
+    draw.itemID = static_cast<UINT>(index);
+    draw.itemAction = action;
+    draw.itemState = state;
+    draw.hwndItem = ctl->hWnd;
+    draw.hDC = hdc;
+    draw.rcItem = rect;
+    draw.itemData = HLItemData(ctl, index);
+    if (HasStyle(ctl, HLS_FIELD)) {
+        InflateRect(&draw.rcItem, -1, -3);
+    }
+    const SelectedObject font(hdc, ctl->hFont);
+    SendMessageA(ctl->hParent, WM_DRAWITEM, ctl->wId, reinterpret_cast<LPARAM>(&draw));
 }
 
 bool HLDrawItem(HListCtl* ctl, HDC hdc, const RECT* rect, int index, RECT* outRect, bool highlighted, COLORREF color)
@@ -210,11 +205,11 @@ int HLDrawValue(HListCtl* ctl, HDC hdc, RECT* rect, HBRUSH brush, const void* va
     }
     const int index = value ? IndexOfValue(ctl, value, kind) : -1;
     InflateRect(rect, -cellMarginX, -cellMarginY);
+    SetBkMode(hdc, TRANSPARENT);
     if (HasStyle(ctl, HLS_OWNERDRAW)) {
-        CallOwner(ctl, hdc, *rect, index, ODA_SELECT, 0);
+        HLDrawOwned(ctl, hdc, *rect, index, ODA_SELECT, 0);
     } else {
         const SelectedObject font(hdc, ctl->hFont);
-        SetBkMode(hdc, TRANSPARENT);
         if (!HLDrawItem(ctl, hdc, rect, index, nullptr, false, color)) {
             MarkOverflow(hdc, *rect);
         }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/message_table.h"
+#include "foundation/item_list.h"
 #include "list/list_control.h"
 
 #include <algorithm>
@@ -28,6 +29,11 @@ inline int ClampItem(const HListCtl* ctl, int index)
 {
     return std::clamp(index, 0, std::max(LastItem(ctl), 0));
 }
+// Whether values of a type are texts of any length.
+inline bool IsText(char dataClass, char dataType)
+{
+    return GetDataSize(dataClass, dataType) < 0;
+}
 inline bool HasCodes(const HListCtl* ctl)
 {
     return (ctl->items.wFlags & HDL_HASCODE) != 0;
@@ -39,30 +45,6 @@ void SetSelectedAt(const HListCtl* ctl, int place, int index);
 // order costs a step a question.
 int  PlaceInSelection(const HListCtl* ctl, int index);
 bool IsInSelection(const HListCtl* ctl, int index);
-
-// Insertions and removals send a list's cursor back to its head. This leaves it before the place of the change, where
-// the next one of an ascending walk is near.
-class KeptCursor {
-public:
-    KeptCursor(HLList* list, int place)
-        : list_(list), before_(place > 0 ? HLListGetItem(list, place - 1) : nullptr), place_(place)
-    {
-    }
-    ~KeptCursor()
-    {
-        if (before_) {
-            list_->pCursor = before_;
-            list_->iCursor = place_ - 1;
-        }
-    }
-    KeptCursor(const KeptCursor&) = delete;
-    KeptCursor& operator=(const KeptCursor&) = delete;
-
-private:
-    HLList* list_;
-    void*   before_;
-    int     place_;
-};
 
 // Drawing by the owner: WM_DRAWITEM.
 void HLDrawOwned(HListCtl* ctl, HDC hdc, const RECT& rect, int index, UINT action, UINT state);

@@ -35,13 +35,6 @@ void TakeColors(HListCtl* ctl, char* text)
     ctl->crNegText = negative;
 }
 
-// Bounded: a code of more than four bytes has no room in lCurCode.
-bool CanHoldCurrentCode(char dataClass, char dataType)
-{
-    const int size = GetDataSize(dataClass, dataType);
-    return (dataClass == 'n' || dataType == 'l') && size > 0 && size <= static_cast<int>(sizeof(HListCtl::lCurCode));
-}
-
 // Reads the type text, which is changed, into the record.
 bool ReadTypeText(HListCtl* ctl, char* text)
 {
@@ -50,7 +43,7 @@ bool ReadTypeText(HListCtl* ctl, char* text)
     char        codeClass = 0;
     char        codeType = 0;
     char* const format = GetDataTypes(text, &dataClass, &dataType, &codeClass, &codeType);
-    if (!CanHoldCurrentCode(codeClass, codeType)) {
+    if (codeClass != 'n' && codeType != 'l') {
         ctl->dwStyle &= ~static_cast<DWORD>(HLS_CODECURRENT);
     }
     TakeColors(ctl, format);
@@ -89,7 +82,7 @@ void GiveItem(const void* context, int i, const void** data, const void** code)
 
 GivenItems ItemsOf(const HListCtl* ctl, const void* items, const void* codes)
 {
-    const DataList& list = ctl->items;
+    const DataList list = ctl->items;
     return { items, list.pCodes ? codes : nullptr, list.pValues->cbItem, list.pCodes ? list.pCodes->cbItem : 0 };
 }
 
@@ -317,6 +310,19 @@ int SweepItems(HListCtl* ctl, int which)
     return sweep.Finish();
 }
 
+// Items and format go, each unless it is somebody else's.
+void DropItems(HListCtl* ctl)
+{
+    DataList items = ctl->items;
+    if (!HasFlag(ctl, HLF_SHAREDLIST)) {
+        HDLDestroy(&items);
+    } else if (HasFlag(ctl, HLF_OWNFORMAT)) {
+        HBlockFree(items.pszFormat);
+    }
+    SetFlag(ctl, HLF_OWNFORMAT, false);
+    ctl->items = {};
+}
+
 } // namespace
 
 bool HLApplyType(HListCtl* ctl, const char* text)
@@ -338,11 +344,7 @@ bool HLApplyType(HListCtl* ctl, const char* text)
 
 void HLFreeItems(HListCtl* ctl)
 {
-    if (!HasFlag(ctl, HLF_SHAREDLIST)) {
-        DataList items = ctl->items;
-        HDLDestroy(&items);
-    }
-    ctl->items = {};
+    DropItems(ctl);
     HLListDestroy(ctl->pSelected);
     ctl->pSelected = nullptr;
     HBlockFree(ctl->pTabs);
@@ -375,11 +377,12 @@ int HLInsertMany(HListCtl* ctl, int index, int n, const void* items, const void*
     const int before = HLCount(ctl);
     SetFlag(ctl, HLF_NOREDRAW, true);
     if (n > 0 && ctl->items.pValues) {
-        InsertAll(ctl, index, n, ItemsOf(ctl, items, codes));
+        InsertAll(ctl, index < before ? index : -1, n, ItemsOf(ctl, items, codes));
     }
     SetFlag(ctl, HLF_NOREDRAW, false);
+    const int added = HLCount(ctl) - before;
     HLRecalc(ctl);
-    return HLCount(ctl) - before;
+    return added;
 }
 
 int HLInsertText(HListCtl* ctl, int index, const char* data, const char* code)
@@ -387,16 +390,17 @@ int HLInsertText(HListCtl* ctl, int index, const char* data, const char* code)
     if (!data) {
         return -1;
     }
-    const DataList& items = ctl->items;
+    const DataList items = ctl->items;
     alignas(8) char value[parseBufferSize] = {};
     alignas(8) char codeValue[parseBufferSize] = {};
     const void*     newData = data;
-    const void*     newCode = items.cType2 == 's' ? code : nullptr;
-    if (items.cType != 's') {
+    const bool      isCodeText = IsText(items.cClass2, items.cType2);
+    const void*     newCode = isCodeText ? code : nullptr;
+    if (!IsText(items.cClass, items.cType)) {
         ParseData(value, items.cClass, items.cType, items.pszFormat, data, 0);
         newData = value;
     }
-    if (items.cType2 != 's' && code && HasCodes(ctl)) {
+    if (!isCodeText && code && HasCodes(ctl)) {
         ParseData(codeValue, items.cClass2, items.cType2, nullptr, code, 0);
         newCode = codeValue;
     }
@@ -405,8 +409,12 @@ int HLInsertText(HListCtl* ctl, int index, const char* data, const char* code)
 
 int HLRemoveItem(HListCtl* ctl, int index)
 {
+    const HWND hwnd = ctl->hWnd;
     if (HasStyle(ctl, HLS_OWNERDRAW)) {
         TellOwner(ctl, index);
+    }
+    if (!IsWindow(hwnd)) {
+        return 0;
     }
     const int removed = RemoveValue(ctl, index);
     HLAdjustIndexes(ctl, -1, index);
@@ -424,7 +432,7 @@ int HLRemoveMany(HListCtl* ctl, int which, int n, const void* list)
     } else {
         HLForEachItem(ctl, which, n, list, RemoveStep, &removed, false);
     }
-    if (removed > 0) {
+    if (removed > 0 && IsWindow(hwnd)) {
         HLRecalc(ctl);
     }
     if (IsWindow(hwnd)) {
@@ -453,25 +461,45 @@ void HLEmptyItems(HListCtl* ctl)
     HLListEmpty(ctl->pSelected);
 }
 
+// A list that shows somebody else's items has a format of its own from the first one on that it is given: the other
+// holder goes on using his.
+int HLSetFormat(HListCtl* ctl, const char* format)
+{
+    const bool borrowed = HasFlag(ctl, HLF_SHAREDLIST) && !HasFlag(ctl, HLF_OWNFORMAT);
+    DataList   items = ctl->items;
+    if (borrowed) {
+        items.pszFormat = nullptr;
+    }
+    if (!HDLSetFormat(&items, format)) {
+        return 0;
+    }
+    SetFlag(ctl, HLF_OWNFORMAT, HasFlag(ctl, HLF_SHAREDLIST));
+    ctl->items = items;
+    return 1;
+}
+
 void HLShareItems(HListCtl* ctl, const DataList* list)
 {
-    if (!HasFlag(ctl, HLF_SHAREDLIST)) {
-        DataList own = ctl->items;
-        HDLDestroy(&own);
-        ctl->items = {}; // what a list that is given its own items finds there
+    const void* const own = reinterpret_cast<const char*>(ctl) + offsetof(HListCtl, items);
+    if (list != own || !HasFlag(ctl, HLF_SHAREDLIST)) {
+        DropItems(ctl);
+        SetFlag(ctl, HLF_SHAREDLIST, true);
+        DataList shared;
+        std::memcpy(&shared, list, sizeof shared); // another list's record may hold it at any address
+        ctl->items = shared;
     }
-    SetFlag(ctl, HLF_SHAREDLIST, true);
-    DataList shared;
-    std::memcpy(&shared, list, sizeof shared); // another list's record may hold it at any address
-    ctl->items = shared;
     ctl->nAnchor = -1;
     HLStoreCurrent(ctl, -1);
+    SetFlag(ctl, CF_NULL, HasFlag(ctl, CF_NULL | HLF_SINGLESEL));
     ctl->nHot = -1;
     ctl->nTop = 0;
     ctl->nScrollPos = 0;
+    const HWND hwnd = ctl->hWnd;
     HLRecalc(ctl);
-    HLListEmpty(ctl->pSelected);
-    InvalidateRect(ctl->hWnd, nullptr, TRUE);
+    if (IsWindow(hwnd)) {
+        HLListEmpty(ctl->pSelected);
+        InvalidateRect(hwnd, nullptr, TRUE);
+    }
 }
 
 ULONG_PTR HLItemData(HListCtl* ctl, int index)

@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr int leastColumnWidth = 10;
-
 bool IsField(const HListCtl* ctl)
 {
     return HasStyle(ctl, HLS_FIELD);
@@ -76,7 +74,8 @@ int ScrollMaximum(const HListCtl* ctl)
 int HighestPosition(const HListCtl* ctl)
 {
     const int last = std::max(LastItem(ctl), -1);
-    const int highest = HasColumns(ctl) ? Partial(ctl) + 1 + last / ctl->cRows - ctl->cCols
+    const int rows = std::max<int>(ctl->cRows, 1);
+    const int highest = HasColumns(ctl) ? Partial(ctl) + 1 + last / rows - ctl->cCols
                                         : Partial(ctl) - ctl->cRows + HLCount(ctl);
     return std::max(highest, 0);
 }
@@ -137,8 +136,9 @@ int HLRowHeight(HListCtl* ctl)
         GetClientRect(ctl->hWnd, &client);
         return std::max<int>(client.bottom, 1);
     }
-    const int measured = HasStyle(ctl, HLS_OWNERDRAW) ? MeasuredHeight(ctl) : 0;
-    return std::max<int>(measured ? measured : HIWORD(GetBaseUnits(ctl->hFont)), 1);
+    const HFONT font = ctl->hFont; // the parent may destroy the list while it is asked
+    const int   measured = HasStyle(ctl, HLS_OWNERDRAW) ? MeasuredHeight(ctl) : 0;
+    return std::max<int>(measured ? measured : HIWORD(GetBaseUnits(font)), 1);
 }
 
 void HLRecalc(HListCtl* ctl)
@@ -147,7 +147,11 @@ void HLRecalc(HListCtl* ctl)
     RECT client = {};
     GetClientRect(hwnd, &client);
     ctl->rcClient = client;
-    ctl->cyRow = HLRowHeight(ctl);
+    const int rowHeight = HLRowHeight(ctl);
+    if (!IsWindow(hwnd)) {
+        return;
+    }
+    ctl->cyRow = rowHeight;
     SetColumnWidth(ctl);
     CountRowsAndColumns(ctl);
     const int maximum = ScrollMaximum(ctl);
@@ -155,6 +159,9 @@ void HLRecalc(HListCtl* ctl)
     InvalidateRect(hwnd, nullptr, TRUE);
     if (ctl->nScrollPos > maximum) {
         HLScroll(ctl, 0);
+    }
+    if (!IsWindow(hwnd)) {
+        return;
     }
     if (!HasStyle(ctl, HLS_NOSCROLL)) {
         SetBar(ctl, maximum);
@@ -201,15 +208,21 @@ void HLInvalidateItem(HListCtl* ctl, int index, bool erase)
     }
 }
 
-void HLInvalidateRange(HListCtl* ctl, int a, int b, bool erase)
+// An item out of view counts with the edge behind which it lies.
+RECT HLRangeRect(HListCtl* ctl, int a, int b)
 {
     RECT first;
     RECT second;
-    RECT both;
     HLItemRect(ctl, a, &first);
     HLItemRect(ctl, b, &second);
-    UnionRect(&both, &first, &second);
-    InvalidateRect(ctl->hWnd, &both, erase);
+    return { std::min(first.left, second.left), std::min(first.top, second.top), std::max(first.right, second.right),
+             std::max(first.bottom, second.bottom) };
+}
+
+void HLInvalidateRange(HListCtl* ctl, int a, int b, bool erase)
+{
+    const RECT rect = HLRangeRect(ctl, a, b);
+    InvalidateRect(ctl->hWnd, &rect, erase);
 }
 
 int HLItemFromPoint(HListCtl* ctl, int x, int y)

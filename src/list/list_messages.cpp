@@ -70,11 +70,9 @@ LRESULT OnGetFormat(HListCtl* ctl, const MsgArgs& args)
 
 LRESULT OnSetFormat(HListCtl* ctl, const MsgArgs& args)
 {
-    DataList items = ctl->items;
-    if (!HDLSetFormat(&items, PointerOf<const char>(args))) {
+    if (!HLSetFormat(ctl, PointerOf<const char>(args))) {
         return 0;
     }
-    ctl->items = items;
     return Redraw(ctl, static_cast<LPARAM>(args.wParam), 1);
 }
 
@@ -264,7 +262,11 @@ LRESULT GiveCurrent(HListCtl* ctl, const MsgArgs& args, bool code)
     if (args.wParam && values && values->cbItem < 0) {
         const void* const text = code ? HDLGetCodePtr(&items, current) : HDLGetDataPtr(&items, current);
         const int         size = static_cast<int>(std::min<WPARAM>(args.wParam, INT_MAX));
-        return _fstrnzcpy(PointerOf<char>(args), static_cast<const char*>(text), size) > 0;
+        if (!text || !*static_cast<const char*>(text)) {
+            return 0;
+        }
+        _fstrnzcpy(PointerOf<char>(args), static_cast<const char*>(text), size);
+        return 1;
     }
     return code ? HDLGetCode(&items, current, PointerOf<void>(args))
                 : HDLGetData(&items, current, PointerOf<void>(args));
@@ -374,7 +376,8 @@ LRESULT OnGetTop(HListCtl* ctl, const MsgArgs&)
 LRESULT OnSetTop(HListCtl* ctl, const MsgArgs& args)
 {
     const int step = HasStyle(ctl, HLS_MULTICOLUMN) ? std::max<int>(ctl->cRows, 1) : 1;
-    HLScroll(ctl, (IndexOf(args) - ctl->nTop) / step);
+    const int index = std::clamp(IndexOf(args), -HLCount(ctl), HLCount(ctl));
+    HLScroll(ctl, (index - ctl->nTop) / step);
     return IsWindow(args.hwnd) ? ctl->nTop : 0;
 }
 
@@ -413,13 +416,13 @@ LRESULT OnSetRedraw(HListCtl* ctl, const MsgArgs& args)
 
 LRESULT OnGetFlags(HListCtl* ctl, const MsgArgs&)
 {
-    return ctl->wFlags;
+    return ctl->wFlags & ~HLF_OWNFORMAT;
 }
 
 LRESULT OnSetFlags(HListCtl* ctl, const MsgArgs& args)
 {
-    SetFlag(ctl, static_cast<WORD>(args.wParam), args.lParam != 0);
-    return ctl->wFlags;
+    SetFlag(ctl, static_cast<WORD>(args.wParam & ~static_cast<WPARAM>(HLF_OWNFORMAT)), args.lParam != 0);
+    return OnGetFlags(ctl, args);
 }
 
 LRESULT OnGetStyle(HListCtl* ctl, const MsgArgs&)

@@ -33,9 +33,10 @@ HBRUSH OwnBrush(const HListCtl* ctl, bool focused)
 // A combo's list shows by the library's brush that the combo has the focus. null: nobody has a brush.
 HBRUSH AskForBrush(HListCtl* ctl, HDC hdc)
 {
+    const HWND hwnd = ctl->hWnd;
     if (IsListDisabled(ctl)) {
         const HBRUSH brush = FireCtlColorMsg(ctl, staticKind, hdc);
-        if (brush || !IsWindow(ctl->hWnd)) {
+        if (brush || !IsWindow(hwnd)) {
             return brush;
         }
     }
@@ -61,6 +62,7 @@ struct ListPaint {
     HWND      hwnd;
     bool      focused;
     bool      isField;
+    int       current; // of single selection, which is searched at each question if it is held by its code
     HBRUSH    brush; // of items that aren't highlighted
     COLORREF  color; // 0: the list's own
 };
@@ -74,12 +76,15 @@ struct ItemLook {
 ItemLook LookOf(const ListPaint& paint, int index)
 {
     HListCtl* const ctl = paint.ctl;
-    const bool      marked = index == ctl->nHot || (ctl->nHot == -1 && HLIsItemSelected(ctl, index));
+    const bool      selected = HasFlag(ctl, HLF_SINGLESEL) ? index == paint.current : HLIsItemSelected(ctl, index);
+    const bool      marked = index == ctl->nHot || (ctl->nHot == -1 && selected);
     return { marked, paint.isField ? paint.focused : marked };
 }
 
 void PaintOwned(const ListPaint& paint, const RECT& rect, int index, const ItemLook& look)
 {
+    const SelectedObject brush(paint.hdc, look.highlighted ? GetSysColorBrush(COLOR_HIGHLIGHT) : paint.brush);
+    const SelectedObject pen(paint.hdc, GetStockObject(NULL_PEN));
     const UINT state = (paint.focused ? stateFocused : 0) + (look.highlighted ? 1 : 0);
     HLDrawOwned(paint.ctl, paint.hdc, rect, paint.isField && !look.marked ? -1 : index, ODA_SELECT, state);
 }
@@ -91,7 +96,9 @@ void PaintItem(const ListPaint& paint, int index)
     HLItemRect(paint.ctl, index, &rect);
     const ItemLook look = LookOf(paint, index);
     SetBkMode(paint.hdc, look.highlighted ? OPAQUE : TRANSPARENT);
-    SetBkColor(paint.hdc, GetSysColor(COLOR_HIGHLIGHT));
+    if (look.highlighted) {
+        SetBkColor(paint.hdc, GetSysColor(COLOR_HIGHLIGHT));
+    }
     // The current item of a field without the focus: what a disabled list or a combo's one shows may differ.
     const bool plainMark = look.marked && !look.highlighted;
     if (plainMark) {
@@ -157,7 +164,8 @@ void HLPaint(HListCtl* ctl)
     }
     const SelectedObject font(dc.hdc, ctl->hFont);
     const COLORREF       color = IsListDisabled(ctl) ? GetSysColor(COLOR_GRAYTEXT) : 0;
-    const ListPaint      paint = { ctl, dc.hdc, hwnd, focused, HasStyle(ctl, HLS_FIELD), brush, color };
+    const int            current = HLCurIndex(ctl);
+    const ListPaint      paint = { ctl, dc.hdc, hwnd, focused, HasStyle(ctl, HLS_FIELD), current, brush, color };
     PaintItems(paint, dc.ps.rcPaint);
 }
 

@@ -21,6 +21,13 @@ bool IsInDrag(HListCtl* ctl, int index)
     return index >= std::min(anchor, current) && index <= std::max(anchor, current);
 }
 
+// Bounded: shared items may have codes that don't fit into lCurCode.
+bool IsHeldByCode(const HListCtl* ctl)
+{
+    const HLList* const codes = HasStyle(ctl, HLS_CODECURRENT) && HasCodes(ctl) ? ctl->items.pCodes : nullptr;
+    return codes && codes->cbItem > 0 && codes->cbItem <= static_cast<int>(sizeof(HListCtl::lCurCode));
+}
+
 int EntryOf(void* node)
 {
     return LoadAs<LONG>(HNodePayload(node));
@@ -194,7 +201,7 @@ int HLSelectFound(HListCtl* ctl, int index, int mode)
 
 int HLCurIndex(HListCtl* ctl)
 {
-    if (HasStyle(ctl, HLS_CODECURRENT) && ctl->nCurrent >= 0) {
+    if (ctl->nCurrent >= 0 && IsHeldByCode(ctl)) {
         const DWORD code = ctl->lCurCode;
         DataList    items = ctl->items;
         ctl->nCurrent = HDLFindCode(&items, 0, &code);
@@ -205,7 +212,7 @@ int HLCurIndex(HListCtl* ctl)
 void HLStoreCurrent(HListCtl* ctl, int index)
 {
     ctl->nCurrent = index;
-    if (HasStyle(ctl, HLS_CODECURRENT) && index >= 0) {
+    if (index >= 0 && IsHeldByCode(ctl)) {
         DWORD    code = 0;
         DataList items = ctl->items;
         HDLGetCode(&items, index, &code);
@@ -234,7 +241,11 @@ void HLLinkData(HListCtl* ctl, void* link, bool select)
     ctl->pDataLink = link;
     if (select) {
         DataList items = ctl->items;
+        const HWND hwnd = ctl->hWnd;
         HLSelectFound(ctl, HDLFindData(&items, 0, link), HLSEL_SET);
+        if (!IsWindow(hwnd)) {
+            return;
+        }
     }
     HLUpdateLinks(ctl);
 }
@@ -244,7 +255,11 @@ void HLLinkCode(HListCtl* ctl, void* link, bool select)
     ctl->pCodeLink = link;
     if (select) {
         DataList items = ctl->items;
+        const HWND hwnd = ctl->hWnd;
         HLSelectFound(ctl, HDLFindCode(&items, 0, link), HLSEL_SET);
+        if (!IsWindow(hwnd)) {
+            return;
+        }
     }
     HLUpdateLinks(ctl);
 }

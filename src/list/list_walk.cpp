@@ -11,7 +11,9 @@ struct Walk {
     void*     context;
     bool      keep; // steps don't remove items
     int       calls;
+    HWND      hwnd;
 
+    bool HasItem(int index) const { return IsWindow(hwnd) && index < HLCount(ctl); }
     // Whether the item is gone.
     bool Visit(int index)
     {
@@ -22,15 +24,19 @@ struct Walk {
 
 void VisitAll(Walk* walk)
 {
-    for (int i = 0; i < HLCount(walk->ctl);) {
+    for (int i = 0; walk->HasItem(i);) {
         i += walk->Visit(i) ? 0 : 1;
     }
 }
 
 void VisitBySelection(Walk* walk, bool selected)
 {
-    for (int i = 0; i < HLCount(walk->ctl);) {
-        const bool visited = HLIsItemSelected(walk->ctl, i) == selected;
+    // A current item that is held by its code is searched at each question.
+    const bool isFixed = walk->keep && (walk->ctl->wFlags & HLF_SINGLESEL);
+    const int  current = HLCurIndex(walk->ctl);
+    for (int i = 0; walk->HasItem(i);) {
+        const bool isSelected = isFixed ? i == current : HLIsItemSelected(walk->ctl, i);
+        const bool visited = isSelected == selected;
         i += visited && walk->Visit(i) ? 0 : 1;
     }
 }
@@ -39,9 +45,9 @@ void VisitBySelection(Walk* walk, bool selected)
 void VisitByIndex(Walk* walk, int n, const void* list)
 {
     int removed = 0;
-    for (int i = 0; i < n; ++i) {
+    for (int i = 0; i < n && IsWindow(walk->hwnd); ++i) {
         const int index = static_cast<const int*>(list)[i];
-        if (index - removed >= 0 && walk->Visit(index)) {
+        if (index >= removed && walk->Visit(index)) {
             ++removed;
         }
     }
@@ -56,7 +62,7 @@ void VisitByValue(Walk* walk, int n, const void* list, bool codes)
     }
     const int   size = values->cbItem;
     const char* cursor = static_cast<const char*>(list);
-    for (int i = 0; i < n; ++i) {
+    for (int i = 0; i < n && IsWindow(walk->hwnd); ++i) {
         const void* const value = size < 0 ? *reinterpret_cast<const void* const*>(cursor) : cursor;
         DataList          items = walk->ctl->items;
         const int         index = codes ? HDLFindCode(&items, 0, value) : HDLFindData(&items, 0, value);
@@ -114,7 +120,7 @@ int FetchStep(HListCtl* ctl, int index, void* context)
 
 int HLForEachItem(HListCtl* ctl, int which, int n, const void* list, HLStep step, void* context, bool keep)
 {
-    Walk       walk = { ctl, step, context, keep, 0 };
+    Walk       walk = { ctl, step, context, keep, 0, ctl->hWnd };
     const bool hasList = list != nullptr; // Bounded: a selector that reads a list names nothing without one.
     switch (which) {
     case HLI_ALL: VisitAll(&walk); break;

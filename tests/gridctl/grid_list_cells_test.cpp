@@ -30,6 +30,24 @@ TEST_F(GridListCells, CellShowsTheItemOfItsCode)
     EXPECT_EQ("green", CellText(0, 1));
 }
 
+TEST_F(GridListCells, LongItemsShowCutAndSort)
+{
+    MakeColumn(true);
+    const std::string long1(300, 'y');
+    const std::string long2 = std::string(299, 'x') + "z";
+    constexpr LONG    codes[] = { 11, 12 };
+    HLAddItemEx(ChildOf(0), long1.c_str(), &codes[0]);
+    HLAddItemEx(ChildOf(0), long2.c_str(), &codes[1]);
+    Store(0, 11);
+    Store(1, 12);
+    Store(2, 1);
+    Store(3, 2);
+    EXPECT_EQ(std::string(255, 'y'), CellText(0, 0));
+    HGSortRows(ctl->pData, 0, true, nullptr);
+    const LONG order[] = { Stored(0), Stored(1), Stored(2), Stored(3) };
+    EXPECT_EQ((std::vector<LONG>{ 2, 1, 12, 11 }), std::vector<LONG>(std::begin(order), std::end(order)));
+}
+
 TEST_F(GridListCells, EditorStandsOnTheCellsItem)
 {
     for (const bool code : { false, true }) {
