@@ -35,6 +35,10 @@ extern HWND  hOpenDrop;
 extern HWND  hOpenChild;
 extern HHOOK hMouseHook;
 
+void HCTakeMouse();           // from all windows but the open combo's
+void HCGiveMouseBack();       // no combo is open any more
+HWND HCFaceOfDrop(HWND drop); // null for a list of the class that no combo has made
+
 // Reads a number behind a head of "%" at *text and moves behind it. 0 without one.
 int HCReadSize(const char** text);
 

@@ -3,5 +3,5 @@
 
 #include <windows.h>
 
-// The place of a list of a size, in screen coordinates, for a combo on a monitor.
-RECT HCDropRect(const RECT& combo, const RECT& monitor, int width, int height);
+// The place of a list in screen coordinates, for a combo on a monitor. The list is as wide as the combo, or leastWidth.
+RECT HCDropRect(const RECT& combo, const RECT& monitor, int leastWidth, int height);

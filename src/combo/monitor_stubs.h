@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+// All of the functions, or none of them.
 struct MonitorStubs {
     int(WINAPI* getSystemMetrics)(int index);
     HMONITOR(WINAPI* monitorFromWindow)(HWND hwnd, DWORD flags);
@@ -15,13 +16,14 @@ struct MonitorStubs {
     bool isNT; // the platform's family
 };
 
-// Whoever finds a function of the system by its name. A test puts another one in.
+// Whoever finds a function of the system by its name; null for one that is missing.
 using FindSystemFunction = FARPROC (*)(const char* name);
 
-// Fills the table; where one function is missing, none is taken. Null: the system's own functions.
+// Binds the functions. Null: the system's own. The calls below do it by themselves.
 void BindMonitors(FindSystemFunction find);
-// Forgets the table, so that the next call below fills it again.
+// Forgets what is bound, so that the next call below binds again.
 void ForgetMonitors();
+const MonitorStubs& BoundMonitors();
 
 int      MonitorMetrics(int index);
 HMONITOR MonitorOfWindow(HWND hwnd, DWORD flags);
