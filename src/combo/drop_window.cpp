@@ -2,6 +2,7 @@
 #include "combo/combo_internal.h"
 #include "combo/drop_place.h"
 #include "combo/monitor_stubs.h"
+#include "foundation/startup.h"
 #include "griddata/grid_model.h"
 
 namespace {

@@ -57,6 +57,17 @@ HCURSOR CursorOf(ClassCursor cursor)
     return hCurGrid;
 }
 
+// The list of a combo: a list that floats, with one word more for the combo's face.
+void RegisterDrop()
+{
+    WNDCLASSA info = {};
+    if (GetClassInfoA(hInstance, "HList", &info)) {
+        RegisterControl(info.style | CS_SAVEBITS, HDropWnd, info.cbClsExtra,
+                        info.cbWndExtra + static_cast<int>(sizeof(LONG_PTR)), hInstance, info.hIcon, info.hCursor,
+                        info.hbrBackground, info.lpszMenuName, "HDrop");
+    }
+}
+
 void RegisterClasses()
 {
     for (const ControlClass& entry : controlClasses) {
@@ -65,8 +76,12 @@ void RegisterClasses()
             continue;
         }
         const HICON icon = entry.iconId ? LoadIconA(hInstance, MAKEINTRESOURCEA(entry.iconId)) : nullptr;
-        RegisterControl(entry.style, entry.wndProc, 0, entry.extraWords * static_cast<int>(sizeof(LONG_PTR)), hInstance,
-                        icon, CursorOf(entry.cursor), reinterpret_cast<HBRUSH>(entry.background), nullptr, entry.name);
+        const int registered = RegisterControl(
+            entry.style, entry.wndProc, 0, entry.extraWords * static_cast<int>(sizeof(LONG_PTR)), hInstance, icon,
+            CursorOf(entry.cursor), reinterpret_cast<HBRUSH>(entry.background), nullptr, entry.name);
+        if (registered && entry.wndProc == HCombWnd) {
+            RegisterDrop();
+        }
     }
 }
 
