@@ -4,6 +4,9 @@
 #include "combo/combo_control.h"
 #include "dialog/message_table.h"
 
+// A bit of wFlags beside the ones that grids know.
+constexpr WORD HCF_ENDING = 0x0010; // the window is being destroyed
+
 inline bool HasStyle(const HCombCtl* ctl, DWORD bits)
 {
     return (ctl->dwStyle & bits) != 0;
@@ -26,8 +29,36 @@ inline LRESULT ToList(const HCombCtl* ctl, UINT message, WPARAM wParam = 0, LPAR
     return ctl->hDrop ? SendMessageA(ctl->hDrop, message, wParam, lParam) : 0;
 }
 
+// Whether the face is an edit; otherwise it is a field list.
+inline bool HasEdit(const HCombCtl* ctl)
+{
+    return HasStyle(ctl, HCS_EDIT);
+}
+inline bool HasDropdown(const HCombCtl* ctl)
+{
+    return HasStyle(ctl, HCS_DROPDOWN);
+}
+
 // The record of a window, or null.
 HCombCtl* HCFromWindow(HWND hwnd);
+// Notifies the parent. false: it has destroyed the combo, and the record with it.
+bool HCTell(HCombCtl* ctl, int code);
+
+// Life
+void HCInstall(HCombCtl* ctl);    // joins the parts of a combo that HCCreate has made
+void HCEnd(HCombCtl* ctl);        // closes and destroys the list; the face goes with the window
+void HCKeepParts(HCombCtl* ctl);  // takes down records and code type after parts or types have changed
+void HCParkList(HCombCtl* ctl);   // takes the list away
+void HCUnparkList(HCombCtl* ctl); // and brings it back
+void HCShareField(HCombCtl* ctl); // the lists show the field's items, after its words have changed
+int  HCShareList(HCombCtl* ctl, DataList* list);
+
+// Button geometry in client coordinates, for buttons that exist.
+RECT HCDropButtonRect(const HCombCtl* ctl);
+RECT HCXButtonRect(const HCombCtl* ctl);
+bool HCIsStacked(const HCombCtl* ctl); // one button above the other
+void HCRedrawDropButton(HCombCtl* ctl); // as its flags say
+void HCRedrawXButton(HCombCtl* ctl);
 
 // The one open list and the hook that watches for a press elsewhere.
 extern HWND  hOpenCombo; // null when none is open
