@@ -100,7 +100,7 @@ void AcceptRow(HWND drop)
         return;
     }
     Notify(ctl, HCN_SELENDOK);
-    if (IsWindow(hwnd) && HasStyle(ctl, HCS_EDIT)) {
+    if (IsWindow(hwnd) && HasEdit(ctl)) {
         ToChild(ctl, EM_SETSEL, 0, 0);
         HCSync(ctl, false, true);
     }
@@ -127,7 +127,7 @@ void LeaveCombo(HCombCtl* ctl, HListCtl* list)
     if (ctl->hDropParked == list->hWnd) {
         ctl->hDropParked = nullptr;
     }
-    if (!HasStyle(ctl, HCS_EDIT)) {
+    if (!HasEdit(ctl)) {
         list->items = {};
     }
 }
@@ -165,7 +165,8 @@ void HCPlaceDrop(HCombCtl* ctl)
 void HCOpenDrop(HCombCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    if (!HasStyle(ctl, HCS_DROPDOWN) || !IsWindowVisible(hwnd) || !CloseOther(ctl)) {
+    const bool opens = HasDropdown(ctl) && !HasFlag(ctl, HCF_ENDING) && IsWindowVisible(hwnd);
+    if (!opens || !CloseOther(ctl)) {
         return;
     }
     HCPlaceDrop(ctl);
@@ -181,7 +182,7 @@ void HCOpenDrop(HCombCtl* ctl)
 void HCCloseDrop(HCombCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    if (!HasStyle(ctl, HCS_DROPDOWN) || !HasFlag(ctl, HCF_DROPPED)) {
+    if (!HasDropdown(ctl) || !HasFlag(ctl, HCF_DROPPED)) {
         return;
     }
     HideDrop(ctl);
@@ -196,7 +197,7 @@ void HCCloseDrop(HCombCtl* ctl)
 
 void HCToggleDrop(HCombCtl* ctl)
 {
-    if (!HasStyle(ctl, HCS_DROPDOWN)) {
+    if (!HasDropdown(ctl)) {
         return;
     }
     if (HasFlag(ctl, HCF_DROPPED)) {
