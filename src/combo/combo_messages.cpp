@@ -243,7 +243,7 @@ LRESULT OnShowDropDown(HCombCtl* ctl, const MsgArgs& args)
 LRESULT OnGetItemData(HCombCtl* ctl, const MsgArgs& args)
 {
     HListCtl* const record = ctl->pDrop;
-    if (!record) {
+    if (!record || IntArg(args) < 0) {
         return CB_ERR;
     }
     DataList          items = record->items;

@@ -28,12 +28,16 @@ void SetTypeOfLists(HCombCtl* ctl, const char* text)
     HCKeepParts(ctl);
 }
 
-// The text of the field's current item; its length.
+// The text of the field's current item; its length. To a list, item -1 is the last one.
 int FieldText(const HCombCtl* ctl, char* out)
 {
-    const WPARAM  current = static_cast<WPARAM>(ToChild(ctl, HLM_GETCURRENT));
-    const LRESULT length = out ? ToChild(ctl, HLM_GETITEMTEXT, current, reinterpret_cast<LPARAM>(out))
-                               : ToChild(ctl, HLM_GETITEMTEXTLEN, current);
+    const LRESULT current = ToChild(ctl, HLM_GETCURRENT);
+    if (current < 0) {
+        return 0;
+    }
+    const WPARAM  item = static_cast<WPARAM>(current);
+    const LRESULT length = out ? ToChild(ctl, HLM_GETITEMTEXT, item, reinterpret_cast<LPARAM>(out))
+                               : ToChild(ctl, HLM_GETITEMTEXTLEN, item);
     return std::max(static_cast<int>(length), 0);
 }
 

@@ -39,7 +39,7 @@ TEST_F(ComboBox, ItemsAreFilledCountedAndReadBack)
 TEST_F(ComboBox, SelectionIsSetAndShownInTheFace)
 {
     for (const DWORD style : { edits, fields }) {
-        MakeThree(style);
+        MakeThree(style, "%120%ss");
         EXPECT_EQ(-1, Send(CB_GETCURSEL));
         EXPECT_EQ(1, Send(CB_SETCURSEL, 2));
         EXPECT_EQ(2, Send(CB_GETCURSEL));

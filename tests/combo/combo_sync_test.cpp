@@ -137,6 +137,8 @@ TEST_F(ComboSync, NullEditDiffersFromZero)
 {
     Make("%120%ni*0*", edits);
     AddNumbers({ 0 });
+    SendPtr(HEM_SETDATA, 0, nullptr);
+    EXPECT_EQ(-999, EditNumber());
     PickInList(0);
     EXPECT_EQ("0", Text());
     EXPECT_EQ(0, EditNumber());
@@ -190,17 +192,19 @@ TEST_F(ComboSync, EditStaysVisible)
 TEST_F(ComboSync, TypedTextThatMatchesNoItemIsNoItem)
 {
     MakeTexts(edits);
-    Send(CB_SETCURSEL, 0);
     Focus();
     Told();
-    Type("pe");
-    EXPECT_EQ(1, Current());
+    ToFace(WM_CHAR, 'p');
+    EXPECT_EQ(1, Current()) << "the first item that begins so";
+    EXPECT_EQ("p", Text()) << "what is typed stays";
     EXPECT_EQ((Ints{ HCN_EDITUPDATE, HCN_EDITCHANGE, HCN_SELCHANGE }), Told());
-    EXPECT_EQ("pe", Text()) << "what is typed stays";
-    Type("pex");
+    ToFace(WM_CHAR, 'e');
+    EXPECT_EQ(1, Current());
+    EXPECT_EQ((Ints{ HCN_EDITUPDATE, HCN_EDITCHANGE }), Told()) << "the same item";
+    ToFace(WM_CHAR, 'x');
     EXPECT_EQ(-1, Current());
     EXPECT_EQ((Ints{ HCN_EDITUPDATE, HCN_EDITCHANGE, HCN_SELCHANGE }), Told());
-    Type("pexy");
+    ToFace(WM_CHAR, 'y');
     EXPECT_EQ((Ints{ HCN_EDITUPDATE, HCN_EDITCHANGE }), Told()) << "still no item";
 }
 
@@ -208,15 +212,14 @@ TEST_F(ComboSync, EmptyEditIsNoItem)
 {
     MakeTexts(edits);
     Focus();
-    Type("plum");
-    EXPECT_EQ(2, Current());
+    ToFace(WM_CHAR, 'p');
+    EXPECT_EQ(1, Current());
     Told();
-    ToFace(EM_SETSEL, 0, -1);
+    ToFace(EM_SETSEL, 0, 0);
     ToFace(WM_KEYDOWN, VK_DELETE);
     EXPECT_EQ("", Text());
     EXPECT_EQ(-1, Current());
-    const Ints told = Told();
-    EXPECT_EQ(HCN_SELCHANGE, told.back());
+    EXPECT_EQ((Ints{ HCN_EDITUPDATE, HCN_EDITCHANGE, HCN_SELCHANGE }), Told());
 }
 
 TEST_F(ComboSync, TypedNumberSelectsItsItem)

@@ -80,13 +80,14 @@ TEST_F(ComboText, TypeTextGoesToEditAndList)
     EXPECT_EQ(static_cast<DWORD>('l'), Ctl()->chCodeType);
 }
 
-TEST_F(ComboText, EditGetsATypeTextAsItStands)
+TEST_F(ComboText, EditTakesATypeTextWithACode)
 {
     Make();
     SendPtr(WM_SETTEXT, 0, "%ni%nl*0*");
     char format[64] = "";
     ToFace(HEM_GETFORMAT, sizeof format, AsParam(format));
-    EXPECT_STREQ("%nl*0*", format) << "the code isn't taken out as it is at creation";
+    EXPECT_EQ('i', ToFace(HEM_GETTYPE));
+    EXPECT_STREQ("*0*", format);
 }
 
 TEST_F(ComboText, FieldAndListShareItemsAfterATypeText)
