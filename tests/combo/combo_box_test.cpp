@@ -54,7 +54,7 @@ TEST_F(ComboBox, SelectionIsSetAndShownInTheFace)
 TEST_F(ComboBox, TextsAreFoundAndSelected)
 {
     for (const DWORD style : { edits, fields }) {
-        MakeThree(style);
+        MakeThree(style, "%120%ss");
         EXPECT_EQ(1, SendPtr(CB_FINDSTRING, static_cast<WPARAM>(-1), "pe"));
         EXPECT_EQ(-1, SendPtr(CB_FINDSTRING, static_cast<WPARAM>(-1), "x"));
         EXPECT_EQ(2, SendPtr(CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), "PLUM"));

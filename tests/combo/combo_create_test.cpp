@@ -221,7 +221,7 @@ TEST_F(ComboCreate, ScrollBarsAreTheListsAlone)
         EXPECT_FALSE(GetWindowLongA(combo, GWL_STYLE) & (WS_VSCROLL | WS_HSCROLL));
         EXPECT_FALSE(Ctl()->dwStyle & (WS_VSCROLL | WS_HSCROLL));
         EXPECT_FALSE(GetWindowLongA(Face(), GWL_STYLE) & WS_VSCROLL);
-        EXPECT_TRUE(GetWindowLongA(List(), GWL_STYLE) & WS_VSCROLL);
+        EXPECT_TRUE(StyleOf(List()) & WS_VSCROLL);
     }
 }
 
