@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr size_t shortestHead = 3;     // characters of a text that may begin with a size
-constexpr int    longestSize = 0xFFFF; // Bounded: no size is higher.
+constexpr size_t shortestHead = 3;         // characters of a text that may begin with a size
+constexpr int    longestSize = 0x00FFFFFF; // Bounded: no size is higher.
 
 bool IsDigit(char ch)
 {

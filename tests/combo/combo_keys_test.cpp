@@ -328,6 +328,8 @@ TEST_F(ComboKeys, ClickOnAStaticEditOpensTheList)
 TEST_F(ComboKeys, RealKeysOpenMoveAndPick)
 {
     MakeFocused(edits);
+    MoveMouse(parent.hwnd(), 600, 500); // a row under the mouse would be the one that the keys start from
+    Told();
     TypeKey(VK_F4);
     TypeKey(VK_DOWN);
     TypeKey(VK_DOWN);
