@@ -42,14 +42,15 @@ HWND OpenComboElsewhere()
     return nullptr;
 }
 
-bool IsOwnThread(HWND hwnd)
+// Whether the combo may be reached without waiting for another thread.
+bool IsOwn(HWND combo)
 {
-    return GetWindowThreadProcessId(hwnd, nullptr) == GetCurrentThreadId();
+    return combo == hOpenCombo && GetWindowThreadProcessId(combo, nullptr) == GetCurrentThreadId();
 }
 
 void CloseFromHook(HWND combo)
 {
-    HCombCtl* const ctl = IsOwnThread(combo) ? HCFromWindow(combo) : nullptr;
+    HCombCtl* const ctl = IsOwn(combo) ? HCFromWindow(combo) : nullptr;
     if (ctl) {
         HCCloseDrop(ctl);
     } else {

@@ -13,6 +13,11 @@ protected:
         parent.On(BN_CLICKED, [this] { ++clicks; });
         return Create("BUTTON", "neighbour", 0, 55, { 400, 300, 100, 30 });
     }
+    static HWND MakeTopLevel()
+    {
+        return CreateWindowExA(0, "BUTTON", "", WS_POPUP | WS_VISIBLE, 800, 100, 200, 100, nullptr, nullptr,
+                               GetModuleHandleA(nullptr), nullptr);
+    }
 
     int clicks = 0;
 };
@@ -104,8 +109,7 @@ TEST_F(DropInput, PressOnAnotherWindowOnlyCloses)
 TEST_F(DropInput, PressOnAnotherTopLevelWindowOnlyCloses)
 {
     MakeCombo(HCS_EDIT);
-    const HWND window = CreateWindowExA(0, "STATIC", "", WS_POPUP | WS_VISIBLE, 800, 100, 200, 100, nullptr, nullptr,
-                                        GetModuleHandleA(nullptr), nullptr);
+    const HWND window = MakeTopLevel();
     SetForegroundWindow(parent.hwnd());
     SetFocus(combo);
     PumpPending();
@@ -165,8 +169,7 @@ TEST_F(DropInput, ListStandsAboveTheOtherWindows)
 TEST_F(DropInput, ActivatingAnotherWindowCloses)
 {
     MakeCombo(HCS_EDIT);
-    const HWND window = CreateWindowExA(0, "STATIC", "", WS_POPUP | WS_VISIBLE, 800, 100, 200, 100, nullptr, nullptr,
-                                        GetModuleHandleA(nullptr), nullptr);
+    const HWND window = MakeTopLevel();
     SetForegroundWindow(parent.hwnd());
     SetFocus(combo);
     TypeKey(VK_F4);

@@ -104,13 +104,13 @@ HWND ListOf(HWND combo)
 void PressRow(HWND combo, int row)
 {
     const HWND list = ListOf(combo);
-    const auto height = static_cast<int>(SendMessageA(list, HLM_GETITEMHEIGHT, 0, 0));
+    const auto height = static_cast<int>(SendMessageA(list, LB_GETITEMHEIGHT, 0, 0));
     SendMessageA(list, WM_LBUTTONDOWN, 0, MAKELPARAM(5, row * height + 2));
 }
 void LiftOver(HWND combo, int row)
 {
     const HWND list = ListOf(combo);
-    const auto height = static_cast<int>(SendMessageA(list, HLM_GETITEMHEIGHT, 0, 0));
+    const auto height = static_cast<int>(SendMessageA(list, LB_GETITEMHEIGHT, 0, 0));
     SendMessageA(list, WM_LBUTTONUP, 0, MAKELPARAM(5, row * height + 2));
 }
 void PressOutside(HWND combo)
@@ -194,21 +194,23 @@ TEST_F(DropLife, AThousandOpensAndClosesLeaveNothing)
     const int    objects = LiveGdiObjects();
     int          opened = 0;
     int          wentInside = 0;
+    int          left = -1; // notifications until it goes; below 0 it doesn't go in one
+    HWND         frame = nullptr;
+    for (const int code : { HCN_SELCHANGE, HCN_SETFOCUS, HCN_KILLFOCUS, HCN_DROPDOWN, HCN_CLOSEUP, HCN_SELENDOK }) {
+        parent.On(code, [&, code] {
+            opened += code == HCN_DROPDOWN;
+            if (left-- == 0) {
+                ++wentInside;
+                DestroyWindow(upTo(2) ? combo : frame);
+            }
+        });
+    }
     for (int round = 0; round < 1000; ++round) {
         SCOPED_TRACE(round);
-        const HWND frame = MakeFrame();
+        frame = MakeFrame();
         MakeCombo(upTo(2) ? HCS_EDIT : 0u);
         SetParent(combo, frame);
-        int left = static_cast<int>(upTo(8)) - 2; // notifications until it goes
-        for (const int code : { HCN_SELCHANGE, HCN_SETFOCUS, HCN_KILLFOCUS, HCN_DROPDOWN, HCN_CLOSEUP, HCN_SELENDOK }) {
-            parent.On(code, [&] {
-                opened += code == HCN_DROPDOWN;
-                if (left-- == 0) {
-                    ++wentInside;
-                    DestroyWindow(upTo(2) ? combo : frame);
-                }
-            });
-        }
+        left = static_cast<int>(upTo(8)) - 2;
         SendMessageA(combo, CB_SHOWDROPDOWN, TRUE, 0);
         for (size_t acts = upTo(12); acts > 0 && IsWindow(combo); --acts) {
             steps[upTo(std::size(steps))].act(combo);
@@ -220,6 +222,7 @@ TEST_F(DropLife, AThousandOpensAndClosesLeaveNothing)
         if (IsWindow(frame)) {
             DestroyWindow(frame);
         }
+        left = -1;
         ExpectNothingLeft();
         EXPECT_EQ(objects, LiveGdiObjects());
         if (HasFailure()) {

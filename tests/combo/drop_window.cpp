@@ -52,6 +52,8 @@ HWND DropWindow::MakeCombo(DWORD style, const char* text, RECT rect)
     for (const char* const item : { "one", "two", "three", "four", "five" }) {
         HCAddItemEx(combo, item, nullptr);
     }
+    // A list that opens beneath the pointer has a marked row.
+    MoveMouse(parent.hwnd(), 700, 500);
     SetFocus(combo);
     PumpPending();
     seen.Clear();

@@ -46,6 +46,8 @@ protected:
         code_ = kind.code;
         MakeGrid(GridOf({ field, Text() }), 4);
         AddItems({ "red", "green", "blue" });
+        // A list that opens beneath the pointer has a marked row.
+        MoveMouse(parent.hwnd(), 700, 500);
         SetFocus(grid);
         Forget();
     }
