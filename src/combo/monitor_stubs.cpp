@@ -7,9 +7,9 @@ namespace {
 
 MonitorStubs gStubs;
 
-constexpr DWORD    anyMonitorFlags = MONITOR_DEFAULTTOPRIMARY | MONITOR_DEFAULTTONEAREST;
-constexpr char     onlyDevice[] = "DISPLAY";
-constexpr DWORD    leastDeviceSize = 424;
+constexpr DWORD     anyMonitorFlags = MONITOR_DEFAULTTOPRIMARY | MONITOR_DEFAULTTONEAREST;
+constexpr char      onlyDevice[] = "DISPLAY";
+constexpr DWORD     leastDeviceSize = 424;
 constexpr ULONG_PTR onlyMonitorValue = 0x12340042;
 
 HMONITOR OnlyMonitor()
@@ -134,8 +134,8 @@ HMONITOR MonitorOfRect(const RECT* rect, DWORD flags)
         return gStubs.monitorFromRect(rect, flags);
     }
     const RECT screen = ScreenRect();
-    const bool isOn = (flags & anyMonitorFlags) || (rect->right > 0 && rect->bottom > 0 && rect->left < screen.right &&
-                                                    rect->top < screen.bottom);
+    const bool isOn = (flags & anyMonitorFlags) ||
+                      (rect->right > 0 && rect->bottom > 0 && rect->left < screen.right && rect->top < screen.bottom);
     return isOn ? OnlyMonitor() : nullptr;
 }
 

@@ -26,7 +26,7 @@ protected:
         return std::find(told.begin(), told.end(), code) != told.end();
     }
     LRESULT ListMouse(UINT message, int row) { return Send(drop, message, 0, MAKELPARAM(5, MiddleOf(row))); }
-    HWND MakeFrame()
+    HWND    MakeFrame()
     {
         return CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 0, 200, 300, 200, parent.hwnd(), nullptr,
                                GetModuleHandleA(nullptr), nullptr);
@@ -151,8 +151,8 @@ const Step steps[] = {
 // Notification by notification of the whole way: the combo goes in the first one, in the second one, and so on.
 TEST_F(DropLife, ComboMayGoInEachNotification)
 {
-    constexpr int codes[] = { HCN_SELCHANGE, HCN_SETFOCUS, HCN_KILLFOCUS, HCN_EDITCHANGE, HCN_EDITUPDATE,
-                              HCN_DROPDOWN,  HCN_CLOSEUP,  HCN_SELENDOK };
+    constexpr int codes[] = { HCN_SELCHANGE,  HCN_SETFOCUS, HCN_KILLFOCUS, HCN_EDITCHANGE,
+                              HCN_EDITUPDATE, HCN_DROPDOWN, HCN_CLOSEUP,   HCN_SELENDOK };
     for (const DWORD style : faces) {
         bool went = true;
         for (int n = 1; went; ++n) {

@@ -181,15 +181,15 @@ TEST_F(Monitors, FallBackTellsWhetherARectangleIsOnTheScreen)
     const LONG width = ScreenWidth();
     const LONG height = ScreenHeight();
     const Row  rows[] = {
-        { { 0, 0, 10, 10 }, true },
-        { { -10, 0, 0, 10 }, false },
-        { { -10, 0, 1, 10 }, true },
-        { { 0, -10, 10, 0 }, false },
-        { { 0, -10, 10, 1 }, true },
-        { { width, 0, width + 10, 10 }, false },
-        { { width - 1, 0, width + 10, 10 }, true },
-        { { 0, height, 10, height + 10 }, false },
-        { { 0, height - 1, 10, height + 10 }, true },
+         { { 0, 0, 10, 10 }, true },
+         { { -10, 0, 0, 10 }, false },
+         { { -10, 0, 1, 10 }, true },
+         { { 0, -10, 10, 0 }, false },
+         { { 0, -10, 10, 1 }, true },
+         { { width, 0, width + 10, 10 }, false },
+         { { width - 1, 0, width + 10, 10 }, true },
+         { { 0, height, 10, height + 10 }, false },
+         { { 0, height - 1, 10, height + 10 }, true },
     };
     BindMonitors(FindNothing);
     for (const Row& row : rows) {
@@ -208,10 +208,9 @@ TEST_F(Monitors, FallBackTellsWhetherAPointIsOnTheScreen)
     };
     const LONG width = ScreenWidth();
     const LONG height = ScreenHeight();
-    const Row  rows[] = {
-        { { 0, 0 }, true },      { { -1, 0 }, false },    { { 0, -1 }, false }, { { width - 1, height - 1 }, true },
-        { { width, 0 }, false }, { { 0, height }, false }
-    };
+    const Row  rows[] = { { { 0, 0 }, true },      { { -1, 0 }, false },
+                          { { 0, -1 }, false },    { { width - 1, height - 1 }, true },
+                          { { width, 0 }, false }, { { 0, height }, false } };
     BindMonitors(FindNothing);
     for (const Row& row : rows) {
         EXPECT_EQ(row.isOn ? onlyMonitor : nullptr, MonitorOfPoint(row.point, 0)) << row.point.x << ", " << row.point.y;

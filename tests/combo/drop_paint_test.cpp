@@ -13,7 +13,10 @@ constexpr COLORREF ink = RGB(0, 100, 0);
 
 class DropPaint : public DropWindow {
 protected:
-    DropPaint() : canvas(130, 40), brush(CreateSolidBrush(RGB(250, 240, 200))) { grid.nMinRowHeight = grid.nRowHeight = 20; }
+    DropPaint() : canvas(130, 40), brush(CreateSolidBrush(RGB(250, 240, 200)))
+    {
+        grid.nMinRowHeight = grid.nRowHeight = 20;
+    }
     ~DropPaint() override { DeleteObject(brush); }
 
     // With the items red 3, green 1 and blue 2.
@@ -36,7 +39,8 @@ protected:
     }
     Pixels Draw(const void* value, int kind)
     {
-        return Shot([&](RECT* rect) { result = HCDrawValue(Ctl(), canvas.hdc(), rect, brush, value, kind, &grid, ink); });
+        return Shot(
+            [&](RECT* rect) { result = HCDrawValue(Ctl(), canvas.hdc(), rect, brush, value, kind, &grid, ink); });
     }
     Pixels AsEdit(const void* value)
     {

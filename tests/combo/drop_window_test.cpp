@@ -252,9 +252,9 @@ TEST_F(DropLists, WheelGoesToTheFace)
 {
     MakeCombo();
     seen.Skip(WM_MOUSEWHEEL);
-    WPARAM  wheel = 0;
-    static WNDPROC  old;
-    static WPARAM*  noted;
+    WPARAM         wheel = 0;
+    static WNDPROC old;
+    static WPARAM* noted;
     noted = &wheel;
     old = SubclassWW(face, [](HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
         if (message == WM_MOUSEWHEEL) {

@@ -40,9 +40,9 @@ protected:
     // a text.
     void MakeColumn(const Kind& kind, DWORD ctlStyle = 0)
     {
-        HGField* const field = kind.code
-            ? HGFieldCreate("Colour", HFF_CODE, 80, 60, 's', 's', 'n', 'l', 16, kind.kind, ctlStyle, "", 0)
-            : HGFieldCreate("Colour", 0, 80, 60, 's', 's', 0, 0, 16, kind.kind, ctlStyle, "", 0);
+        HGField* const field =
+            kind.code ? HGFieldCreate("Colour", HFF_CODE, 80, 60, 's', 's', 'n', 'l', 16, kind.kind, ctlStyle, "", 0)
+                      : HGFieldCreate("Colour", 0, 80, 60, 's', 's', 0, 0, 16, kind.kind, ctlStyle, "", 0);
         code_ = kind.code;
         MakeGrid(GridOf({ field, Text() }), 4);
         AddItems({ "red", "green", "blue" });
@@ -65,13 +65,13 @@ protected:
     {
         HGSetCellData(grid, 0, row, code_ ? static_cast<const void*>(&code) : name);
     }
-    LONG      Stored(int row) { return LoadAs<LONG>(HGCellPtr(ctl->pData, 0, row)); }
-    HCombCtl* Combo() { return RecordOf<HCombCtl>(ChildOf(0)); }
-    HWND      Drop() { return Combo()->hDrop; }
-    HWND      Face() { return Combo()->hChild; }
-    bool      IsOpen() { return Send(ChildOf(0), CB_GETDROPPEDSTATE) != 0; }
+    LONG        Stored(int row) { return LoadAs<LONG>(HGCellPtr(ctl->pData, 0, row)); }
+    HCombCtl*   Combo() { return RecordOf<HCombCtl>(ChildOf(0)); }
+    HWND        Drop() { return Combo()->hDrop; }
+    HWND        Face() { return Combo()->hChild; }
+    bool        IsOpen() { return Send(ChildOf(0), CB_GETDROPPEDSTATE) != 0; }
     std::string Shown() { return TextOf(ChildOf(0)); }
-    void ClickRow(int row)
+    void        ClickRow(int row)
     {
         RECT rect = {};
         SendPtr(Drop(), HLM_GETITEMRECT, static_cast<WPARAM>(row), &rect);
@@ -146,8 +146,8 @@ TEST_F(GridComboCells, CellIsPaintedAsItsComboWouldShowIt)
         const auto painted = [&] {
             HGInvalidateCell(ctl, 0, 3);
             const Pixels shot = ShotOf(grid);
-            return shot.InkBounds(shot.At(cell.right - 3, cell.top + 2), { cell.left + 2, cell.top + 2, cell.right - 2,
-                                                                           cell.bottom - 2 });
+            return shot.InkBounds(shot.At(cell.right - 3, cell.top + 2),
+                                  { cell.left + 2, cell.top + 2, cell.right - 2, cell.bottom - 2 });
         };
         MoveTo(1, 0);
         const RECT blank = painted();

@@ -17,7 +17,8 @@ public:
         std::string       command = "\"" + own.substr(0, own.find_last_of("\\/") + 1) + "other_host.exe\"";
         STARTUPINFOA      startup = {};
         startup.cb = sizeof startup;
-        if (CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started_)) {
+        if (CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                           &started_)) {
             CloseHandle(started_.hThread);
             DemoProcess::WaitFor([this] { return Find(); });
         }
