@@ -85,8 +85,8 @@ HWND MakeList(const HCombCtl* ctl, const CreationText& text)
     style = (style & ~WS_VISIBLE) | HLS_HOTTRACK;
     style |= text.HoldsCodes() ? HLS_CODECURRENT : 0;
     style |= HasStyle(ctl, HCS_3DBORDER) ? 0 : WS_BORDER;
-    const HWND list = MakePart("HDrop", text.Rest(), style, WS_EX_TOPMOST | WS_EX_TOOLWINDOW, GetDesktopWindow(),
-                               comboListId, size);
+    const HWND list =
+        MakePart("HDrop", text.Rest(), style, WS_EX_TOPMOST | WS_EX_TOOLWINDOW, GetDesktopWindow(), comboListId, size);
     SendMessageA(list, WWM_SETPARENT, reinterpret_cast<WPARAM>(ctl->hWnd), 0);
     return list;
 }

@@ -56,7 +56,7 @@ int  HCShareList(HCombCtl* ctl, DataList* list);
 // Button geometry in client coordinates, for buttons that exist.
 RECT HCDropButtonRect(const HCombCtl* ctl);
 RECT HCXButtonRect(const HCombCtl* ctl);
-bool HCIsStacked(const HCombCtl* ctl); // one button above the other
+bool HCIsStacked(const HCombCtl* ctl);  // one button above the other
 void HCRedrawDropButton(HCombCtl* ctl); // as its flags say
 void HCRedrawXButton(HCombCtl* ctl);
 

@@ -98,9 +98,15 @@ struct KeyEntry {
 };
 
 constexpr KeyEntry keyTable[] = {
-    { VK_F4, OnF4 },       { VK_F5, OnF5 },      { VK_TAB, OnTab },
-    { VK_RETURN, OnEnterOrEscape }, { VK_ESCAPE, OnEnterOrEscape },
-    { VK_PRIOR, OnRowKey }, { VK_NEXT, OnRowKey }, { VK_UP, OnRowKey },  { VK_DOWN, OnRowKey },
+    { VK_F4, OnF4 },
+    { VK_F5, OnF5 },
+    { VK_TAB, OnTab },
+    { VK_RETURN, OnEnterOrEscape },
+    { VK_ESCAPE, OnEnterOrEscape },
+    { VK_PRIOR, OnRowKey },
+    { VK_NEXT, OnRowKey },
+    { VK_UP, OnRowKey },
+    { VK_DOWN, OnRowKey },
 };
 
 // A list that lies open shows by its colours where the focus is.
@@ -193,14 +199,9 @@ LRESULT CALLBACK HCFilter(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
         pass();
         SendMessageA(combo, HCM_CHILDBLUR, 0, 0);
         return 0;
-    case WM_GETDLGCODE:
-        return SendMessageA(combo, message, wParam, lParam);
-    case WM_KEYDOWN:
-        return SendMessageA(combo, message, wParam, lParam) ? 1 : pass();
-    case WM_SYSKEYDOWN:
-        SendMessageA(combo, HCM_SYSKEY, wParam, lParam);
-        return pass();
-    default:
-        return pass();
+    case WM_GETDLGCODE: return SendMessageA(combo, message, wParam, lParam);
+    case WM_KEYDOWN: return SendMessageA(combo, message, wParam, lParam) ? 1 : pass();
+    case WM_SYSKEYDOWN: SendMessageA(combo, HCM_SYSKEY, wParam, lParam); return pass();
+    default: return pass();
     }
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr UINT firstOfList = 1174;  // numbers below go on to the face
+constexpr UINT firstOfList = 1174; // numbers below go on to the face
 constexpr UINT notForwarded = 1325;
 constexpr UINT getItemHeight = 417; // LB_GETITEMHEIGHT
 
@@ -239,7 +239,8 @@ LRESULT OnShowDropDown(HCombCtl* ctl, const MsgArgs& args)
     return 1;
 }
 
-// Bounded: of a code that is longer than its item data the first bytes are read, of a text that ends in between as well.
+// Bounded: of a code that is longer than its item data the first bytes are read, of a text that ends in between as
+// well.
 LRESULT OnGetItemData(HCombCtl* ctl, const MsgArgs& args)
 {
     HListCtl* const record = ctl->pDrop;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int  colorOfEdit = 1; // kinds of FireCtlColorMsg
 constexpr int  colorOfStatic = 6;
-constexpr int  borderPart = 8; // of the host's painter
+constexpr int  borderPart = 8;   // of the host's painter
 constexpr UINT comboControl = 3; // ODT_COMBOBOX
 
 // Settled: without its parts the window lives on as one that does nothing.
@@ -148,6 +148,14 @@ LRESULT OnFromEdit(HCombCtl* ctl, int code)
     return 0;
 }
 
+LRESULT OnFromField(HCombCtl* ctl, int code)
+{
+    if (code == HLN_SELCHANGE) {
+        HCSync(ctl, true, true);
+    }
+    return 0;
+}
+
 LRESULT OnFromList(HCombCtl* ctl, int code)
 {
     if (code == HLN_SELCHANGE) {
@@ -162,14 +170,10 @@ LRESULT OnCommand(HCombCtl* ctl, const MsgArgs& args)
 {
     const int code = HIWORD(args.wParam);
     switch (LOWORD(args.wParam)) {
-    case comboEditId:
-        return OnFromEdit(ctl, code);
-    case comboFieldId:
-        return code == HLN_SELCHANGE ? (HCSync(ctl, true, true), 0) : 0;
-    case comboListId:
-        return OnFromList(ctl, code);
-    default:
-        return 0;
+    case comboEditId: return OnFromEdit(ctl, code);
+    case comboFieldId: return OnFromField(ctl, code);
+    case comboListId: return OnFromList(ctl, code);
+    default: return 0;
     }
 }
 
@@ -199,41 +203,41 @@ LRESULT OnEditSelection(HCombCtl* ctl, const MsgArgs& args)
 LRESULT OnWindowMessage(HCombCtl* ctl, const MsgArgs& args)
 {
     switch (args.message) {
-    case WM_SIZE:          return OnSize(ctl);
-    case WM_SETTEXT:       return HCOnSetText(ctl, args);
-    case WM_GETTEXT:       return HCOnGetText(ctl, args);
+    case WM_SIZE: return OnSize(ctl);
+    case WM_SETTEXT: return HCOnSetText(ctl, args);
+    case WM_GETTEXT: return HCOnGetText(ctl, args);
     case WM_GETTEXTLENGTH: return HCOnGetTextLength(ctl, args);
-    case WM_SETFONT:       return OnSetFont(ctl, args);
-    case WM_ENABLE:        return OnEnable(args);
-    case WM_ERASEBKGND:    return OnErase(ctl, args);
-    case WM_NCPAINT:       return OnNcPaint(args);
+    case WM_SETFONT: return OnSetFont(ctl, args);
+    case WM_ENABLE: return OnEnable(args);
+    case WM_ERASEBKGND: return OnErase(ctl, args);
+    case WM_NCPAINT: return OnNcPaint(args);
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORLISTBOX: return OnPartColor(ctl, args);
     case WM_DRAWITEM:
     case WM_MEASUREITEM:
-    case WM_DELETEITEM:    return OnOwnerItems(ctl, args);
-    case WM_COMMAND:       return OnCommand(ctl, args);
+    case WM_DELETEITEM: return OnOwnerItems(ctl, args);
+    case WM_COMMAND: return OnCommand(ctl, args);
     case EM_GETSEL:
-    case EM_SETSEL:        return OnEditSelection(ctl, args);
-    default:               return AskDefault(args);
+    case EM_SETSEL: return OnEditSelection(ctl, args);
+    default: return AskDefault(args);
     }
 }
 
 LRESULT OnInput(HCombCtl* ctl, const MsgArgs& args)
 {
     switch (args.message) {
-    case WM_SETFOCUS:    return OnSetFocus(ctl);
-    case WM_KEYDOWN:     return HCOnKeyDown(ctl, args);
-    case WM_SYSKEYDOWN:  return HCOnSysKey(ctl, args);
-    case WM_CHAR:        return ToChild(ctl, WM_CHAR, args.wParam, args.lParam);
-    case WM_GETDLGCODE:  return HCOnGetDlgCode(ctl, args);
+    case WM_SETFOCUS: return OnSetFocus(ctl);
+    case WM_KEYDOWN: return HCOnKeyDown(ctl, args);
+    case WM_SYSKEYDOWN: return HCOnSysKey(ctl, args);
+    case WM_CHAR: return ToChild(ctl, WM_CHAR, args.wParam, args.lParam);
+    case WM_GETDLGCODE: return HCOnGetDlgCode(ctl, args);
     case WM_LBUTTONDOWN: return HCOnButtonDown(ctl, args);
-    case WM_LBUTTONUP:   return HCOnButtonUp(ctl, args);
-    case WM_MOUSEMOVE:   return HCOnMouseMove(ctl, args);
-    case WM_MOUSELEAVE:  return HCOnMouseLeave(ctl, args);
-    case WM_MOUSEWHEEL:  return HCOnMouseWheel(ctl, args);
-    case WM_CANCELMODE:  return HCOnCancelMode(ctl, args);
-    default:             return OnWindowMessage(ctl, args);
+    case WM_LBUTTONUP: return HCOnButtonUp(ctl, args);
+    case WM_MOUSEMOVE: return HCOnMouseMove(ctl, args);
+    case WM_MOUSELEAVE: return HCOnMouseLeave(ctl, args);
+    case WM_MOUSEWHEEL: return HCOnMouseWheel(ctl, args);
+    case WM_CANCELMODE: return HCOnCancelMode(ctl, args);
+    default: return OnWindowMessage(ctl, args);
     }
 }
 

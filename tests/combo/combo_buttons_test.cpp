@@ -62,8 +62,10 @@ TEST_F(ComboButtons, AreDrawnAsPushButtonsWithImages)
             const RECT drop = HCDropButtonRect(Ctl());
             const RECT extra = HCXButtonRect(Ctl());
             const int  width = static_cast<int>(drop.right - drop.left);
-            EXPECT_TRUE(SamePixels(ComboButtons::Face(width, 24, pressed, enabled ? 11 : 12), Drawn(false, pressed, drop)));
-            EXPECT_TRUE(SamePixels(ComboButtons::Face(width, 24, pressed, enabled ? 9 : 10), Drawn(true, pressed, extra)));
+            EXPECT_TRUE(
+                SamePixels(ComboButtons::Face(width, 24, pressed, enabled ? 11 : 12), Drawn(false, pressed, drop)));
+            EXPECT_TRUE(
+                SamePixels(ComboButtons::Face(width, 24, pressed, enabled ? 9 : 10), Drawn(true, pressed, extra)));
         }
     }
 }

@@ -8,7 +8,7 @@ namespace {
 
 class ComboCreate : public ComboWindow {
 protected:
-    static DWORD StyleOf(HWND part) { return static_cast<DWORD>(SendMessageA(part, WWM_GETSTYLE, 0, 0)); }
+    static DWORD       StyleOf(HWND part) { return static_cast<DWORD>(SendMessageA(part, WWM_GETSTYLE, 0, 0)); }
     static std::string ClassOf(HWND hwnd)
     {
         char name[32] = "";
@@ -133,7 +133,7 @@ TEST_F(ComboCreate, PercentAtTheHeadHoldsTheCurrentItemByItsCode)
 
 TEST_F(ComboCreate, NumberSignIsOverwrittenInTheCallersText)
 {
-    char text[] = "#120%ss";
+    char          text[] = "#120%ss";
     CREATESTRUCTA create = {};
     create.lpszName = text;
     create.style = static_cast<LONG>(WS_CHILD | HCS_DROPDOWN);
@@ -149,7 +149,7 @@ TEST_F(ComboCreate, NumberSignIsOverwrittenInTheCallersText)
 TEST_F(ComboCreate, NumberSignInAConstantTextStays)
 {
     static const char* const text = "#120%ss"; // in memory that can't be written to
-    CREATESTRUCTA create = {};
+    CREATESTRUCTA            create = {};
     create.lpszName = text;
     create.style = static_cast<LONG>(WS_CHILD | HCS_DROPDOWN);
     create.hwndParent = parent.hwnd();
@@ -263,8 +263,8 @@ TEST_F(ComboCreate, CreationRunsThroughOrEndsCleanlyWhateverAllocationFails)
         const BlockLeakCheck blocks;
         int                  without = 0;
         for (FailEachAllocation each; each.Next();) {
-            const HWND hwnd = CreateWindowExA(0, "HComb", "%120%300%ss%nl", WS_CHILD | static_cast<DWORD>(style), 0, 0, 100,
-                                              100, parent.hwnd(), nullptr, GetModuleHandleA(nullptr), nullptr);
+            const HWND hwnd = CreateWindowExA(0, "HComb", "%120%300%ss%nl", WS_CHILD | static_cast<DWORD>(style), 0, 0,
+                                              100, 100, parent.hwnd(), nullptr, GetModuleHandleA(nullptr), nullptr);
             EXPECT_NE(nullptr, hwnd) << "a combo without parts is a window that does nothing";
             without += RecordOf<HCombCtl>(hwnd) == nullptr;
             EXPECT_EQ(0, SendMessageA(hwnd, RecordOf<HCombCtl>(hwnd) ? CB_GETEXTENDEDUI : CB_GETCOUNT, 0, 0));

@@ -30,7 +30,7 @@ protected:
         DWORD                 style;
         std::function<void()> act;
     };
-    void Key2(WPARAM vk) const { SendMessageA(face, WM_KEYDOWN, vk, 0); }
+    void    Key2(WPARAM vk) const { SendMessageA(face, WM_KEYDOWN, vk, 0); }
     LRESULT ToCombo(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
     {
         return SendMessageA(combo, message, wParam, lParam);
@@ -226,8 +226,8 @@ TEST_F(ComboEnd, WithTheParent)
 {
     for (const DWORD style : { edits, fields, static_cast<DWORD>(HCS_EDIT), static_cast<DWORD>(0) }) {
         const BlockLeakCheck blocks;
-        const HWND           holder = CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, parent.hwnd(),
-                                                      nullptr, GetModuleHandleA(nullptr), nullptr);
+        const HWND holder = CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, parent.hwnd(),
+                                            nullptr, GetModuleHandleA(nullptr), nullptr);
         combo = CreateWindowExA(0, "HComb", "%120%ss", WS_CHILD | WS_VISIBLE | style, 10, 10, 160, 100, holder, nullptr,
                                 GetModuleHandleA(nullptr), nullptr);
         Add({ "apple" });

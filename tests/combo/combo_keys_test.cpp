@@ -146,7 +146,7 @@ TEST_F(ComboKeys, F5PressesTheExtraButton)
 TEST_F(ComboKeys, TabMovesOnInTheDialog)
 {
     MakeFocused(edits);
-    int  moves = 0;
+    int moves = 0;
     parent.OnMessage(WM_NEXTDLGCTL, [&](WPARAM back, LPARAM) {
         EXPECT_EQ(0u, back);
         ++moves;
@@ -305,8 +305,12 @@ struct CodeCase {
 TEST_F(ComboKeys, DialogCodeDependsOnFaceListAndStyle)
 {
     constexpr CodeCase cases[] = {
-        { fields, false, 129 },           { edits, false, 137 },          { fields | HCS_WANTKEYS, false, 4 },
-        { edits | HCS_WANTKEYS, false, 12 }, { fields, true, 4 },         { edits, true, 12 },
+        { fields, false, 129 },
+        { edits, false, 137 },
+        { fields | HCS_WANTKEYS, false, 4 },
+        { edits | HCS_WANTKEYS, false, 12 },
+        { fields, true, 4 },
+        { edits, true, 12 },
     };
     for (const CodeCase& line : cases) {
         MakeFocused(line.style);
@@ -349,8 +353,8 @@ TEST_F(ComboKeys, RealTypingMirrorsToTheList)
 TEST_F(ComboKeys, FaceWithoutItsComboDoesNothing)
 {
     MakeFocused(edits);
-    const HWND other = CreateWindowExA(0, "HEdit", "%ss", WS_CHILD, 0, 0, 10, 10, combo, nullptr,
-                                       GetModuleHandleA(nullptr), nullptr);
+    const HWND other =
+        CreateWindowExA(0, "HEdit", "%ss", WS_CHILD, 0, 0, 10, 10, combo, nullptr, GetModuleHandleA(nullptr), nullptr);
     EXPECT_EQ(3, HCFilter(other, WM_GETTEXTLENGTH, 0, 0)) << "the default's answer, not the edit's";
     DestroyWindow(other);
 }

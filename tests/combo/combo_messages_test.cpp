@@ -38,8 +38,8 @@ LRESULT CALLBACK CountingProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPa
 TEST_F(ComboMessages, NumbersFrom1174OnGoToTheList)
 {
     MakeThree(edits);
-    gListProc = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrA(List(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountingProc)));
+    gListProc =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrA(List(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountingProc)));
     for (const UINT message : { 1174u, 1186u, 1187u, 1190u, 1203u, 1236u, 1239u, 1246u, 1261u, 1268u, 1296u, 1301u,
                                 1304u, 1324u, 1326u, 2000u, 0x8000u }) {
         gAwaited = message;
@@ -69,8 +69,8 @@ TEST_F(ComboMessages, NumbersBelow1174GoToTheFaceItself)
     EXPECT_EQ(0, Send(HEM_GETPASSWORDCHAR)) << "a field doesn't know it";
     EXPECT_EQ('s', Send(HLM_GETDATATYPE));
     // Past a procedure that a host puts in front of the face.
-    gListProc = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrA(Face(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountingProc)));
+    gListProc =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrA(Face(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountingProc)));
     gAwaited = HLM_GETDATATYPE;
     gArrived.clear();
     EXPECT_EQ('s', Send(HLM_GETDATATYPE));
@@ -168,8 +168,8 @@ TEST_F(ComboMessages, ModeOfASelectionIsAlwaysSet)
     HCAddItemEx(combo, "apple", &codes[1]);
     EXPECT_EQ(1, SendPtr(HLM_SELECTDATA, HLSEL_TOGGLE, "pear"));
     EXPECT_EQ("pear", Text());
-    gListProc = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrA(List(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountingProc)));
+    gListProc =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrA(List(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountingProc)));
     for (const UINT message : { static_cast<UINT>(HLM_SELECTDATA), static_cast<UINT>(HLM_SELECTCODE) }) {
         gAwaited = message;
         gArrived.clear();

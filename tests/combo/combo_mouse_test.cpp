@@ -24,7 +24,7 @@ protected:
     void   Down(LPARAM at) const { Send(WM_LBUTTONDOWN, MK_LBUTTON, at); }
     void   Move(LPARAM at) const { Send(WM_MOUSEMOVE, 0, at); }
     void   Up(LPARAM at) const { Send(WM_LBUTTONUP, 0, at); }
-    int    Flags() const { return Ctl()->wFlags & (HCF_BTNDOWN | HCF_BTNHOT | HCF_CAPTURE | HCF_XBTNDOWN | HCF_XBTNHOT); }
+    int Flags() const { return Ctl()->wFlags & (HCF_BTNDOWN | HCF_BTNHOT | HCF_CAPTURE | HCF_XBTNDOWN | HCF_XBTNHOT); }
 
     static constexpr LPARAM outside = 0x00050005;
 };

@@ -40,9 +40,10 @@ TEST_F(ComboSync, MessagesThatMoveTheListShowInTheFace)
     const int    code = 3;
     int          link = 3;
     const Select ways[] = {
-        { HLM_SETCURRENT, 2, nullptr },        { HLM_SELECTTEXT, 0, "plum" }, { HLM_SELECTDATA, HLSEL_CLEAR, "plum" },
-        { HLM_SELECTDATA, HLSEL_SET, "plum" }, { HLM_SELECTCODE, HLSEL_TOGGLE, &code },
-        { HLM_SELECTCODE, HLSEL_CLEAR, &code }, { HLM_SETCODELINK, 1, &link },
+        { HLM_SETCURRENT, 2, nullptr },          { HLM_SELECTTEXT, 0, "plum" },
+        { HLM_SELECTDATA, HLSEL_CLEAR, "plum" }, { HLM_SELECTDATA, HLSEL_SET, "plum" },
+        { HLM_SELECTCODE, HLSEL_TOGGLE, &code }, { HLM_SELECTCODE, HLSEL_CLEAR, &code },
+        { HLM_SETCODELINK, 1, &link },
     };
     for (const DWORD style : { edits, fields }) {
         for (const Select& way : ways) {

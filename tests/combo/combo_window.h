@@ -41,7 +41,7 @@ protected:
     void        ListTells(int code) const; // as if the list had notified
     void        Focus() const { SetFocus(combo); }
     void        Blur() const { SetFocus(parent.hwnd()); }
-    Ints        Told(); // the notifications since the last call
+    Ints        Told();              // the notifications since the last call
     void        DestroyIn(int code); // the parent destroys the combo while it hears of this
 
     HWND combo = nullptr;
