@@ -2037,6 +2037,143 @@ LRESULT CALLBACK HListWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 /** Message handler of the list, for windows that inherit its behaviour. */
 LRESULT CALLBACK HListMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record);
 
+/*
+ * Combo control
+ *
+ * The class "HComb": a face, which is a typed edit or a list of one row, and a list that drops below it or lies there.
+ * The window text is "%", the height of the list in pixels at 96 dpi, optionally "%" and its least width, then the type
+ * text of the list; "#" in place of the first "%" keeps HLS_CODECURRENT from the list. Without a height there is no
+ * list. Style bits that are not named here are given to the lists. The messages of combo boxes (CB_) and those of edit
+ * and list controls are answered too.
+ */
+
+/** The list drops; otherwise it lies below the face. Style bit. */
+#define HCS_DROPDOWN 0x0001
+/** The face is an edit; otherwise a field list. Style bit. */
+#define HCS_EDIT 0x0008
+/** Face and list draw sunken borders of their own. Style bit. */
+#define HCS_3DBORDER 0x0010
+/** A brush of its own while focused. Style bit. */
+#define HCS_FOCUSBRUSH 0x0020
+/** An item's text has columns, separated by tabs: the edit shows the first one. Style bit. */
+#define HCS_TABS 0x0080
+/** The edit is read-only. Style bit. */
+#define HCS_READONLY 0x0200
+/** The edit is static: it can't be selected, a click drops the list. Style bit. */
+#define HCS_STATIC 0x0400
+/** Return, Esc and Tab are notified. Style bit. */
+#define HCS_WANTKEYS 0x1000
+/** No drop button, and F4 doesn't open; the extra button stands in its place. Style bit. */
+#define HCS_NOBUTTON 0x2000
+/** An extra button at the right edge, beside the drop button. Style bit. */
+#define HCS_XBUTTON 0x4000
+/** An extra button below the drop button, each of half the height. Style bit. */
+#define HCS_STACKED 0x8000
+
+/** The list follows the face. Option. */
+#define HCO_CHILDTOLIST 1
+/** The face follows the list. Option. */
+#define HCO_LISTTOCHILD 2
+
+/*
+ * Messages of the combo. Those of the edit control and of the list control go on to face and list: numbers below 1174 to
+ * the face, the others to the list; without a list they give 0.
+ */
+
+/** The face got the focus. Gives 1. A name of WWM_CHILDFOCUS. */
+#define HCM_CHILDFOCUS 1145
+/** The face lost the focus. Gives 1. A name of WWM_CHILDBLUR. */
+#define HCM_CHILDBLUR 1146
+/** wParam: key that the face got with Alt. Up and down toggle the list. Gives 1 then, else 0. */
+#define HCM_SYSKEY 1275
+/** Gives the height of the list in pixels, at 96 dpi when it drops. */
+#define HCM_GETDROPHEIGHT 1297
+/**
+ * wParam: 0 takes the list away, 1 brings it back, each giving the width of HCM_GETDROPWIDTH; else the height of the
+ * list in pixels, which gives 1.
+ */
+#define HCM_SETDROP 1298
+/** Gives the least width of the dropped list in pixels at 96 dpi. */
+#define HCM_GETDROPWIDTH 1299
+/** wParam: least width of the dropped list in pixels at 96 dpi. Gives 1; 0 without HCS_DROPDOWN. */
+#define HCM_SETDROPWIDTH 1300
+/** lParam: HCSetList's list; null computes the layout anew. */
+#define HCM_SETLIST 1302
+/** wParam: HCO_ bits. Gives 1. */
+#define HCM_SETOPTIONS 1303
+
+/* Notifications of the combo: codes of WM_COMMAND. */
+
+/** The value moved between face and list. */
+#define HCN_SELCHANGE 1
+/** A double click in the list of a combo with an edit. */
+#define HCN_DBLCLK 2
+/** The face has got the focus. */
+#define HCN_SETFOCUS 3
+/** The face has lost the focus. */
+#define HCN_KILLFOCUS 4
+/** The edit's text has changed, before the list follows. */
+#define HCN_EDITCHANGE 5
+/** The edit's text is about to be shown changed. */
+#define HCN_EDITUPDATE 6
+/** The list is about to open. */
+#define HCN_DROPDOWN 7
+/** The list has closed. */
+#define HCN_CLOSEUP 8
+/** The user has accepted a row. */
+#define HCN_SELENDOK 9
+/** The extra button was pressed, or F5. */
+#define HCN_XBUTTON 11
+/** Return while closed, under HCS_WANTKEYS. */
+#define HCN_ENTER 257
+/** Esc while closed, under HCS_WANTKEYS. */
+#define HCN_ESCAPE 258
+/** Tab under HCS_WANTKEYS. */
+#define HCN_TAB 263
+/** Shift+Tab under HCS_WANTKEYS. */
+#define HCN_BACKTAB 264
+
+/* The next functions take a combo's window. They give -1 where it has no list, HCDeleteItems 0. The face follows. */
+
+/** HLAddItemEx on the combo's list. */
+int WINAPI HCAddItemEx(HWND hwnd, const void* data, const void* code);
+/** HCAddItemsEx without codes. */
+int WINAPI HCAddItems(HWND hwnd, int n, const void* items);
+/** HLAddItemsEx on the combo's list. */
+int WINAPI HCAddItemsEx(HWND hwnd, int n, const void* items, const void* codes);
+/** HLDeleteItems on the combo's list. */
+int WINAPI HCDeleteItems(HWND hwnd, int which, int n, const void* list);
+/** HLGetItems on the combo's list. */
+int WINAPI HCGetItems(HWND hwnd, int n, int kind, void* out, int which, const void* list);
+/** HLInsertItemEx on the combo's list. */
+int WINAPI HCInsertItemEx(HWND hwnd, int index, const void* data, const void* code);
+/** HCInsertItemsEx without codes. */
+int WINAPI HCInsertItems(HWND hwnd, int index, int n, const void* items);
+/** HLInsertItemsEx on the combo's list. */
+int WINAPI HCInsertItemsEx(HWND hwnd, int index, int n, const void* items, const void* codes);
+/** HLInsertStringEx on the combo's list. */
+int WINAPI HCInsertStringEx(HWND hwnd, int index, const char* data, const char* code);
+/** Gives the items of the combo's list, for HCSetList of another combo; null without a record or a list. */
+DataList* WINAPI HCGetList(HWND hwnd);
+/** Shows another holder's items, which have to live longer than this combo. Gives 1; 0 without a record or a list. */
+int WINAPI HCSetList(HWND hwnd, DataList* list);
+/**
+ * Reads a height "%" and digits at *text, which moves behind it.
+ *
+ * @return The number; 0 without one, and for texts shorter than three characters, and then *text stays.
+ */
+int WINAPI GetDropHeight(const char** text);
+/** Window procedure that a combo gives its face. */
+LRESULT CALLBACK HCFilter(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+/** Window procedure of the class "HComb". */
+LRESULT CALLBACK HCombWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+/** Message handler of the combo, for use with HandleMsg at offset 0. */
+LRESULT CALLBACK HCombMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record);
+/** Window procedure of the class "HDrop", the list of a combo. Its second extra word holds the face's window. */
+LRESULT CALLBACK HDropWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+/** Mouse hook while a list is dropped: it keeps the mouse from other windows, and a press there closes the list. */
+LRESULT CALLBACK MouseHookProc(int code, WPARAM message, LPARAM hookData);
+
 #ifdef __cplusplus
 }
 #endif

@@ -16,7 +16,7 @@ constexpr int      imageWidth = 13;
 constexpr COLORREF imageMask = 0x0000FF00;
 constexpr DWORD    allCommonControls = 255;
 
-enum class ClassCursor { None, IBeam, Grid };
+enum class ClassCursor { None, IBeam, Arrow, Grid };
 
 struct ControlClass {
     const char* name;
@@ -35,6 +35,7 @@ constexpr ControlClass controlClasses[] = {
     { "HEdit_SS", 0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
     { "HEdit",    0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
     { "HList",    0x400B, HListWnd, 1, ClassCursor::None,  0,          0,                0 },
+    { "HComb",    0x4003, HCombWnd, 2, ClassCursor::Arrow, 0,          COLOR_WINDOW + 1, 0 },
     { "HGrid",    0x4008, HGridWnd, 1, ClassCursor::Grid,  gridIconId, COLOR_WINDOW + 1, 0 },
 };
 // clang-format on
@@ -53,8 +54,22 @@ HCURSOR CursorOf(ClassCursor cursor)
     if (cursor == ClassCursor::IBeam) {
         return hCurIBeam;
     }
+    if (cursor == ClassCursor::Arrow) {
+        return hCurArrow;
+    }
     hCurGrid = LoadCursorA(hInstance, MAKEINTRESOURCEA(gridCursorId));
     return hCurGrid;
+}
+
+// The list of a combo: a list that floats, with one word more for the combo's face.
+void RegisterDrop()
+{
+    WNDCLASSA info = {};
+    if (GetClassInfoA(hInstance, "HList", &info)) {
+        RegisterControl(info.style | CS_SAVEBITS, HDropWnd, info.cbClsExtra,
+                        info.cbWndExtra + static_cast<int>(sizeof(LONG_PTR)), hInstance, info.hIcon, info.hCursor,
+                        info.hbrBackground, info.lpszMenuName, "HDrop");
+    }
 }
 
 void RegisterClasses()
@@ -65,8 +80,12 @@ void RegisterClasses()
             continue;
         }
         const HICON icon = entry.iconId ? LoadIconA(hInstance, MAKEINTRESOURCEA(entry.iconId)) : nullptr;
-        RegisterControl(entry.style, entry.wndProc, 0, entry.extraWords * static_cast<int>(sizeof(LONG_PTR)), hInstance,
-                        icon, CursorOf(entry.cursor), reinterpret_cast<HBRUSH>(entry.background), nullptr, entry.name);
+        const int registered = RegisterControl(
+            entry.style, entry.wndProc, 0, entry.extraWords * static_cast<int>(sizeof(LONG_PTR)), hInstance, icon,
+            CursorOf(entry.cursor), reinterpret_cast<HBRUSH>(entry.background), nullptr, entry.name);
+        if (registered && entry.wndProc == HCombWnd) {
+            RegisterDrop();
+        }
     }
 }
 

@@ -81,8 +81,8 @@ constexpr int kindCount = 6;
 constexpr CellKind kinds[kindCount] = {
     { 'e', "HEdit_SS", EditText,     true,  0x00800000, 0x40000200, HGEditCellProc },
     { 'l', "HList",    ListText,     true,  0x00800020, 0x40000011, HGListCellProc },
-    { 'c', "HComb",    ComboText,    true,  0x00800020, 0x40000019, nullptr },
-    { 'd', "HComb",    ComboText,    true,  0x00800020, 0x40000011, nullptr },
+    { 'c', "HComb",    ComboText,    true,  0x00800020, 0x40000019, HGComboCellProc },
+    { 'd', "HComb",    ComboText,    true,  0x00800020, 0x40000011, HGFieldComboCellProc },
     { 'k', "HButt",    CheckText,    false, 0,          0x40001C02, nullptr },
     { 'q', "HEdit_SS", BareEditText, true,  0x00800000, 0x40000200, nullptr },
 };

@@ -14,3 +14,5 @@ constexpr int firstCellId = 200;
 
 LRESULT CALLBACK HGEditCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK HGListCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CALLBACK HGComboCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);      // with an edit
+LRESULT CALLBACK HGFieldComboCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam); // with a list face

@@ -91,6 +91,36 @@ LRESULT CellProc(WNDPROC own, int code, HWND hwnd, UINT message, WPARAM wParam, 
     return own(hwnd, message, wParam, lParam);
 }
 
+// A combo hears of its face's focus and of its own keys before the grid does: Return and Esc close an open list.
+LRESULT ComboCellProc(int code, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const bool isState = message == WWM_GETSTATE || message == WWM_SETSTATE;
+    const auto* const record = reinterpret_cast<const ControlHeader*>(HCombWnd(hwnd, WWM_GETSTATE, 0, 0));
+    if (!record && !isState) {
+        return DefWindowProcA(hwnd, message, wParam, lParam);
+    }
+    switch (message) {
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+        return HCombWnd(hwnd, message, wParam, lParam);
+    case WM_KEYDOWN:
+        if ((wParam == VK_RETURN || wParam == VK_ESCAPE) && HCombWnd(hwnd, message, wParam, lParam)) {
+            return 1;
+        }
+        break;
+    case WWM_CHILDFOCUS:
+    case WWM_CHILDBLUR: {
+        const HWND grid = record->hParent;
+        HCombWnd(hwnd, message, wParam, lParam);
+        SendMessageA(grid, message, wParam, lParam);
+        return 0;
+    }
+    default:
+        break;
+    }
+    return CellProc(HCombWnd, code, hwnd, message, wParam, lParam);
+}
+
 } // namespace
 
 bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
@@ -138,4 +168,14 @@ LRESULT CALLBACK HGEditCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
 LRESULT CALLBACK HGListCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     return CellProc(HListWnd, cellCodeList, hwnd, message, wParam, lParam);
+}
+
+LRESULT CALLBACK HGComboCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ComboCellProc(cellCodeCombo, hwnd, message, wParam, lParam);
+}
+
+LRESULT CALLBACK HGFieldComboCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ComboCellProc(cellCodeList, hwnd, message, wParam, lParam);
 }

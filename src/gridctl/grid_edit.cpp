@@ -55,10 +55,12 @@ HGField* EditedField(HGridCtl* ctl)
 }
 
 // A combo with an edit face shows the text of its code's item, as far as its first tab.
-LRESULT LoadCodeText(HWND editor, const void* code)
+// Bounded: data that isn't text has bytes of any value, so it is neither cut nor emptied by a text that is too short.
+LRESULT LoadCodeText(HWND editor, const HGField* field, const void* code)
 {
+    const bool    isText = field->cType == 's';
     const LRESULT index = SendMessageA(editor, HLM_FINDCODE, 0, reinterpret_cast<LPARAM>(code));
-    SendMessageA(editor, HEM_SETDATA, 0, reinterpret_cast<LPARAM>(""));
+    SendMessageA(editor, HEM_SETDATA, 0, reinterpret_cast<LPARAM>(isText ? "" : nullptr));
     if (static_cast<int>(index) == -1) {
         return 0;
     }
@@ -66,8 +68,10 @@ LRESULT LoadCodeText(HWND editor, const void* code)
     if (!HGFetchItem(editor, index, item)) {
         return 0;
     }
-    item[itemBufferSize - 1] = 0;
-    item[std::strcspn(item, "\t")] = 0;
+    if (isText) {
+        item[itemBufferSize - 1] = 0;
+        item[std::strcspn(item, "\t")] = 0;
+    }
     return SendMessageA(editor, HEM_SETDATA, 0, reinterpret_cast<LPARAM>(item));
 }
 
@@ -184,7 +188,7 @@ int HGLoadEditor(HGridCtl* ctl)
     const void* const value = IsCellNull(ctl, cell.col, cell.row) ? nullptr : bytes;
     const bool code = (field->wFlags & HFF_CODE) != 0;
     if (code && field->cKind == 'c') {
-        return static_cast<int>(LoadCodeText(ctl->hEditor, value));
+        return static_cast<int>(LoadCodeText(ctl->hEditor, field, value));
     }
     const UINT message = code && messages->writeCode ? messages->writeCode : messages->write;
     return static_cast<int>(

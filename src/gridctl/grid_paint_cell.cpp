@@ -1,6 +1,7 @@
 // One data cell: its colours from the cell's flags and the grid's styles, and the painter of its column's control.
 #include "gridctl/grid_paint.h"
 
+#include "combo/combo_control.h"
 #include "edit/edit_control.h"
 #include "foundation/startup.h"
 #include "list/list_control.h"
@@ -110,13 +111,27 @@ bool PaintAsEdit(CellPaint& cell)
     return true;
 }
 
-bool PaintAsList(CellPaint& cell)
+// As the painters of lists and combos take it: whether the value is data or a code.
+int ValueKind(const CellPaint& cell)
 {
     constexpr int asData = 1;
     constexpr int asCode = 2;
+    return cell.field->wFlags & HFF_CODE ? asCode : asData;
+}
+
+bool PaintAsList(CellPaint& cell)
+{
     const HWND hwnd = cell.ctl->hWnd;
     HLDrawValue(reinterpret_cast<HListCtl*>(cell.field->pCtl), cell.hdc, &cell.rect, cell.brush, cell.value,
-                cell.field->wFlags & HFF_CODE ? asCode : asData, cell.color);
+                ValueKind(cell), cell.color);
+    return IsWindow(hwnd) != FALSE;
+}
+
+bool PaintAsCombo(CellPaint& cell)
+{
+    const HWND hwnd = cell.ctl->hWnd;
+    HCDrawValue(reinterpret_cast<HCombCtl*>(cell.field->pCtl), cell.hdc, &cell.rect, cell.brush, cell.value,
+                ValueKind(cell), cell.ctl->pData, cell.color);
     return IsWindow(hwnd) != FALSE;
 }
 
@@ -144,6 +159,8 @@ struct KindPainter {
 };
 
 constexpr KindPainter kindPainters[] = {
+    { 'c', PaintAsCombo },
+    { 'd', PaintAsCombo },
     { 'e', PaintAsEdit },
     { 'l', PaintAsList },
     { 'q', PaintByHost },

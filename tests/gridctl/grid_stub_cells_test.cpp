@@ -1,9 +1,7 @@
-// How a grid loads and reads the cell controls of the kinds c, d and k: by stand-ins that record what they are sent.
+// How a grid loads and reads the cell controls of kind k: by stand-ins that record what they are sent.
 #include "gridctl/grid_editing.h"
 #include "griddata/child_messages.h"
 
-#include <cstring>
-#include <string>
 #include <vector>
 
 namespace {
@@ -21,34 +19,19 @@ void PrintTo(const Sent& sent, std::ostream* out)
     *out << sent.message << " wParam " << sent.wParam << " value " << sent.value;
 }
 
-// A stand-in: a window that knows its record, whether it was changed, its value and its text, and items "one\tI" to
-// "three\tIII" with the codes 1 to 3.
+// A stand-in: a window that knows its record, whether it was changed, and its value.
 struct Stub {
     ControlHeader header = {};
     bool          changed = false;
     LONG          value = 0;
-    std::string   text;
 };
 
 std::vector<Sent> gSent;
-
-LRESULT CopyItem(WPARAM index, char* out)
-{
-    constexpr const char* items[] = { "one\tI", "two\tII", "three\tIII" };
-    std::strcpy(out, items[index]);
-    return static_cast<LRESULT>(std::strlen(out));
-}
 
 LRESULT GiveValue(const Stub* stub, LPARAM lParam)
 {
     StoreAs<LONG>(reinterpret_cast<void*>(lParam), stub->value);
     return stub->value ? 4 : 0;
-}
-
-LRESULT FindCode(LPARAM lParam)
-{
-    const LONG code = lParam ? LoadAs<LONG>(reinterpret_cast<void*>(lParam)) : 0;
-    return code >= 1 && code <= 3 ? code - 1 : -1;
 }
 
 void Note(UINT message, WPARAM wParam, LPARAM lParam, bool reads)
@@ -71,24 +54,13 @@ LRESULT CALLBACK StubProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
     case WWM_GETSTATE: return reinterpret_cast<LRESULT>(&stub->header);
     case WWM_GETCHANGED: return stub->changed;
     case WWM_SETCHANGED: stub->changed = wParam != 0; return 1;
-    case HEM_SETDATA:
-        stub->text = lParam ? reinterpret_cast<const char*>(lParam) : "null";
-        gSent.push_back({ message, wParam, 0 });
-        return 1;
-    case HLM_SELECTDATA:
-    case HLM_SELECTCODE:
     case HBM_SETVALUE: Note(message, wParam, lParam, false); return 1;
-    case HEM_GETDATA:
-    case HLM_GETCURDATA:
-    case HLM_GETCURCODE:
     case HBM_GETVALUE: Note(message, wParam, lParam, true); return GiveValue(stub, lParam);
-    case HLM_FINDCODE: Note(message, wParam, lParam, false); return FindCode(lParam);
-    case HLM_GETDATA: return CopyItem(wParam, reinterpret_cast<char*>(lParam));
     default: return DefWindowProcA(hwnd, message, wParam, lParam);
     }
 }
 
-constexpr const char* stubClasses[] = { "HComb", "HButt" };
+constexpr const char* stubClasses[] = { "HButt" };
 
 class GridStubCells : public GridEditing {
 protected:
@@ -111,11 +83,10 @@ protected:
             UnregisterClassA(name, GetModuleHandleA(nullptr));
         }
     }
-    // Three rows of one column that stores a number: the value, or under HFF_CODE its code. Row 1 holds 2.
-    void MakeColumn(char kind, bool code)
+    // Three rows of one column that stores a number. Row 1 holds 2.
+    void MakeColumn(char kind)
     {
-        HGField* const field = code ? HGFieldCreate("F", HFF_CODE, 80, 60, 's', 's', 'n', 'l', 16, kind, 0, "", 0)
-                                    : HGFieldCreate("F", 0, 80, 60, 'n', 'l', 0, 0, 0, kind, 0, "", 0);
+        HGField* const field = HGFieldCreate("F", 0, 80, 60, 'n', 'l', 0, 0, 0, kind, 0, "", 0);
         MakeGrid(GridOf({ field }), 3);
         HGSetCellData(grid, 0, 1, &two);
         HGSetNodeFlags(HGRowNode(ctl->pData, 1), 0);
@@ -132,7 +103,6 @@ protected:
         ctl->wFlags |= HGC_INEDIT;
         gSent.clear();
     }
-    std::string EditorText() { return reinterpret_cast<Stub*>(GetWindowLongPtrA(Editor(), GWLP_USERDATA))->text; }
     LONG Value(int row) { return LoadAs<LONG>(HGCellPtr(ctl->pData, 0, row)); }
 
     static constexpr LONG two = 2;
@@ -140,26 +110,21 @@ protected:
 
 struct KindRow {
     char   kind;
-    bool   code;
-    Sent   load; // of row 1; for kind c with codes the first message
+    Sent   load; // of row 1
     Sent   read;
 };
 
 // clang-format off
 constexpr KindRow kinds[] = {
-    { 'd', false, { HLM_SELECTDATA, 1, 2 }, { HLM_GETCURDATA, 4, 0 } },
-    { 'd', true,  { HLM_SELECTCODE, 1, 2 }, { HLM_GETCURCODE, 4, 0 } },
-    { 'c', false, { HEM_SETDATA,    0, 0 }, { HEM_GETDATA,    4, 0 } },
-    { 'c', true,  { HLM_FINDCODE,   0, 2 }, { HLM_GETCURCODE, 4, 0 } },
-    { 'k', false, { HBM_SETVALUE,   0, 2 }, { HBM_GETVALUE,   0, 0 } },
+    { 'k', { HBM_SETVALUE, 0, 2 }, { HBM_GETVALUE, 0, 0 } },
 };
 // clang-format on
 
 TEST_F(GridStubCells, EachKindIsLoadedAndReadByItsMessages)
 {
     for (const KindRow& row : kinds) {
-        SCOPED_TRACE(std::string(1, row.kind) + (row.code ? " with codes" : ""));
-        MakeColumn(row.kind, row.code);
+        SCOPED_TRACE(row.kind);
+        MakeColumn(row.kind);
         MoveTo(0, 1);
         ASSERT_FALSE(gSent.empty());
         EXPECT_EQ(row.load, gSent.front());
@@ -176,8 +141,8 @@ TEST_F(GridStubCells, EachKindIsLoadedAndReadByItsMessages)
 TEST_F(GridStubCells, ControlWithoutAValueMakesTheCellNull)
 {
     for (const KindRow& row : kinds) {
-        SCOPED_TRACE(std::string(1, row.kind) + (row.code ? " with codes" : ""));
-        MakeColumn(row.kind, row.code);
+        SCOPED_TRACE(row.kind);
+        MakeColumn(row.kind);
         MoveTo(0, 1);
         Enter(0);
         MoveTo(0, 2);
@@ -190,8 +155,8 @@ TEST_F(GridStubCells, ControlWithoutAValueMakesTheCellNull)
 TEST_F(GridStubCells, UnchangedControlIsNotRead)
 {
     for (const KindRow& row : kinds) {
-        SCOPED_TRACE(std::string(1, row.kind) + (row.code ? " with codes" : ""));
-        MakeColumn(row.kind, row.code);
+        SCOPED_TRACE(row.kind);
+        MakeColumn(row.kind);
         MoveTo(0, 1);
         ctl->wFlags |= HGC_INEDIT;
         gSent.clear();
@@ -203,18 +168,6 @@ TEST_F(GridStubCells, UnchangedControlIsNotRead)
         EXPECT_EQ(0, RowFlags(1) & HGR_DIRTY);
         DestroyWindow(grid);
     }
-}
-
-TEST_F(GridStubCells, ComboWithCodesShowsItsItemAsFarAsTheFirstTab)
-{
-    MakeColumn('c', true);
-    MoveTo(0, 1);
-    EXPECT_EQ("two", EditorText());
-    // A code that no item has shows nothing.
-    constexpr LONG unknown = 9;
-    HGSetCellData(grid, 0, 2, &unknown);
-    MoveTo(0, 2);
-    EXPECT_EQ("", EditorText());
 }
 
 } // namespace

@@ -78,6 +78,11 @@ constexpr Named editMessages[] = {
     N(HEM_GETTEXTPTR), N(HEM_GETFORMATPTR),
 };
 
+constexpr Named comboMessages[] = {
+    N(HCM_CHILDFOCUS), N(HCM_CHILDBLUR), N(HCM_SYSKEY), N(HCM_GETDROPHEIGHT), N(HCM_SETDROP), N(HCM_GETDROPWIDTH),
+    N(HCM_SETDROPWIDTH), N(HCM_SETLIST), N(HCM_SETOPTIONS), N(CB_SHOWDROPDOWN), N(CB_SETCURSEL), N(CB_GETCURSEL),
+};
+
 constexpr Named gridNotifications[] = {
     N(HGN_SETFOCUS), N(HGN_KILLFOCUS), N(HGN_MOVED), N(HGN_DBLCLK), N(HGN_DESTROY), N(HGN_RBUTTONDOWN),
     N(HGN_ABOVETOP), N(HGN_BELOWEND), N(HGN_NEWROW), N(HGN_ROWCHANGED), N(HGN_CELLCHANGED), N(HGN_ROWDELETING),
@@ -90,6 +95,12 @@ constexpr Named editNotifications[] = {
     N(HEN_SETFOCUS), N(HEN_RETURN), N(HEN_ESCAPE), N(HEN_TAB), N(HEN_BACKTAB), N(HEN_DBLCLK), N(HEN_HELP),
     N(HEN_KILLFOCUS), N(HEN_CHANGE), N(HEN_UPDATE), N(HEN_MAXTEXT), N(HEN_HSCROLL), N(HEN_BADINPUT), N(HEN_BELOWMIN),
     N(HEN_ABOVEMAX),
+};
+
+constexpr Named comboNotifications[] = {
+    N(HCN_SELCHANGE), N(HCN_DBLCLK), N(HCN_SETFOCUS), N(HCN_KILLFOCUS), N(HCN_EDITCHANGE), N(HCN_EDITUPDATE),
+    N(HCN_DROPDOWN), N(HCN_CLOSEUP), N(HCN_SELENDOK), N(HCN_XBUTTON), N(HCN_ENTER), N(HCN_ESCAPE), N(HCN_TAB),
+    N(HCN_BACKTAB),
 };
 
 // clang-format on
@@ -108,6 +119,11 @@ const char* Find(std::span<const Named> list, UINT number)
 bool IsEdit(const char* className)
 {
     return className && std::strncmp(className, "HEdit", 5) == 0;
+}
+
+bool IsCombo(const char* className)
+{
+    return className && std::strcmp(className, "HComb") == 0;
 }
 
 std::string NameOr(const char* name, const char* format, UINT number)
@@ -129,12 +145,17 @@ std::string MessageName(UINT message, const char* className)
         name = Find(commonMessages, message);
     }
     if (!name) {
-        name = IsEdit(className) ? Find(editMessages, message) : Find(gridMessages, message);
+        name = IsEdit(className)    ? Find(editMessages, message)
+               : IsCombo(className) ? Find(comboMessages, message)
+                                    : Find(gridMessages, message);
     }
     return NameOr(name, "0x%04X", message);
 }
 
 std::string NotificationName(UINT code, const char* className)
 {
-    return NameOr(IsEdit(className) ? Find(editNotifications, code) : Find(gridNotifications, code), "code %u", code);
+    const char* const name = IsEdit(className)    ? Find(editNotifications, code)
+                             : IsCombo(className) ? Find(comboNotifications, code)
+                                                  : Find(gridNotifications, code);
+    return NameOr(name, "code %u", code);
 }

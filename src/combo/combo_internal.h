@@ -1,0 +1,93 @@
+// What the sources of the combo share: questions about its record, and its messages.
+#pragma once
+
+#include "combo/combo_control.h"
+#include "dialog/message_table.h"
+
+// A bit of wFlags beside the ones that grids know.
+constexpr WORD HCF_ENDING = 0x0010; // the window is being destroyed
+
+inline bool HasStyle(const HCombCtl* ctl, DWORD bits)
+{
+    return (ctl->dwStyle & bits) != 0;
+}
+inline bool HasFlag(const HCombCtl* ctl, WORD bits)
+{
+    return (ctl->wFlags & bits) != 0;
+}
+inline void SetFlag(HCombCtl* ctl, WORD bits, bool on)
+{
+    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
+}
+inline LRESULT ToChild(const HCombCtl* ctl, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+{
+    return SendMessageA(ctl->hChild, message, wParam, lParam);
+}
+// 0 without a list.
+inline LRESULT ToList(const HCombCtl* ctl, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+{
+    return ctl->hDrop ? SendMessageA(ctl->hDrop, message, wParam, lParam) : 0;
+}
+
+// Whether the face is an edit; otherwise it is a field list.
+inline bool HasEdit(const HCombCtl* ctl)
+{
+    return HasStyle(ctl, HCS_EDIT);
+}
+inline bool HasDropdown(const HCombCtl* ctl)
+{
+    return HasStyle(ctl, HCS_DROPDOWN);
+}
+
+// The record of a window, or null.
+HCombCtl* HCFromWindow(HWND hwnd);
+// Notifies the parent. false: it has destroyed the combo, and the record with it.
+bool HCTell(HCombCtl* ctl, int code);
+
+// Life
+void HCInstall(HCombCtl* ctl);    // joins the parts of a combo that HCCreate has made
+void HCEnd(HCombCtl* ctl);        // closes and destroys the list; the face goes with the window
+void HCKeepParts(HCombCtl* ctl);  // takes down records and code type after parts or types have changed
+void HCParkList(HCombCtl* ctl);   // takes the list away
+void HCUnparkList(HCombCtl* ctl); // and brings it back
+void HCShareField(HCombCtl* ctl); // the lists show the field's items, after its words have changed
+int  HCShareList(HCombCtl* ctl, DataList* list);
+
+// Button geometry in client coordinates, for buttons that exist.
+RECT HCDropButtonRect(const HCombCtl* ctl);
+RECT HCXButtonRect(const HCombCtl* ctl);
+bool HCIsStacked(const HCombCtl* ctl);  // one button above the other
+void HCRedrawDropButton(HCombCtl* ctl); // as its flags say
+void HCRedrawXButton(HCombCtl* ctl);
+
+// The one open list and the hook that watches for a press elsewhere.
+extern HWND  hOpenCombo; // null when none is open
+extern HWND  hOpenDrop;
+extern HWND  hOpenChild;
+extern HHOOK hMouseHook;
+
+void HCTakeMouse();           // from all windows but the open combo's
+void HCGiveMouseBack();       // no combo is open any more
+HWND HCFaceOfDrop(HWND drop); // null for a list of the class that no combo has made
+
+// Reads a number behind a head of "%" at *text and moves behind it. 0 without one.
+int HCReadSize(const char** text);
+
+// Messages
+using ComboHandler = LRESULT (*)(HCombCtl* ctl, const MsgArgs& args);
+ComboHandler FindComboHandler(UINT message);    // of the combo's own numbers from 1024 on, those for parts too
+ComboHandler FindComboBoxHandler(UINT message); // of the platform's combo box
+LRESULT      HCOnKeyDown(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnSysKey(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnChildFocus(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnChildBlur(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnGetDlgCode(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnButtonDown(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnMouseMove(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnMouseLeave(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnButtonUp(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnCancelMode(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnMouseWheel(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnSetText(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnGetText(HCombCtl* ctl, const MsgArgs& args);
+LRESULT      HCOnGetTextLength(HCombCtl* ctl, const MsgArgs& args);
