@@ -1,6 +1,8 @@
 // Makes the child window of a column: one hidden control of the library, shared by all rows, described by a type text.
 #include "gridctl/cell_controls.h"
 
+#include "griddata/grid_services.h"
+
 #include <cstdio>
 #include <cstring>
 
@@ -118,7 +120,28 @@ void LimitText(const HGField* field, HWND child)
     SendMessageA(child, EM_LIMITTEXT, static_cast<WPARAM>(limit), 0);
 }
 
+// The items of a list or a combo; null for another class.
+DataList* ItemsOf(HWND child)
+{
+    char name[8] = {};
+    GetClassNameA(child, name, sizeof name);
+    if (std::strcmp(name, "HList") == 0) {
+        return HLGetList(child);
+    }
+    return std::strcmp(name, "HComb") == 0 ? HCGetList(child) : nullptr;
+}
+
 } // namespace
+
+int HGItemSize(HWND child, int index)
+{
+    DataList* const list = ItemsOf(child);
+    DataList        items = {};
+    if (list) {
+        std::memcpy(&items, list, sizeof items); // it stands in a packed record
+    }
+    return HDLGetDataSize(&items, index);
+}
 
 int HGCellCtlIndex(char kind)
 {

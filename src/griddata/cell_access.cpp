@@ -202,8 +202,8 @@ bool TranslateToCode(const HGField* field, char* block)
 
 LRESULT HGFetchItem(HWND child, LRESULT index, char* out)
 {
-    const WPARAM  item = static_cast<WPARAM>(index);
-    const LRESULT size = SendMessageA(child, HLM_GETDATASIZE, item, 0);
+    const WPARAM item = static_cast<WPARAM>(index);
+    const int    size = HGItemSize(child, static_cast<int>(index));
     if (size >= itemBufferSize) {
         CopyLongItem(child, item, static_cast<size_t>(size), out);
         return 1;

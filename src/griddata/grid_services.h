@@ -8,4 +8,5 @@ int  HGLoadEditor(HGridCtl* ctl);                       // shows the current cel
 void HGRedrawSelection(HGridCtl* ctl);                  // invalidates the selected range
 void HGInvalidateCell(HGridCtl* ctl, int col, int row); // -1 names a header
 void HGInvalidateRange(HGridCtl* ctl, int col1, int row1, int col2, int row2);
+int  HGItemSize(HWND child, int index);                 // bytes of an item's data, of a text its length; 0 if unknown
 int  HGAddRow(HGridCtl* ctl, const void* data, bool markNew); // row index + 1; below 1 on failure
