@@ -57,6 +57,11 @@ bool CopyRange(HEditCtl* ctl, TextRange range)
     return given;
 }
 
+void DeleteCut(HEditCtl* ctl, const char*)
+{
+    DeleteSelection(ctl, HasStyle(ctl, HES_CLEARALL));
+}
+
 // A copy of the clipboard's text, since its own is gone once the clipboard is closed.
 char* TextOfClipboard(HWND hwnd)
 {
@@ -84,7 +89,8 @@ LRESULT CutSelection(HEditCtl* ctl)
     if (!CopyRange(ctl, SelectionOf(ctl))) {
         return Refuse();
     }
-    DeleteSelection(ctl, HasStyle(ctl, HES_CLEARALL));
+    const EntryScope entry(ctl, DeleteCut, nullptr);
+    DeleteCut(ctl, nullptr);
     return 1;
 }
 

@@ -55,15 +55,23 @@ int ParseText(HEditCtl* ctl, const char* text)
     return ParseData(ctl->pData, ctl->cClass, ctl->cType, FormatOf(ctl), text, ctl->pfnValidate != nullptr);
 }
 
+// Asks the parent about the value that is being committed. Gone, too, if another one was put in its place meanwhile: this
+// commit ends there, or its outcome would be the other one's.
+Told AskAbout(HEditCtl* ctl, int code)
+{
+    const Told told = Tell(ctl, code);
+    return told != Told::Gone && !HasFlag(ctl, HEF_DIRTY) ? Told::Gone : told;
+}
+
 // Whether the bound applies, is passed, and the parent doesn't mind that the value moves to it.
 Told AskToMove(HEditCtl* ctl, double value, int code)
 {
     const bool above = code == HEN_ABOVEMAX;
     const bool passed = above ? (ctl->wBounds & 2) && value > ctl->dMax : (ctl->wBounds & 1) && value < ctl->dMin;
-    return passed ? Tell(ctl, code) : Told::Vetoed;
+    return passed ? AskAbout(ctl, code) : Told::Vetoed;
 }
 
-// A number is held to both bounds in turn, the upper one first. false: the window went.
+// A number is held to both bounds in turn, the upper one first. false: the commit ends here.
 bool HoldNumber(HEditCtl* ctl, double value)
 {
     Told told = AskToMove(ctl, value, HEN_ABOVEMAX);
@@ -83,7 +91,7 @@ bool HoldNumber(HEditCtl* ctl, double value)
 }
 
 // A date is held to one bound only. Settled: with or without bounds it comes back from the double, which has a whole
-// date, so a part of one is filled up: a day without a year is a day of 1992. false: the window went.
+// date, so a part of one is filled up: a day without a year is a day of 1992. false: the commit ends here.
 bool HoldDate(HEditCtl* ctl, double value)
 {
     Told   told = AskToMove(ctl, value, HEN_ABOVEMAX);
@@ -112,7 +120,7 @@ bool HoldBounds(HEditCtl* ctl)
     return IsDateClass(ctl->cClass) ? HoldDate(ctl, value) : HoldNumber(ctl, value);
 }
 
-// The host's validation, or else the parser's own word. false: the window went.
+// The host's validation, or else the parser's own word. false: the commit ends here.
 bool Judge(HEditCtl* ctl, Verdict* verdict)
 {
     const HWND hwnd = ctl->hWnd;
@@ -122,13 +130,13 @@ bool Judge(HEditCtl* ctl, Verdict* verdict)
             SetFocus(hwnd);
         }
     }
-    if (!IsWindow(hwnd)) {
+    if (!IsWindow(hwnd) || !HasFlag(ctl, HEF_DIRTY)) {
         return false;
     }
     if (!verdict->status) {
         return true;
     }
-    const Told told = Tell(ctl, HEN_BADINPUT);
+    const Told told = AskAbout(ctl, HEN_BADINPUT);
     if (told == Told::Vetoed) {
         *verdict = { 0, true };
     }
@@ -159,7 +167,7 @@ void Settle(HEditCtl* ctl, const Verdict& verdict, const OldValue& old)
 }
 
 // Reads the text into the value and holds it to its bounds. A date that was emptied has neither text nor bounds: it
-// stays null with zeros for a value. false: the window went.
+// stays null with zeros for a value. false: the commit ends here.
 bool TakeText(HEditCtl* ctl, const char* text, Verdict* verdict)
 {
     if (!*text && IsNullDate(ctl) && ctl->pData) {
@@ -195,15 +203,19 @@ int CommitText(HEditCtl* ctl, const char* text)
     if (!HasFlag(ctl, HEF_DIRTY) || HasFlag(ctl, HEF_COMMITTING)) {
         return 0;
     }
+    const HWND hwnd = ctl->hWnd;
     const OldValue old(ctl);
     const bool isEmpty = !*text;
     const bool showedDisplay = HasFlag(ctl, HEF_DISPLAY);
     Verdict verdict = {};
     SetFlag(ctl, HEF_COMMITTING, true);
-    if (!TakeText(ctl, text, &verdict) || !Judge(ctl, &verdict)) {
+    const bool goesOn = TakeText(ctl, text, &verdict) && Judge(ctl, &verdict);
+    if (IsWindow(hwnd)) {
+        SetFlag(ctl, HEF_COMMITTING, false);
+    }
+    if (!goesOn) {
         return verdict.status;
     }
-    SetFlag(ctl, HEF_COMMITTING, false);
     Settle(ctl, verdict, old);
     if (ctl->pLinked && ctl->pData) {
         CopyValue(ctl, ctl->pLinked, ctl->pData);
@@ -232,6 +244,9 @@ bool CommitIfFocused(HEditCtl* ctl)
 void OnSetFocus(HEditCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
+    if (!CommitIfFocused(ctl)) {
+        return; // a focus that comes back before the field has heard of its leaving finds what was typed
+    }
     SetFlag(ctl, HEF_FOCUS, true);
     RefreshText(ctl, true);
     if (!HasStyle(ctl, HES_STATIC)) {
@@ -250,6 +265,10 @@ void OnSetFocus(HEditCtl* ctl)
 void OnKillFocus(HEditCtl* ctl, HWND gaining)
 {
     const HWND hwnd = ctl->hWnd;
+    FinishEntry(ctl);
+    if (!IsWindow(hwnd)) {
+        return;
+    }
     SetFlag(ctl, HEF_FOCUS, false);
     CommitText(ctl, FieldText(ctl));
     if (!IsWindow(hwnd)) {

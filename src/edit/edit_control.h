@@ -70,6 +70,7 @@ int HEDrawValue(HEditCtl* ctl, HDC hdc, RECT* rect, HBRUSH brush, const void* da
                 COLORREF color);
 
 // Value and text
+void FinishEntry(HEditCtl* ctl); // before the value is read: an entry in the middle of which the focus went
 void RefreshText(HEditCtl* ctl, bool editForm);
 int  CommitText(HEditCtl* ctl, const char* text); // 0 on success
 void DeleteChar(HEditCtl* ctl, bool stepForward);

@@ -14,11 +14,18 @@ void PlaceAt(HEditCtl* ctl, int index)
     SetSelection(ctl, 0, index, index);
 }
 
-// false: the window went.
-bool TellChanged(HEditCtl* ctl)
+void TellChanged(HEditCtl* ctl)
 {
     SetFlag(ctl, HEF_DIRTY, true);
-    return Tell(ctl, HEN_CHANGE) != Told::Gone;
+    Tell(ctl, HEN_CHANGE);
+}
+
+// An entry that is finished meanwhile lets the window repaint again.
+void HoldRedraw(HEditCtl* ctl, bool off)
+{
+    if (EntryScope* const entry = EntryOf(ctl)) {
+        entry->redrawOff = off;
+    }
 }
 
 void EmptyText(HEditCtl* ctl)
@@ -27,26 +34,26 @@ void EmptyText(HEditCtl* ctl)
     SetFlag(ctl, CF_NULL, true);
 }
 
-// false: the window went.
+// false: the entry ends here.
 bool DeleteEach(HEditCtl* ctl, int count)
 {
     const HWND hwnd = ctl->hWnd;
     for (int i = 0; i < count; ++i) {
         DeleteChar(ctl, true);
-        if (!IsWindow(hwnd)) {
+        if (!IsEntering(ctl, hwnd)) {
             return false;
         }
     }
     return true;
 }
 
-// Empties the selection, all at once or by the rule of the class. false: the window went.
+// Empties the selection, all at once or by the rule of the class. false: the entry ends here.
 bool EmptySelection(HEditCtl* ctl, TextRange selection, bool clearAll)
 {
     const HWND hwnd = ctl->hWnd;
     const bool all = selection.lo == 0 && selection.hi == TextLength(ctl);
     PlaceAt(ctl, selection.lo);
-    if (!IsWindow(hwnd)) {
+    if (!IsEntering(ctl, hwnd)) {
         return false;
     }
     if (clearAll && all) {
@@ -57,7 +64,7 @@ bool EmptySelection(HEditCtl* ctl, TextRange selection, bool clearAll)
     if (ctl->cClass != 'z') {
         PlaceAt(ctl, selection.lo);
     }
-    return IsWindow(hwnd);
+    return IsEntering(ctl, hwnd);
 }
 
 } // namespace
@@ -75,16 +82,19 @@ UpdatingScope::~UpdatingScope()
 }
 
 // Switching repainting on makes a window visible, so a hidden one, or one that doesn't repaint already, is left alone.
-RedrawScope::RedrawScope(HWND window) : hwnd(window), off((GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE) != 0)
+RedrawScope::RedrawScope(HEditCtl* field)
+    : ctl(field), hwnd(field->hWnd), off((GetWindowLongA(hwnd, GWL_STYLE) & WS_VISIBLE) != 0)
 {
     if (off) {
+        HoldRedraw(ctl, true);
         SendMessageA(hwnd, WM_SETREDRAW, FALSE, 0);
     }
 }
 
 RedrawScope::~RedrawScope()
 {
-    if (off && IsWindow(hwnd)) {
+    if (off && IsEntering(ctl, hwnd)) {
+        HoldRedraw(ctl, false);
         SendMessageA(hwnd, WM_SETREDRAW, TRUE, 0);
     }
 }
@@ -114,14 +124,14 @@ void DeleteChar(HEditCtl* ctl, bool stepForward)
     }
     const HWND hwnd = ctl->hWnd;
     const int  step = DataCharDelete(ctl->cClass, ctl->cType, ctl->pszText, FormatOf(ctl), selection.lo);
-    if (Tell(ctl, HEN_UPDATE) == Told::Gone) {
+    if (!TellEntry(ctl, HEN_UPDATE)) {
         return;
     }
     const int anchor = std::min(static_cast<int>(ctl->nAnchor), TextLength(ctl));
     UpdateScrollRange(ctl);
     InvalidateTyped(ctl, anchor, 1);
     PlaceAt(ctl, anchor + (stepForward ? step : 0));
-    if (IsWindow(hwnd)) {
+    if (IsEntering(ctl, hwnd)) {
         TellChanged(ctl);
     }
 }
@@ -134,14 +144,14 @@ void DeleteSelection(HEditCtl* ctl, bool clearAll)
     }
     const HWND hwnd = ctl->hWnd;
     {
-        const RedrawScope noRedraw(hwnd);
+        const RedrawScope noRedraw(ctl);
         {
             const UpdatingScope updating(hwnd);
             if (!EmptySelection(ctl, selection, clearAll)) {
                 return;
             }
         }
-        if (Tell(ctl, HEN_UPDATE) == Told::Gone) {
+        if (!TellEntry(ctl, HEN_UPDATE)) {
             return;
         }
     }

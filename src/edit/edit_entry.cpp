@@ -52,7 +52,7 @@ char InCase(const HEditCtl* ctl, char ch)
     return HasStyle(ctl, HES_LOWERCASE) ? static_cast<char>(std::tolower(code)) : ch;
 }
 
-// The selection makes place for the character. false: the window went.
+// The selection makes place for the character. false: the entry ends here.
 bool DropSelection(HEditCtl* ctl)
 {
     const TextRange selection = SelectionOf(ctl);
@@ -65,7 +65,7 @@ bool DropSelection(HEditCtl* ctl)
         const UpdatingScope updating(hwnd);
         DeleteSelection(ctl, false);
     }
-    return IsWindow(hwnd);
+    return IsEntering(ctl, hwnd);
 }
 
 void DeleteBackwards(HEditCtl* ctl)
@@ -76,7 +76,7 @@ void DeleteBackwards(HEditCtl* ctl)
         return;
     }
     SetSelection(ctl, 0, caret - 1, caret - 1);
-    if (IsWindow(hwnd)) {
+    if (IsEntering(ctl, hwnd)) {
         DeleteChar(ctl, ctl->cClass == 'z');
     }
 }
@@ -189,7 +189,7 @@ void ShowEntered(HEditCtl* ctl, const Entered& entered)
 void Accept(HEditCtl* ctl, const Entered& entered)
 {
     const HWND hwnd = ctl->hWnd;
-    if (Tell(ctl, HEN_UPDATE) == Told::Gone || !ctl->pszText) {
+    if (!TellEntry(ctl, HEN_UPDATE) || !ctl->pszText) {
         return;
     }
     if (ctl->cClass == 'b') {
@@ -197,7 +197,7 @@ void Accept(HEditCtl* ctl, const Entered& entered)
     } else {
         ShowEntered(ctl, entered);
     }
-    if (IsWindow(hwnd)) {
+    if (IsEntering(ctl, hwnd)) {
         SetFlag(ctl, HEF_DIRTY, true);
         Tell(ctl, HEN_CHANGE);
     }
@@ -216,7 +216,7 @@ void EnterAndShow(HEditCtl* ctl, char ch)
     const HWND    hwnd = ctl->hWnd;
     const int     length = TextLength(ctl);
     const Entered entered = Enter(ctl, ch);
-    if (!IsWindow(hwnd)) {
+    if (!IsEntering(ctl, hwnd)) {
         return;
     }
     if (entered.stamped || (entered.refused && TextLength(ctl) != length)) {
@@ -276,6 +276,45 @@ bool PutCharacter(HEditCtl* ctl, char ch, int caret, bool over)
     return false;
 }
 
+// Characters that no field takes are dropped before the selection makes place for them: Ctrl+Z brings one along.
+bool IsTaken(HEditCtl* ctl, char ch)
+{
+    return !TakesNothing(ctl, ch) && !IsDropped(ch);
+}
+
+// All that a typed character does.
+void EnterChar(HEditCtl* ctl, const char* entered)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (DropSelection(ctl)) {
+        const char typed = InCase(ctl, *entered);
+        if (typed == backspace) {
+            DeleteBackwards(ctl);
+        } else {
+            EnterAndShow(ctl, typed);
+        }
+    }
+    if (IsWindow(hwnd)) {
+        SetFlag(ctl, HEF_REPLACING, false);
+    }
+}
+
+// All that a pasted text does.
+void EnterText(HEditCtl* ctl, const char* text)
+{
+    const HWND hwnd = ctl->hWnd;
+    DeleteSelection(ctl, false);
+    if (!IsEntering(ctl, hwnd)) {
+        return;
+    }
+    const RedrawScope noRedraw(ctl);
+    for (const char* ch = text; *ch && IsEntering(ctl, hwnd); ++ch) {
+        if (IsTaken(ctl, *ch)) {
+            EnterChar(ctl, ch);
+        }
+    }
+}
+
 } // namespace
 
 int PlainCharInsert(HEditCtl* ctl, char ch, int* outAdvance, int* outRepaint)
@@ -296,24 +335,11 @@ int PlainCharInsert(HEditCtl* ctl, char ch, int* outAdvance, int* outRepaint)
     return 0;
 }
 
-// Characters that no field takes are dropped before the selection makes place for them: Ctrl+Z brings one along.
 void CharInput(HEditCtl* ctl, char ch)
 {
-    if (TakesNothing(ctl, ch) || IsDropped(ch)) {
-        return;
-    }
-    const HWND hwnd = ctl->hWnd;
-    if (!DropSelection(ctl)) {
-        return;
-    }
-    const char typed = InCase(ctl, ch);
-    if (typed == backspace) {
-        DeleteBackwards(ctl);
-    } else {
-        EnterAndShow(ctl, typed);
-    }
-    if (IsWindow(hwnd)) {
-        SetFlag(ctl, HEF_REPLACING, false);
+    if (IsTaken(ctl, ch)) {
+        const EntryScope entry(ctl, EnterChar, &ch);
+        EnterChar(ctl, &ch);
     }
 }
 
@@ -325,12 +351,9 @@ void ReplaceSelection(HEditCtl* ctl, const char* text)
         return;
     }
     const HWND hwnd = ctl->hWnd;
-    DeleteSelection(ctl, false);
-    if (IsWindow(hwnd)) {
-        const RedrawScope noRedraw(hwnd);
-        for (const char* ch = copy; *ch && IsWindow(hwnd); ++ch) {
-            CharInput(ctl, *ch);
-        }
+    {
+        const EntryScope entry(ctl, EnterText, copy);
+        EnterText(ctl, copy);
     }
     HBlockFree(copy);
     if (IsWindow(hwnd)) {

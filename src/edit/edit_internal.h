@@ -63,16 +63,76 @@ inline TextRange SelectionOf(const HEditCtl* ctl)
     return OrderedRange(ctl->nAnchor, ctl->nCaret, TextLength(ctl));
 }
 
+// A typed character, a deletion, a cut or a paste under way. Its steps tell of themselves one by one. Who takes the focus
+// between two of them finds it finished: what is committed then is never half of it.
+struct EntryScope {
+    using Step = void (*)(HEditCtl* ctl, const char* entered);
+    enum State {
+        Open,      // can be finished
+        Overtaken, // the host has put something else in: goes on, but isn't finished
+        Finishing, // done once more from its beginning, without a word to the host
+        Over,      // finished: what is left of it isn't done
+    };
+
+    HEditCtl*   ctl;
+    HWND        hwnd;
+    EntryScope* outer;   // the one in which the host entered this one
+    Step        step;    // does all of it
+    const char* entered; // for the step; stays valid
+    char*       text;    // as it was before; null without memory
+    LONG        anchor;
+    LONG        caret;
+    WORD        flags;
+    bool        redrawOff;
+    State       state;
+    char        shortText[64];
+
+    EntryScope(HEditCtl* field, Step entryStep, const char* what);
+    ~EntryScope();
+    EntryScope(const EntryScope&) = delete;
+    EntryScope& operator=(const EntryScope&) = delete;
+};
+
+// A window's record, and behind it what hosts don't know of.
+struct EditBlock {
+    HEditCtl    ctl;
+    EntryScope* entry; // under way, or null
+};
+
+inline EntryScope*& EntryOf(HEditCtl* ctl)
+{
+    return reinterpret_cast<EditBlock*>(ctl)->entry;
+}
+
+void OvertakeEntry(HEditCtl* ctl);
+
+// false: the window went, or the entry was finished meanwhile.
+inline bool IsEntering(HEditCtl* ctl, HWND hwnd)
+{
+    return IsWindow(hwnd) && !(EntryOf(ctl) && EntryOf(ctl)->state == EntryScope::Over);
+}
+
 // What a notification came to. Gone: the window and the record are no more.
 enum class Told { Accepted, Vetoed, Gone };
 
 inline Told Tell(HEditCtl* ctl, int code)
 {
+    if (EntryOf(ctl) && EntryOf(ctl)->state == EntryScope::Finishing) {
+        return Told::Accepted;
+    }
     const int answer = Notify(ctl, code);
     if (answer == 0) {
         return Told::Accepted;
     }
     return answer == 1 ? Told::Vetoed : Told::Gone;
+}
+
+// In the middle of an entry. false: it ends here.
+inline bool TellEntry(HEditCtl* ctl, int code)
+{
+    const HWND hwnd = ctl->hWnd;
+    Tell(ctl, code);
+    return IsEntering(ctl, hwnd);
 }
 
 // The text as it shows: the password character stands for each character under HES_PASSWORD.
@@ -105,9 +165,10 @@ struct UpdatingScope {
 
 // The window doesn't repaint while one of these lives.
 struct RedrawScope {
-    HWND hwnd;
-    bool off;
-    explicit RedrawScope(HWND window);
+    HEditCtl* ctl;
+    HWND      hwnd;
+    bool      off;
+    explicit RedrawScope(HEditCtl* field);
     ~RedrawScope();
     RedrawScope(const RedrawScope&) = delete;
     RedrawScope& operator=(const RedrawScope&) = delete;

@@ -45,12 +45,18 @@ void OnEnd(HEditCtl* ctl, const KeyState& keys)
     MoveCaret(ctl, farEnd, keys);
 }
 
+void DeleteByKey(HEditCtl* ctl, const char*)
+{
+    DeleteChar(ctl, true);
+}
+
 void OnDelete(HEditCtl* ctl, const KeyState& keys)
 {
     if (keys.shift) {
         SendMessageA(ctl->hWnd, WM_CUT, 0, 0);
     } else if (!HasStyle(ctl, HES_READONLY)) {
-        DeleteChar(ctl, true);
+        const EntryScope entry(ctl, DeleteByKey, nullptr);
+        DeleteByKey(ctl, nullptr);
     }
 }
 

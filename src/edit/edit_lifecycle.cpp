@@ -62,10 +62,11 @@ int WINAPI HEParseWinText(void* record, const char* text)
 LRESULT OnNcCreate(const MsgArgs& args)
 {
     const CREATESTRUCTA& create = *reinterpret_cast<const CREATESTRUCTA*>(args.lParam);
-    HEditCtl* const ctl = HRecordAlloc<HEditCtl>();
-    if (!ctl) {
+    EditBlock* const block = HRecordAlloc<EditBlock>();
+    if (!block) {
         return 0;
     }
+    HEditCtl* const ctl = &block->ctl;
     FillRecord(ctl, args.hwnd, create);
     if (!HEParseWinText(ctl, WindowTextOf(create))) {
         FreeRecord(ctl);

@@ -154,6 +154,7 @@ void ShowBlankForm(HEditCtl* ctl)
 
 void RefreshText(HEditCtl* ctl, bool editForm)
 {
+    OvertakeEntry(ctl);
     SetForm(ctl, editForm);
     if (!ctl->pData || !ctl->pszText) {
         return;

@@ -2,6 +2,8 @@
 // concerns its value.
 #include "gridctl/cell_controls.h"
 
+#include "edit/edit_control.h"
+
 namespace {
 
 // Who keeps a key while Ctrl is up.
@@ -84,9 +86,14 @@ LRESULT CellProc(WNDPROC own, int code, HWND hwnd, UINT message, WPARAM wParam, 
     if (record && message == WM_NCDESTROY) {
         ForgetControl(record);
     }
+    const bool tellsFocus = message == WM_SETFOCUS || message == WM_KILLFOCUS;
+    const bool focused = GetFocus() == hwnd;
     LRESULT result = 0;
     if (record && HGCellForward(code, record->hParent, message, wParam, lParam, &result)) {
         return result;
+    }
+    if (tellsFocus && focused != (GetFocus() == hwnd)) {
+        return 0; // a host that heard of it has taken the focus away again, or given it back: that is told already
     }
     return own(hwnd, message, wParam, lParam);
 }
@@ -162,6 +169,12 @@ bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lPa
 
 LRESULT CALLBACK HGEditCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    // The grid may read the value as soon as it hears that the focus goes.
+    if (message == WM_KILLFOCUS) {
+        if (HEditCtl* const ctl = reinterpret_cast<HEditCtl*>(HEditWnd(hwnd, WWM_GETSTATE, 0, 0))) {
+            FinishEntry(ctl);
+        }
+    }
     return CellProc(HEditWnd, cellCodeEdit, hwnd, message, wParam, lParam);
 }
 

@@ -185,6 +185,7 @@ extern int gSizeZone;  // what the mouse is over: 0 nothing, see the size zones
 extern int gGuideLine; // where the guide line stands, as x or y
 
 // Editing
+extern HWND gUnstored; // the grid that has taken the focus from its editor and not read it yet, or null
 bool HGIsEditable(HGridCtl* ctl, int col); // false for a column that doesn't exist
 void HGTakeEditor(HGridCtl* ctl);          // gives the current cell its column's control, loaded but not shown
 bool HGBeginColumnChange(HGridCtl* ctl, bool* shown); // false if the window went; shown is for the end

@@ -6,6 +6,8 @@
 
 #include <cstring>
 
+HWND gUnstored;
+
 namespace {
 
 // How a cell control takes and gives its value, by kind. A code message of 0: the kind has no codes of its own.
@@ -103,6 +105,13 @@ bool StillHolds(HGridCtl* ctl, HWND editor, const char* value)
     return same;
 }
 
+// Whether what was read is still to be stored. A host that heard of it meanwhile may have moved on, which has stored it, or
+// may have put another value into the editor.
+bool IsStillToStore(HGridCtl* ctl, HWND editor, Cell cell)
+{
+    return ctl->hEditor == editor && cell == CurrentCell(ctl) && SendMessageA(editor, WWM_GETCHANGED, 0, 0);
+}
+
 // Writes a value that was read from the editor into the current cell. It isn't pending while it is written, so a host
 // that moves or refreshes when it is told of it doesn't have it stored once more. A refused one is pending again, unless
 // the host has put another one into the editor.
@@ -110,9 +119,6 @@ int WriteRead(HGridCtl* ctl, HWND editor, const char* value)
 {
     const HWND hwnd = ctl->hWnd;
     const Cell cell = CurrentCell(ctl);
-    if (!IsWindow(hwnd)) {
-        return 0;
-    }
     SendMessageA(editor, WWM_SETCHANGED, 0, 0);
     const int written = HGWriteCell(ctl, cell.col, cell.row, value);
     if (!written && IsWindow(hwnd) && cell == CurrentCell(ctl) && StillHolds(ctl, editor, value)) {
@@ -197,8 +203,11 @@ int HGLoadEditor(HGridCtl* ctl)
 
 int HGReadEditor(HGridCtl* ctl)
 {
+    const HWND hwnd = ctl->hWnd;
     const HWND editor = ctl->hEditor;
+    const Cell cell = CurrentCell(ctl);
     const HGField* const field = EditedField(ctl);
+    const bool focused = GetFocus() == editor;
     if (!field || !SendMessageA(editor, WWM_GETCHANGED, 0, 0) || field->cbSize < 1) {
         return 1;
     }
@@ -207,7 +216,12 @@ int HGReadEditor(HGridCtl* ctl)
         return 1;
     }
     const bool hasValue = ReadValue(editor, field, buffer);
-    const int written = WriteRead(ctl, editor, hasValue ? buffer : nullptr);
+    // A control that takes the focus back has a validator that refuses the value.
+    const bool refused = !focused && GetFocus() == editor;
+    int written = IsWindow(hwnd) && !refused;
+    if (written && IsStillToStore(ctl, editor, cell)) {
+        written = WriteRead(ctl, editor, hasValue ? buffer : nullptr);
+    }
     HBlockFree(buffer);
     return written;
 }
@@ -248,14 +262,16 @@ int HGHideEditor(HGridCtl* ctl)
 int HGCommitEdit(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    const bool inEdit = HasFlag(ctl, HGC_INEDIT);
+    const bool inEdit = HasFlag(ctl, HGC_INEDIT) || gUnstored == hwnd;
     const HWND focus = GetFocus();
-    if (focus && IsChild(hwnd, focus)) {
-        SetFocus(hwnd);
-    }
+    const bool taken = focus && IsChild(hwnd, focus) && SetFocus(hwnd);
     if (!inEdit || !IsWindow(hwnd)) {
         return inEdit ? 0 : 1;
     }
+    if (taken && ctl->hEditor && GetFocus() == ctl->hEditor) {
+        return 0; // refused, as below
+    }
+    gUnstored = nullptr;
     const int stored = HGReadEditor(ctl);
     if (!IsWindow(hwnd)) {
         return 0;
@@ -267,6 +283,7 @@ int HGCommitEdit(HGridCtl* ctl)
 void HGCancelEdit(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
+    SetFlag(ctl, HGC_INEDIT, false); // what is given up is nothing that a host could have stored meanwhile
     if (GetFocus() != hwnd) {
         SetFocus(hwnd);
     }
@@ -295,6 +312,9 @@ int HGDetachEditor(HGridCtl* ctl)
     }
     const HWND hwnd = ctl->hWnd;
     HGEndEdit(ctl, true);
+    if (IsWindow(hwnd) && GetFocus() == ctl->hEditor) {
+        HGLoadEditor(ctl); // a refused value holds the focus no longer
+    }
     if (IsWindow(hwnd)) {
         HGHideEditor(ctl);
         ctl->hEditor = nullptr;

@@ -107,6 +107,9 @@ void HGOnChildBlur(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
     if (GetFocus() == hwnd) {
+        // Whoever commits next stores the value: a host that moves or destroys the grid before the one who took the
+        // focus comes to it, or that has taken the focus itself.
+        gUnstored = HasFlag(ctl, HGC_INEDIT) ? hwnd : gUnstored;
         SetFlag(ctl, HGC_INEDIT, false);
     } else {
         HGFocusLost(ctl);

@@ -21,9 +21,7 @@ void FillRow(HGridCtl* ctl, int row, const MsgArgs& args)
 // What stands in the editor goes into its own record before rows shift under it. False if the window went.
 bool StoreBeforeShift(HGridCtl* ctl, const MsgArgs& args)
 {
-    if (HasFlag(ctl, HGC_INEDIT)) {
-        HGCommitEdit(ctl);
-    }
+    HGCommitEdit(ctl);
     return IsWindow(args.hwnd) != 0;
 }
 

@@ -102,7 +102,7 @@ int RemoveRow(HGridCtl* ctl, int row, bool raiseBase)
 bool DeleteRecord(HGridCtl* ctl, int row)
 {
     const HWND hwnd = ctl->hWnd;
-    if (row == CurrentCell(ctl).row && HasFlag(ctl, HGC_INEDIT)) {
+    if (row == CurrentCell(ctl).row) {
         HGCommitEdit(ctl);
         if (!IsWindow(hwnd)) {
             return false;
@@ -181,7 +181,8 @@ int HGAppendRow(HGridCtl* ctl, const void* data)
 
 int HGDeleteRow(HGridCtl* ctl, int row, bool notify)
 {
-    if (row < 0 || row > LastRow(ctl)) {
+    void* const node = row >= 0 ? HGRowNode(ctl->pData, row) : nullptr;
+    if (!node) {
         return 0;
     }
     if (HasFlag(ctl, HGC_VIRTUAL)) {
@@ -198,7 +199,8 @@ int HGDeleteRow(HGridCtl* ctl, int row, bool notify)
             return 0;
         }
     }
-    return HGRemoveRow(ctl, row);
+    // Who was asked may have deleted the row already, or loaded others: it isn't the next one's turn then.
+    return HGRowNode(ctl->pData, row) == node ? HGRemoveRow(ctl, row) : 0;
 }
 
 int HGRemoveRow(HGridCtl* ctl, int row)

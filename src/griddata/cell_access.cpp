@@ -69,15 +69,15 @@ bool FollowUpRecord(HGridCtl* ctl, int row)
 {
     const HWND hwnd = ctl->hWnd;
     HGridData* const grid = ctl->pData;
-    const WORD flags = HGNodeFlags(HGRowNode(grid, row));
-    const bool isNew = (flags & HGR_NEW) != 0;
+    void* const node = HGRowNode(grid, row);
+    const bool isNew = (HGNodeFlags(node) & HGR_NEW) != 0;
     const int stored = ctl->pfnRowSource(hwnd, isNew ? HGSRC_APPEND : HGSRC_UPDATE, row + ctl->lRowBase,
                                          HGRowData(grid, row));
     if (!IsWindow(hwnd)) {
         return false;
     }
-    void* const node = HGRowNode(ctl->pData, row);
-    if (!stored || !node) {
+    // The source may have deleted the row meanwhile, or loaded others: its number is another row's then.
+    if (!stored || HGRowNode(ctl->pData, row) != node) {
         return true;
     }
     HGChangeNodeFlags(node, isNew ? HGR_DIRTY | HGR_NEW : HGR_DIRTY, 0);
@@ -121,26 +121,30 @@ void MarkWritten(HGridCtl* ctl, int col, int row)
     }
 }
 
-// Asks the source of a virtual grid. False, too, if it took the window or the data meanwhile.
+// Asks the source of a virtual grid. False, too, if it took the window, the data or the row meanwhile.
 bool SourceTakes(HGridCtl* ctl, int col, int row, const void* value)
 {
     if ((ctl->wFlags & HGC_VIRTUAL) == 0 || !ctl->pfnRowSource) {
         return true;
     }
     const HWND hwnd = ctl->hWnd;
-    const HGridData* const grid = ctl->pData;
+    HGridData* const grid = ctl->pData;
+    const void* const node = HGRowNode(grid, row);
     const int cell = static_cast<int>((static_cast<DWORD>(row & 0xFFFF) << 16) | static_cast<DWORD>(col & 0xFFFF));
     const bool refused = ctl->pfnRowSource(hwnd, HGSRC_CELL, cell, const_cast<void*>(value)) != 0;
-    return !refused && (!hwnd || IsWindow(hwnd)) && ctl->pData == grid;
+    const bool stays = (!hwnd || IsWindow(hwnd)) && ctl->pData == grid;
+    return !refused && stays && HGRowNode(grid, row) == node;
 }
 
 // After the parent has agreed: the row's follow-up, the repaint and the changed bit. 0 if the window went meanwhile.
-int FinishWrite(HGridCtl* ctl, int col, int row)
+// written is the row's node: in its place may stand a record that the parent had loaded, which has nothing to store.
+int FinishWrite(HGridCtl* ctl, int col, int row, const void* written)
 {
-    if (!HGRowNode(ctl->pData, row)) {
+    const bool  isVirtual = (ctl->wFlags & HGC_VIRTUAL) != 0;
+    const void* there = HGRowNode(ctl->pData, row);
+    if (!there || (isVirtual && there != written)) {
         return 1;
     }
-    const bool isVirtual = (ctl->wFlags & HGC_VIRTUAL) != 0;
     // Bounded: without a source nobody is there to take the row.
     const bool stays = !isVirtual ? FollowUpEntryRow(ctl, row) : !ctl->pfnRowSource || FollowUpRecord(ctl, row);
     if (!stays) {
@@ -249,10 +253,11 @@ int HGWriteCell(HGridCtl* ctl, int col, int row, const void* value)
     }
     StoreCell(field, target, bytes);
     MarkWritten(ctl, col, row);
+    const void* const written = HGRowNode(ctl->pData, row);
     if (Notify(ctl, HGN_CELLCHANGED)) {
         return 0;
     }
-    return FinishWrite(ctl, col, row);
+    return FinishWrite(ctl, col, row, written);
 }
 
 int HGFormatCell(HGridCtl* ctl, int col, int row, char* out, int outSize, int editForm)
