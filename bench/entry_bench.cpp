@@ -5,9 +5,9 @@
 
 namespace {
 
-constexpr int charCount = 3990;
+constexpr int charCount = 1500;
 constexpr int lineLength = 30; // characters before the field is emptied
-constexpr int stepCount = 10000;
+constexpr int stepCount = 3000;
 constexpr int stepsATurn = 250;
 constexpr int fieldWidth = 300;
 constexpr int fieldHeight = 24;

@@ -4,6 +4,7 @@
 usage: make_definition.py FILE.grs.txt FILE.grs      writes the definition
        make_definition.py --check FILE.grs.txt FILE.grs   fails if the file isn't what the text gives
 """
+import re
 import struct
 import sys
 
@@ -17,6 +18,7 @@ STYLES = {
     "HGS_COLHEADERS": 0x0100, "HGS_ROWDELETE": 0x0200, "HGS_NOTAB": 0x0400, "HGS_KEEPSEL": 0x0800,
     "HGS_COLMAP": 0x1000, "HGS_ROWSELECT": 0x2000, "HGS_NOEXTEND": 0x4000, "HGS_NAVIGATOR": 0x8000,
 }
+HFF_CODE = 0x0008
 ALIGN = {"": 0, "center": 0x0001, "right": 0x0002}
 
 
@@ -34,10 +36,13 @@ def field_record(path, number, line):
     if len(parts) != 6:
         fail(path, number, f"a field has 6 parts, this one {len(parts)}")
     caption, width, pair, size, align, form = parts
-    if len(pair) != 3 or pair[0] != "%" or align not in ALIGN:
-        fail(path, number, "the type is % and two letters, the alignment right, center or nothing")
-    fixed = struct.pack("<HhHHBBBBBI", 0, int(width), 0, int(size), ord(pair[1]), ord(pair[2]), 0, 0, ord("e"),
-                        ALIGN[align])
+    if not re.fullmatch("(%..){1,2}", pair) or align not in ALIGN:
+        fail(path, number, "the type is % and two letters, once or twice, the alignment right, center or nothing")
+    letters = [ord(letter) for letter in pair.replace("%", "")]
+    # A second pair is that of the codes which the cells of a list store.
+    flags, kind = (HFF_CODE, "l") if len(letters) == 4 else (0, "e")
+    letters += [0] * (4 - len(letters))
+    fixed = struct.pack("<HhHHBBBBBI", flags, int(width), 0, int(size), *letters, ord(kind), ALIGN[align])
     return fixed + text(caption) + text(form)
 
 

@@ -91,6 +91,8 @@ void SetField(CsvRow& row, size_t column, const std::string& text)
     if (row.raw.size() <= column) {
         row.raw.resize(column + 1);
     }
+    row.fields.resize(row.raw.size());
+    row.fields[column] = text;
     row.raw[column] = Quoted(text);
 }
 

@@ -1,13 +1,16 @@
 // Records that are made up when they are asked for. The grid keeps only a block of them.
 #include "generated.h"
 
+#include "loader.h"
+
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
 
 namespace {
 
-int recordCount;
+int                 recordCount;
+std::vector<Column> columns;
 
 // clang-format off
 constexpr const char* airports[] = { "NORTH FIELD", "HARBOUR INTL ARPT", "LAKESIDE REGIONAL", "OLD MILL AIRPARK",
@@ -35,24 +38,15 @@ const char* Pick(const char* const (&texts)[N], int record, unsigned column)
     return texts[Mix(record, column) % N];
 }
 
-// Parses a text by the column's type into the row, as typing it would.
+// Parses a text by the column's type into the row, as loading it would.
 void Put(HWND grid, int column, void* rowData, const char* text)
 {
-    const WPARAM position = static_cast<WPARAM>(column);
-    char         format[64] = {};
-    if (SendMessageA(grid, HGM_GETFIELDFORMATLEN, position, 0) < static_cast<LRESULT>(sizeof format)) {
-        SendMessageA(grid, HGM_GETFIELDFORMAT, position, reinterpret_cast<LPARAM>(format));
+    std::vector<char> bytes;
+    const size_t      position = static_cast<size_t>(column);
+    void* const       place = HGOffsetPtr(grid, column, rowData);
+    if (place && position < columns.size() && ParseField(columns[position], text, bytes).empty()) {
+        std::memcpy(place, bytes.data(), static_cast<size_t>(columns[position].size));
     }
-    char          bytes[64] = {};
-    const LRESULT size = SendMessageA(grid, HGM_GETFIELDSIZE, position, 0);
-    void* const   place = HGOffsetPtr(grid, column, rowData);
-    if (!place || size < 1 || size > static_cast<LRESULT>(sizeof bytes)) {
-        return;
-    }
-    const char dataClass = static_cast<char>(SendMessageA(grid, HGM_GETFIELDCLASS, position, 0));
-    const char dataType = static_cast<char>(SendMessageA(grid, HGM_GETFIELDTYPE, position, 0));
-    ParseData(bytes, dataClass, dataType, format, text, 0);
-    std::memcpy(place, bytes, static_cast<size_t>(size));
 }
 
 void FillRecord(HWND grid, int record, void* rowData)
@@ -64,7 +58,7 @@ void FillRecord(HWND grid, int record, void* rowData)
     const char* const texts[] = { Pick(airports, record, 3),  Pick(states, record, 4), Pick(aircraft, record, 5),
                                   Pick(operators, record, 6), Pick(phases, record, 7), Pick(species, record, 8),
                                   Pick(sizes, record, 9) };
-    int column = 1;
+    int               column = 1;
     for (const char* const each : texts) {
         Put(grid, column++, rowData, each);
     }
@@ -83,12 +77,9 @@ int CALLBACK Source(HWND grid, int operation, int record, void* buffer)
         }
         FillRecord(grid, record, buffer);
         return 1;
-    case HGSRC_COUNT:
-        return recordCount;
-    case HGSRC_CELL:
-        return 1; // generated records can't be changed
-    default:
-        return 0;
+    case HGSRC_COUNT: return recordCount;
+    case HGSRC_CELL: return 1; // generated records can't be changed
+    default: return 0;
     }
 }
 
@@ -97,6 +88,7 @@ int CALLBACK Source(HWND grid, int operation, int record, void* buffer)
 void ShowGenerated(HWND grid, int count)
 {
     recordCount = count;
+    columns = ColumnsOf(grid);
     SendMessageA(grid, HGM_SETROWSOURCE, 0, reinterpret_cast<LPARAM>(Source));
     if (count > 0) {
         SendMessageA(grid, HGM_SETTOTAL, 0, count);

@@ -40,9 +40,32 @@ bool HoldsNumber(const Column& column, const std::string& text, const std::vecto
     return std::fabs(wanted - held) <= 1e-6 * std::fabs(wanted);
 }
 
+std::string ItemText(HWND list, int item)
+{
+    const LRESULT length = SendMessageA(list, HLM_GETITEMTEXTLEN, static_cast<WPARAM>(item), 0);
+    std::string   text(static_cast<size_t>(std::max<LRESULT>(length, 0)) + 1, '\0');
+    SendMessageA(list, HLM_GETITEMTEXT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(text.data()));
+    text.pop_back();
+    return text;
+}
+
+// "Small, Medium or Large"
+std::string ChoicesOf(HWND list)
+{
+    const int   count = static_cast<int>(SendMessageA(list, HLM_GETCOUNT, 0, 0));
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        text += (i == 0 ? "" : i == count - 1 ? " or " : ", ") + ItemText(list, i);
+    }
+    return text;
+}
+
 // What a text of the column should have been.
 std::string Expected(const Column& column)
 {
+    if (column.list) {
+        return ChoicesOf(column.list);
+    }
     if (column.dataClass == 'd') {
         return "a date of the form " + column.format;
     }
@@ -75,9 +98,9 @@ void LoadField(const RowLoad& load, size_t index)
         HGSetCellData(load.grid, static_cast<int>(index), load.row, nullptr);
         return;
     }
-    std::vector<char>  bytes;
-    const std::string  problem = ParseField(column, text, bytes);
-    const bool         cut = column.dataClass == 's';
+    std::vector<char> bytes;
+    const std::string problem = ParseField(column, text, bytes);
+    const bool        cut = column.dataClass == 's' && !column.list;
     if (!problem.empty()) {
         Report(load, column.title, problem);
     }
@@ -125,6 +148,14 @@ bool CheckHeader(const std::string& path, const CsvFile& file, size_t columns, s
     return true;
 }
 
+// The list of a column whose cells store the codes of its items; null for another column.
+HWND ListOf(HWND grid, size_t position)
+{
+    const bool stores = SendMessageA(grid, HGM_GETFIELDKIND, position, 0) == 'l' &&
+                        (SendMessageA(grid, HGM_GETFIELDFLAGS, position, 0) & HFF_CODE);
+    return stores ? reinterpret_cast<HWND>(SendMessageA(grid, HGM_GETFIELDCHILD, position, 0)) : nullptr;
+}
+
 } // namespace
 
 std::string TextOf(const Problem& problem)
@@ -149,13 +180,20 @@ std::vector<Column> ColumnsOf(HWND grid)
         columns[i].dataClass = static_cast<char>(SendMessageA(grid, HGM_GETFIELDCLASS, i, 0));
         columns[i].dataType = static_cast<char>(SendMessageA(grid, HGM_GETFIELDTYPE, i, 0));
         columns[i].size = static_cast<int>(SendMessageA(grid, HGM_GETFIELDSIZE, i, 0));
+        columns[i].list = ListOf(grid, i);
     }
     return columns;
 }
 
 bool IsNumber(const Column& column)
 {
-    return std::strchr("cnz", column.dataClass) != nullptr;
+    return !column.list && std::strchr("cnz", column.dataClass) != nullptr;
+}
+
+std::string TextOfCode(const Column& column, const void* code)
+{
+    const int item = HLFindCode(column.list, 0, code);
+    return item < 0 ? std::string() : ItemText(column.list, item);
 }
 
 std::string ParseField(const Column& column, const std::string& text, std::vector<char>& bytes)
@@ -164,6 +202,11 @@ std::string ParseField(const Column& column, const std::string& text, std::vecto
     bytes.assign(std::max<size_t>(text.size() + 1, 64), '\0');
     if (IsNumber(column) && !LooksLikeNumber(text)) {
         return "\"" + text + "\" is not a number";
+    }
+    if (column.list) {
+        const int  item = HLFindData(column.list, 0, text.c_str());
+        const bool known = item >= 0 && HLGetCode(column.list, item, bytes.data());
+        return known ? std::string() : "\"" + text + "\" is not " + Expected(column);
     }
     const char* const format = column.format.c_str();
     const int         failed = ParseData(bytes.data(), column.dataClass, column.dataType, format, text.c_str(), 0);

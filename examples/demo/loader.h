@@ -22,11 +22,14 @@ struct Column {
     std::string format;
     char        dataClass = 0;
     char        dataType = 0;
-    int         size = 0; // bytes of a value
+    int         size = 0;       // bytes of a value
+    HWND        list = nullptr; // where cells store codes: the list that has the texts to them
 };
 
 std::vector<Column> ColumnsOf(HWND grid);
-bool IsNumber(const Column& column);
+bool                IsNumber(const Column& column);
+// The text of a stored code; empty for one that the column's list doesn't have.
+std::string TextOfCode(const Column& column, const void* code);
 
 // Why a text can't be a value of the column; empty if it can. The value goes to bytes, a text that is too long cut.
 std::string ParseField(const Column& column, const std::string& text, std::vector<char>& bytes);

@@ -163,6 +163,7 @@ int RunLoop(HWND frame)
         if (!TakeShortcut(frame, message)) {
             TranslateMessage(&message);
             DispatchMessageA(&message);
+            CountAfter(message);
         }
     }
     return 0;

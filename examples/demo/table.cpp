@@ -42,6 +42,9 @@ std::string FileText(HWND grid, const Column& column, Cell cell)
 {
     const std::vector<char> value = ValueOf(grid, column, cell);
     char                    text[256] = {};
+    if (column.list && !value.empty()) {
+        return TextOfCode(column, value.data());
+    }
     if (value.empty() || column.dataClass == 's') {
         return value.empty() ? std::string() : value.data();
     }
@@ -75,6 +78,9 @@ bool IsBlank(const Table& table, const std::string& text)
 void PrepareEditors(HWND grid, const std::vector<Column>& columns)
 {
     for (size_t i = 0; i < columns.size(); ++i) {
+        if (columns[i].list) {
+            continue;
+        }
         const HWND    editor = reinterpret_cast<HWND>(SendMessageA(grid, HGM_GETFIELDCHILD, i, 0));
         const LRESULT style = SendMessageA(editor, WWM_GETSTYLE, 0, 0);
         const LRESULT scrolls = columns[i].dataClass == 's' ? HES_AUTOHSCROLL : 0;
@@ -169,8 +175,11 @@ std::string CheckEdit(HWND grid, Table& table)
     if (!table.editing || cell.column < 0) {
         return std::string();
     }
-    const size_t      position = static_cast<size_t>(cell.column);
-    const Column&     column = table.columns[position];
+    const size_t  position = static_cast<size_t>(cell.column);
+    const Column& column = table.columns[position];
+    if (column.list) {
+        return std::string(); // it has no other values
+    }
     const HWND        editor = reinterpret_cast<HWND>(SendMessageA(grid, HGM_GETFIELDCHILD, position, 0));
     char              typed[256] = {};
     std::vector<char> value;

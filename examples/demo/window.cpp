@@ -1,24 +1,36 @@
-// The frame window: a menu, a grid and a status line; what is done with the rows stands in table.cpp.
+// The frame window: a menu, a grid, a list of phases and a status line; what is done with the rows stands in table.cpp.
 #include "window.h"
 
+#include "code_lists.h"
+#include "phases.h"
 #include "table.h"
 
+#include <algorithm>
 #include <commctrl.h>
+#include <iterator>
 
 namespace {
 
 constexpr const char* frameClass = "WildlifeStrikes";
 constexpr INT_PTR     gridId = 100;
 constexpr INT_PTR     statusId = 101;
+constexpr INT_PTR     phasesId = 102;
 constexpr int         saveId = 200;
 constexpr int         exitId = 201;
 constexpr int         newId = 202;
 constexpr int         deleteId = 203;
+constexpr int         countId = 204;
 constexpr UINT        sortMessage = WM_APP; // wParam: column
 constexpr int         frameWidth = 1240;
 constexpr int         frameHeight = 720;
 constexpr int         recordPartWidth = 220;
+constexpr int         countPartWidth = 200;
+constexpr int         captionWidth = 140; // beside the phases
+constexpr int         phaseRows = 3;
 constexpr int         allOrNone = -1;
+constexpr int         recordPart = 0; // of the status line
+constexpr int         countPart = 1;
+constexpr int         tellPart = 2;
 constexpr COLORREF    faceColor = RGB(233, 239, 246);   // headers, lines and every second row
 constexpr COLORREF    stripeColor = RGB(255, 255, 255); // the rows between
 constexpr COLORREF    selectColor = RGB(190, 209, 234); // headers of the current row and column
@@ -27,16 +39,18 @@ constexpr const char* frameTitle = "Wildlife strikes";
 
 // The one frame of the program.
 struct Frame {
-    HWND    window = nullptr;
-    HWND    grid = nullptr;
-    HWND    status = nullptr;
-    HFONT   font = nullptr;
-    HACCEL  shortcuts = nullptr;
-    Table*  table = nullptr; // null: the grid only shows
-    int     records = 0;     // where there is no table
-    int     sortedColumn = allOrNone;
-    bool    ascending = true;
-    bool    refused = false; // the edit that is ending had a value that can't be taken
+    HWND   window = nullptr;
+    HWND   grid = nullptr;
+    HWND   status = nullptr;
+    HWND   caption = nullptr; // beside the phases
+    HWND   phases = nullptr;
+    HFONT  font = nullptr;
+    HACCEL shortcuts = nullptr;
+    Table* table = nullptr; // null: the grid only shows
+    int    records = 0;     // where there is no table
+    int    sortedColumn = allOrNone;
+    bool   ascending = true;
+    bool   refused = false; // the edit that is ending had a value that can't be taken
 };
 Frame frame;
 
@@ -48,6 +62,13 @@ HFONT MessageFont()
     return CreateFontIndirectA(&metrics.lfMessageFont);
 }
 
+// Whole rows and the border: the list leaves the rest of a height free.
+int PhasesHeight()
+{
+    constexpr int borders = 4;
+    return phaseRows * static_cast<int>(SendMessageA(frame.phases, LB_GETITEMHEIGHT, 0, 0)) + borders;
+}
+
 void Layout(HWND hwnd)
 {
     RECT client;
@@ -55,10 +76,23 @@ void Layout(HWND hwnd)
     GetClientRect(hwnd, &client);
     SendMessageA(frame.status, WM_SIZE, 0, 0);
     GetWindowRect(frame.status, &status);
-    const int height = client.bottom - (status.bottom - status.top);
-    MoveWindow(frame.grid, 0, 0, client.right, height > 0 ? height : 0, TRUE);
-    const int parts[] = { recordPartWidth, allOrNone };
-    SendMessageA(frame.status, SB_SETPARTS, 2, reinterpret_cast<LPARAM>(parts));
+    const int strip = frame.table ? PhasesHeight() : 0;
+    const int height = std::max<int>(client.bottom - (status.bottom - status.top) - strip, 0);
+    MoveWindow(frame.grid, 0, 0, client.right, height, TRUE);
+    MoveWindow(frame.caption, 0, height, captionWidth, strip, TRUE);
+    MoveWindow(frame.phases, captionWidth, height, std::max<int>(client.right - captionWidth, 0), strip, TRUE);
+    const int parts[] = { recordPartWidth, recordPartWidth + countPartWidth, allOrNone };
+    SendMessageA(frame.status, SB_SETPARTS, std::size(parts), reinterpret_cast<LPARAM>(parts));
+}
+
+void SetStatus(int part, const std::string& text)
+{
+    SendMessageA(frame.status, SB_SETTEXTA, static_cast<WPARAM>(part), reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+void ShowCount()
+{
+    SetStatus(countPart, CountSelected(frame.phases, *frame.table));
 }
 
 void ShowRecord()
@@ -71,7 +105,7 @@ void ShowRecord()
     } else {
         wsprintfA(text, "Record %ld of %ld", static_cast<long>(record), static_cast<long>(count));
     }
-    SendMessageA(frame.status, SB_SETTEXTA, 0, reinterpret_cast<LPARAM>(text));
+    SetStatus(recordPart, text);
 }
 
 void ShowChanged()
@@ -177,6 +211,14 @@ void DeleteSelected()
     }
 }
 
+// To the phases, and from there back to the grid.
+void GoToPhases()
+{
+    if (frame.table) {
+        SetFocus(GetFocus() == frame.phases ? frame.grid : frame.phases);
+    }
+}
+
 void OnCommand(int id)
 {
     switch (id) {
@@ -184,6 +226,7 @@ void OnCommand(int id)
     case exitId:   SendMessageA(frame.window, WM_CLOSE, 0, 0); break;
     case newId:    SendMessageA(frame.grid, HGM_KEYNEW, 0, 0); break;
     case deleteId: DeleteSelected(); break;
+    case countId:  GoToPhases(); break;
     default:       break;
     }
 }
@@ -215,6 +258,8 @@ void OnEdit(int code)
     }
     ShowRecord();
     ShowChanged();
+    AddNewPhases(frame.phases, *frame.table);
+    ShowCount();
 }
 
 void OnNotification(int code)
@@ -232,10 +277,18 @@ void OnNotification(int code)
     }
 }
 
+// Keys that leave the phases.
+void OnPhases(int code)
+{
+    if (code == HLN_ESCAPE || code == HLN_TAB || code == HLN_BACKTAB) {
+        SetFocus(frame.grid);
+    }
+}
+
 void EnableCommands(HMENU menu)
 {
     const UINT state = frame.table ? MF_ENABLED : MF_GRAYED;
-    for (const int id : { saveId, newId, deleteId }) {
+    for (const int id : { saveId, newId, deleteId, countId }) {
         EnableMenuItem(menu, static_cast<UINT>(id), state);
     }
 }
@@ -249,6 +302,7 @@ HMENU MakeMenu()
     AppendMenuA(file, MF_STRING, exitId, "E&xit\tAlt+F4");
     AppendMenuA(record, MF_STRING, newId, "&New\tInsert");
     AppendMenuA(record, MF_STRING, deleteId, "&Delete\tDel");
+    AppendMenuA(record, MF_STRING, countId, "Count by &phase\tF6");
     AppendMenuA(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(file), "&File");
     AppendMenuA(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(record), "&Record");
     return menu;
@@ -260,6 +314,8 @@ void OnFrameCommand(WPARAM wParam, LPARAM lParam)
         OnCommand(LOWORD(wParam));
     } else if (frame.grid && LOWORD(wParam) == gridId) {
         OnNotification(HIWORD(wParam));
+    } else if (frame.phases && LOWORD(wParam) == phasesId) {
+        OnPhases(HIWORD(wParam));
     }
 }
 
@@ -279,9 +335,7 @@ LRESULT CALLBACK FrameProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam
             DestroyWindow(hwnd);
         }
         return 0;
-    case WM_DESTROY:
-        PostQuitMessage(0);
-        return 0;
+    case WM_DESTROY: PostQuitMessage(0); return 0;
     default: return DefWindowProcA(hwnd, message, wParam, lParam);
     }
 }
@@ -296,6 +350,16 @@ void RegisterFrame(HINSTANCE instance)
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     windowClass.lpszClassName = frameClass;
     RegisterClassA(&windowClass);
+}
+
+// Hidden until there are records to count.
+void MakePanel(HWND hwnd)
+{
+    constexpr DWORD style = WS_CHILD | SS_CENTER | SS_CENTERIMAGE;
+    frame.caption = CreateWindowExA(0, "STATIC", "Records by phase", style, 0, 0, 0, 0, hwnd, nullptr,
+                                    GetModuleHandleA(nullptr), nullptr);
+    SendMessageA(frame.caption, WM_SETFONT, reinterpret_cast<WPARAM>(frame.font), FALSE);
+    frame.phases = MakePhaseList(hwnd, phasesId, frame.font);
 }
 
 } // namespace
@@ -319,11 +383,13 @@ HWND MakeFrame(const std::string& definition)
     // The grid finds its definition by its title, and takes its font from this window.
     frame.grid = CreateWindowExA(0, "HGrid", definition.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, frameWidth,
                                  frameHeight, hwnd, reinterpret_cast<HMENU>(gridId), instance, nullptr);
-    if (!frame.grid) {
+    MakePanel(hwnd);
+    if (!frame.grid || !frame.phases) {
         return nullptr;
     }
-    ACCEL save = { FVIRTKEY | FCONTROL, 'S', saveId };
-    frame.shortcuts = CreateAcceleratorTableA(&save, 1);
+    FillCodeLists(frame.grid);
+    ACCEL shortcuts[] = { { FVIRTKEY | FCONTROL, 'S', saveId }, { FVIRTKEY, VK_F6, countId } };
+    frame.shortcuts = CreateAcceleratorTableA(shortcuts, std::size(shortcuts));
     Layout(hwnd);
     return hwnd;
 }
@@ -343,14 +409,28 @@ void AllowEditing(Table& table)
 {
     frame.table = &table;
     BeginEditing(frame.grid, table);
+    ShowPhases(frame.phases, table);
+    ShowWindow(frame.caption, SW_SHOW);
+    ShowWindow(frame.phases, SW_SHOW);
+    Layout(frame.window);
+    ShowCount();
 }
 
 void TellStatus(const std::string& text)
 {
-    SendMessageA(frame.status, SB_SETTEXTA, 1, reinterpret_cast<LPARAM>(text.c_str()));
+    SetStatus(tellPart, text);
 }
 
 bool TakeShortcut(HWND window, MSG& message)
 {
     return TranslateAcceleratorA(window, frame.shortcuts, &message) != 0;
+}
+
+// The list tells of a new current item only, and a click may change what is selected without one.
+void CountAfter(const MSG& message)
+{
+    const bool input = message.message == WM_LBUTTONUP || message.message == WM_KEYDOWN;
+    if (frame.table && message.hwnd == frame.phases && input) {
+        ShowCount();
+    }
 }

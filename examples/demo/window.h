@@ -1,4 +1,5 @@
-// The frame window: a menu, a grid and a status line; sorting by a click on a column header, editing, saving.
+// The frame window: a menu, a grid, a list of phases and a status line; sorting by a click on a column header, editing,
+// saving, and counting the records of the selected phases.
 #pragma once
 
 #include <widgets/widgets.h>
@@ -16,5 +17,7 @@ void AllowEditing(Table& table);
 void SetRecordCount(int count);
 // Shows a text in the status line, as its right part.
 void TellStatus(const std::string& text);
-// Ctrl+S, before a message goes to its window: true if it was that.
+// Ctrl+S and F6, before a message goes to its window: true if it was one of them.
 bool TakeShortcut(HWND frame, MSG& message);
+// Counts anew what a message may have selected, once its window has had it.
+void CountAfter(const MSG& message);

@@ -1,4 +1,5 @@
 // Page, totals and scroll bars of a grid, computed anew after every change of size or data.
+#include "dialog/scroll_bar.h"
 #include "gridctl/grid_control.h"
 
 namespace {
@@ -114,40 +115,6 @@ void MeasureWidths(HGridCtl* ctl)
     }
 }
 
-struct Thumb {
-    int  top;
-    int  bottom;
-    bool known;
-};
-
-Thumb ThumbOf(HWND window, int bar)
-{
-    SCROLLBARINFO info = {};
-    info.cbSize = sizeof info;
-    const bool known = GetScrollBarInfo(window, bar == SB_VERT ? OBJID_VSCROLL : OBJID_HSCROLL, &info) != 0;
-    return { info.xyThumbTop, info.xyThumbBottom, known };
-}
-
-// Whether a position shows elsewhere than the one that the bar has, found out by trying it.
-bool MovesThumb(HWND window, int bar, int pos)
-{
-    const Thumb now = ThumbOf(window, bar);
-    const int old = SetScrollPos(window, bar, pos, FALSE);
-    const Thumb then = ThumbOf(window, bar);
-    SetScrollPos(window, bar, old, FALSE);
-    return !now.known || !then.known || now.top != then.top || now.bottom != then.bottom;
-}
-
-// Drawing a bar costs more than all else that a step down does, and among many rows most steps don't move its thumb by
-// a pixel. The navigator's bar is a control, which decides for itself.
-void SetBar(HWND window, int bar, LONG pos, bool redraw)
-{
-    const int to = static_cast<int>(pos);
-    if (GetScrollPos(window, bar) != to) {
-        SetScrollPos(window, bar, to, redraw && (bar == SB_CTL || MovesThumb(window, bar, to)));
-    }
-}
-
 } // namespace
 
 void HGRecalc(HGridCtl* ctl)
@@ -184,7 +151,7 @@ LONG HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw)
         const LONG old = ctl->nHScrollPos;
         ctl->nHScrollPos = pos;
         if (HasStyle(ctl, WS_HSCROLL)) {
-            SetBar(ctl->hWnd, SB_HORZ, pos, redraw);
+            HSetBarPos(ctl->hWnd, SB_HORZ, static_cast<int>(pos), redraw);
         }
         return old;
     }
@@ -192,7 +159,7 @@ LONG HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw)
     ctl->nVScrollPos = static_cast<DWORD>(pos);
     if (HasStyle(ctl, WS_VSCROLL)) {
         const HWND window = ctl->hNavScroll ? ctl->hNavScroll : ctl->hWnd;
-        SetBar(window, ctl->hNavScroll ? SB_CTL : SB_VERT, pos, redraw);
+        HSetBarPos(window, ctl->hNavScroll ? SB_CTL : SB_VERT, static_cast<int>(pos), redraw);
     }
     return old;
 }

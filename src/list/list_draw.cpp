@@ -46,14 +46,13 @@ COLORREF TextColor(const HListCtl* ctl, bool highlighted, COLORREF color)
     return color ? color : ctl->crText;
 }
 
-// Whether all characters had room.
-bool DrawRun(HDC hdc, const RECT& rect, const char* text, int count)
+// Whether all characters have room.
+bool FitsIn(HDC hdc, const RECT& rect, const char* text, int count)
 {
     const int width = static_cast<int>(rect.right - rect.left);
     int  fits = 0;
     SIZE size = {};
     GetTextExtentExPointA(hdc, text, count, std::max(width, 0), &fits, nullptr, &size);
-    ExtTextOutA(hdc, rect.left, rect.top, ETO_CLIPPED, &rect, text, static_cast<UINT>(count), nullptr);
     return fits >= count;
 }
 
@@ -97,6 +96,35 @@ void DrawTabbed(HListCtl* ctl, HDC hdc, const RECT& rect, const char* text)
         }
         part += length + 1;
     }
+}
+
+// What was drawn of an item.
+struct ShownItem {
+    char text[itemTextSize];
+    int  length;
+    bool tabbed; // in parts, to the tab stops
+};
+
+ShownItem ShowItem(HListCtl* ctl, HDC hdc, const RECT& rect, int index, bool highlighted, COLORREF color, bool opaque)
+{
+    ShownItem item;
+    item.length = FormatItem(ctl, index, item.text, itemTextSize);
+    if (highlighted && !opaque) {
+        FillRectangle(hdc, rect, GetSysColorBrush(COLOR_HIGHLIGHT));
+    }
+    SetTextColor(hdc, TextColor(ctl, highlighted, color));
+    const bool hasTabs = HasStyle(ctl, HLS_TABS);
+    item.tabbed = hasTabs && !HasStyle(ctl, HLS_FIELD);
+    if (item.tabbed) {
+        DrawTabbed(ctl, hdc, rect, item.text);
+        return item;
+    }
+    if (hasTabs) {
+        item.length = static_cast<int>(std::strcspn(item.text, "\t"));
+    }
+    const UINT options = ETO_CLIPPED | (opaque ? ETO_OPAQUE : 0);
+    ExtTextOutA(hdc, rect.left, rect.top, options, &rect, item.text, static_cast<UINT>(item.length), nullptr);
+    return item;
 }
 
 int IndexOfValue(HListCtl* ctl, const void* value, int kind)
@@ -177,21 +205,13 @@ bool HLDrawItem(HListCtl* ctl, HDC hdc, const RECT* rect, int index, RECT* outRe
     if (index < 0) {
         return true;
     }
-    char buffer[itemTextSize];
-    int  length = FormatItem(ctl, index, buffer, itemTextSize);
-    if (highlighted) {
-        FillRectangle(hdc, *rect, GetSysColorBrush(COLOR_HIGHLIGHT));
-    }
-    SetTextColor(hdc, TextColor(ctl, highlighted, color));
-    const bool isField = HasStyle(ctl, HLS_FIELD);
-    if (HasStyle(ctl, HLS_TABS) && !isField) {
-        DrawTabbed(ctl, hdc, *rect, buffer);
-        return true;
-    }
-    if (HasStyle(ctl, HLS_TABS)) {
-        length = static_cast<int>(std::strcspn(buffer, "\t"));
-    }
-    return DrawRun(hdc, *rect, buffer, length);
+    const ShownItem item = ShowItem(ctl, hdc, *rect, index, highlighted, color, false);
+    return item.tabbed || FitsIn(hdc, *rect, item.text, item.length);
+}
+
+void HLDrawItemText(HListCtl* ctl, HDC hdc, const RECT& rect, int index, bool highlighted, COLORREF color, bool opaque)
+{
+    ShowItem(ctl, hdc, rect, index, highlighted, color, opaque);
 }
 
 int HLDrawValue(HListCtl* ctl, HDC hdc, RECT* rect, HBRUSH brush, const void* value, int kind, COLORREF color)

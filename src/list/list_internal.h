@@ -46,6 +46,10 @@ void SetSelectedAt(const HListCtl* ctl, int place, int index);
 int  PlaceInSelection(const HListCtl* ctl, int index);
 bool IsInSelection(const HListCtl* ctl, int index);
 
+// HLDrawItem without the answer whether the text fits, for which it has to be measured. opaque: over the background
+// colour of hdc, and not for a list with tab stops.
+void HLDrawItemText(HListCtl* ctl, HDC hdc, const RECT& rect, int index, bool highlighted, COLORREF color, bool opaque);
+
 // Drawing by the owner: WM_DRAWITEM.
 void HLDrawOwned(HListCtl* ctl, HDC hdc, const RECT& rect, int index, UINT action, UINT state);
 

@@ -1,4 +1,5 @@
 // Where the items of a list control stand: rows and columns, the scroll range, and scrolling.
+#include "dialog/scroll_bar.h"
 #include "foundation/item_list.h"
 #include "list/list_internal.h"
 
@@ -105,9 +106,9 @@ void PaintBorder(HListCtl* ctl)
 void MoveBar(HListCtl* ctl, int pos)
 {
     if (HasColumns(ctl)) {
-        SetScrollPos(ctl->hWnd, SB_HORZ, pos, TRUE);
+        HSetBarPos(ctl->hWnd, SB_HORZ, pos, true);
     } else if (!IsField(ctl)) {
-        SetScrollPos(ctl->hWnd, SB_VERT, pos, TRUE);
+        HSetBarPos(ctl->hWnd, SB_VERT, pos, true);
     }
     PaintBorder(ctl);
 }

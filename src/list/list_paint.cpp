@@ -10,6 +10,7 @@ constexpr int  staticKind = 6;
 constexpr WORD comboListId = 2;
 constexpr UINT stateFocused = ODS_FOCUS;
 
+// A question to the system that costs as much as some rows of text; who needs no answer doesn't ask.
 bool IsFocused(const HListCtl* ctl)
 {
     return GetFocus() == ctl->hWnd;
@@ -22,9 +23,9 @@ bool IsListDisabled(const HListCtl* ctl)
 }
 
 // The list's own brush, or null.
-HBRUSH OwnBrush(const HListCtl* ctl, bool focused)
+HBRUSH OwnBrush(const HListCtl* ctl)
 {
-    if (focused && HasStyle(ctl, HLS_FOCUSBRUSH) && ctl->hFocusBrush) {
+    if (HasStyle(ctl, HLS_FOCUSBRUSH) && ctl->hFocusBrush && IsFocused(ctl)) {
         return ctl->hFocusBrush;
     }
     return ctl->hBkBrush;
@@ -60,12 +61,25 @@ struct ListPaint {
     HListCtl* ctl;
     HDC       hdc;
     HWND      hwnd;
-    bool      focused;
+    bool      focused; // of a field and of a drawn list; the others don't look
     bool      isField;
     int       current; // of single selection, which is searched at each question if it is held by its code
     HBRUSH    brush; // of items that aren't highlighted
-    COLORREF  color; // 0: the list's own
+    COLORREF  color;     // 0: the list's own
+    COLORREF  backColor; // of brush, if it has just one
+    bool      hasBackColor;
+    COLORREF  highlight;
 };
+
+bool GetColor(HBRUSH brush, COLORREF* color)
+{
+    LOGBRUSH info = {};
+    if (!brush || !GetObjectA(brush, sizeof info, &info) || info.lbStyle != BS_SOLID) {
+        return false;
+    }
+    *color = info.lbColor;
+    return true;
+}
 
 // How one item shows.
 struct ItemLook {
@@ -89,34 +103,55 @@ void PaintOwned(const ListPaint& paint, const RECT& rect, int index, const ItemL
     HLDrawOwned(paint.ctl, paint.hdc, rect, paint.isField && !look.marked ? -1 : index, ODA_SELECT, state);
 }
 
+// Whether text and background of an item go to the screen in one call, which takes half the time of two.
+bool DrawsAtOnce(const ListPaint& paint, const ItemLook& look)
+{
+    const bool hasText = look.marked || !paint.isField;
+    return hasText && !HasStyle(paint.ctl, HLS_TABS) && (look.highlighted || paint.hasBackColor);
+}
+
+// The current item of a field without the focus: what a disabled list or a combo's one shows may differ.
+bool HasPlainMark(const ItemLook& look)
+{
+    return look.marked && !look.highlighted;
+}
+
 // The background goes under the text at once, so that neither shows without the other for long.
-void PaintItem(const ListPaint& paint, int index)
+void PaintItemItself(const ListPaint& paint, const RECT& rect, int index, const ItemLook& look)
+{
+    const bool atOnce = !HasPlainMark(look) && DrawsAtOnce(paint, look);
+    if (atOnce) {
+        SetBkColor(paint.hdc, look.highlighted ? paint.highlight : paint.backColor);
+    } else if (!HasPlainMark(look)) {
+        Fill(paint.hdc, rect, look.highlighted ? GetSysColorBrush(COLOR_HIGHLIGHT) : paint.brush);
+    }
+    if (look.marked || !paint.isField) {
+        HLDrawItemText(paint.ctl, paint.hdc, rect, index, look.highlighted, paint.color, atOnce);
+    }
+}
+
+// false: the host, who is asked about some items, has destroyed the list.
+bool PaintItem(const ListPaint& paint, int index)
 {
     RECT rect;
     HLItemRect(paint.ctl, index, &rect);
     const ItemLook look = LookOf(paint, index);
     SetBkMode(paint.hdc, look.highlighted ? OPAQUE : TRANSPARENT);
     if (look.highlighted) {
-        SetBkColor(paint.hdc, GetSysColor(COLOR_HIGHLIGHT));
+        SetBkColor(paint.hdc, paint.highlight);
     }
-    // The current item of a field without the focus: what a disabled list or a combo's one shows may differ.
-    const bool plainMark = look.marked && !look.highlighted;
-    if (plainMark) {
+    if (HasPlainMark(look)) {
         HLFillBackground(paint.ctl, paint.hdc, &rect, nullptr);
-    }
-    if (!IsWindow(paint.hwnd)) {
-        return;
+        if (!IsWindow(paint.hwnd)) {
+            return false;
+        }
     }
     if (HasStyle(paint.ctl, HLS_OWNERDRAW)) {
         PaintOwned(paint, rect, index, look);
-        return;
+        return IsWindow(paint.hwnd) != 0;
     }
-    if (!plainMark) {
-        Fill(paint.hdc, rect, look.highlighted ? GetSysColorBrush(COLOR_HIGHLIGHT) : paint.brush);
-    }
-    if (look.marked || !paint.isField) {
-        HLDrawItem(paint.ctl, paint.hdc, &rect, index, nullptr, look.highlighted, paint.color);
-    }
+    PaintItemItself(paint, rect, index, look);
+    return true;
 }
 
 void PaintItems(const ListPaint& paint, const RECT& area)
@@ -124,8 +159,9 @@ void PaintItems(const ListPaint& paint, const RECT& area)
     HListCtl* const ctl = paint.ctl;
     const int       first = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.left + 1, area.top + 1);
     const int       last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.right - 1, area.bottom - 1);
-    for (int index = first; index <= last && IsWindow(paint.hwnd); ++index) {
-        PaintItem(paint, index);
+    int             index = first;
+    while (index <= last && PaintItem(paint, index)) {
+        ++index;
     }
 }
 
@@ -140,7 +176,7 @@ void HLFillBackground(HListCtl* ctl, HDC hdc, const RECT* rect, HBRUSH brush)
     } else {
         GetClientRect(hwnd, &area);
     }
-    HBRUSH chosen = OwnBrush(ctl, IsFocused(ctl));
+    HBRUSH chosen = OwnBrush(ctl);
     if (!chosen) {
         chosen = brush ? brush : AskForBrush(ctl, hdc);
     }
@@ -154,8 +190,7 @@ void HLPaint(HListCtl* ctl)
     if (!dc.hdc || !IsWindow(hwnd) || HLCount(ctl) == 0) {
         return;
     }
-    const bool focused = IsFocused(ctl);
-    HBRUSH     brush = OwnBrush(ctl, focused);
+    HBRUSH brush = OwnBrush(ctl);
     if (!brush) {
         brush = FireCtlColorMsg(ctl, listKind, dc.hdc);
     }
@@ -164,8 +199,14 @@ void HLPaint(HListCtl* ctl)
     }
     const SelectedObject font(dc.hdc, ctl->hFont);
     const COLORREF       color = IsListDisabled(ctl) ? GetSysColor(COLOR_GRAYTEXT) : 0;
+    const bool           focused = HasStyle(ctl, HLS_FIELD | HLS_OWNERDRAW) && IsFocused(ctl);
+    COLORREF             backColor = 0;
+    const bool           hasBackColor = GetColor(brush, &backColor);
+    const COLORREF       highlight = GetSysColor(COLOR_HIGHLIGHT);
+    const bool           isField = HasStyle(ctl, HLS_FIELD);
     const int            current = HLCurIndex(ctl);
-    const ListPaint      paint = { ctl, dc.hdc, hwnd, focused, HasStyle(ctl, HLS_FIELD), current, brush, color };
+    const ListPaint      paint = { ctl,   dc.hdc, hwnd,      focused,      isField,
+                                   current, brush,  color, backColor, hasBackColor, highlight };
     PaintItems(paint, dc.ps.rcPaint);
 }
 

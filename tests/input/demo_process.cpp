@@ -111,6 +111,7 @@ void DemoProcess::FindWindows()
 {
     frame_ = FindOfThread(threadId_, "WildlifeStrikes");
     grid_ = FindWindowExA(frame_, nullptr, "HGrid", nullptr);
+    phases_ = FindWindowExA(frame_, nullptr, "HList", nullptr);
     status_ = FindWindowExA(frame_, nullptr, STATUSCLASSNAMEA, nullptr);
     SetForegroundWindow(frame_);
     ready_ = WaitFor([this] { return GetForegroundWindow() == frame_ && Focus() == grid_; });
@@ -141,6 +142,11 @@ int DemoProcess::ExitCode() const
 LRESULT DemoProcess::Ask(UINT message, WPARAM wParam, LPARAM lParam) const
 {
     return AskWindow(grid_, message, wParam, lParam);
+}
+
+LRESULT DemoProcess::AskPhases(UINT message, WPARAM wParam) const
+{
+    return AskWindow(phases_, message, wParam, 0);
 }
 
 HWND DemoProcess::Focus() const
@@ -219,4 +225,11 @@ void DemoProcess::Click(CellAt cell, unsigned modifiers) const
 {
     const POINT point = MiddleOf(cell);
     ClickAt(grid_, point.x, point.y, modifiers);
+}
+
+void DemoProcess::ClickPhase(int item, unsigned modifiers) const
+{
+    const int height = static_cast<int>(AskPhases(LB_GETITEMHEIGHT));
+    const int place = item - static_cast<int>(AskPhases(HLM_GETTOP));
+    ClickAt(phases_, 20, place * height + height / 2, modifiers);
 }

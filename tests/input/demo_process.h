@@ -25,7 +25,9 @@ public:
 
     HWND        frame() const { return frame_; }
     HWND        grid() const { return grid_; }
+    HWND        phases() const { return phases_; }
     LRESULT     Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const; // the grid
+    LRESULT     AskPhases(UINT message, WPARAM wParam = 0) const;
     HWND        Focus() const;
     HWND        Editor() const; // the current column's
     HWND        Dialog() const; // an open message box, or null
@@ -38,6 +40,7 @@ public:
 
     POINT MiddleOf(CellAt cell) const; // in client coordinates of the grid
     void  Click(CellAt cell, unsigned modifiers = 0) const;
+    void  ClickPhase(int item, unsigned modifiers = 0) const;
 
 private:
     void Start(const std::string& arguments);
@@ -53,6 +56,7 @@ private:
     void*       remote_ = nullptr;
     HWND        frame_ = nullptr;
     HWND        grid_ = nullptr;
+    HWND        phases_ = nullptr;
     HWND        status_ = nullptr;
     bool        ready_ = false;
 };

@@ -21,6 +21,10 @@ constexpr char second[] = "1990-03-03,\"THE \"\"OLD\"\" FIELD\",DC,BA-146,\"AIR\
 constexpr char third[] = "1990-04-07,ARPT,Ohio,KC-10A,MILITARY,Take-off run,Bat,Medium,,\r\n";
 constexpr char fourth[] = "1990-04-23,CHARLESTON,South Carolina,C-141B,MILITARY,Take-off run,Gull,Small,160,0\r\n";
 
+constexpr int recordPart = 0; // of the status line
+constexpr int countPart = 1;
+constexpr int tellPart = 2;
+
 constexpr char frameTitle[] = "Wildlife strikes";
 constexpr char changedTitle[] = "Wildlife strikes *";
 
@@ -79,7 +83,7 @@ protected:
     void Save(const std::string& rows)
     {
         Type("{Ctrl+S}");
-        EXPECT_SOON(BeginsWith(demo->Status(1), std::to_string(demo->RowCount() - 1) + " rows saved to "));
+        EXPECT_SOON(BeginsWith(demo->Status(tellPart), std::to_string(demo->RowCount() - 1) + " rows saved to "));
         EXPECT_EQ(names + rows, ReadAll(path));
         EXPECT_SOON(demo->Title() == frameTitle);
     }
@@ -96,9 +100,10 @@ protected:
         }
         const CellAt       cell = demo->Current();
         std::ostringstream text;
-        text << cell << " of " << demo->RowCount() << " rows, " << demo->Title() << ", status \"" << demo->Status(0)
-             << "\" \"" << demo->Status(1) << "\", editor \"" << demo->EditorText() << "\", focus " << demo->Focus()
-             << ", grid " << demo->grid() << ", foreground " << GetForegroundWindow() << ", frame " << demo->frame();
+        text << cell << " of " << demo->RowCount() << " rows, " << demo->Title() << ", status \""
+             << demo->Status(recordPart) << "\" \"" << demo->Status(countPart) << "\" \"" << demo->Status(tellPart)
+             << "\", editor \"" << demo->EditorText() << "\", focus " << demo->Focus() << ", grid " << demo->grid()
+             << ", foreground " << GetForegroundWindow() << ", frame " << demo->frame();
         return text.str();
     }
 
@@ -112,7 +117,7 @@ TEST_F(Demo, ShowsTheRecordsAndAnEntryRow)
     Start();
     EXPECT_EQ(5, demo->RowCount());
     EXPECT_EQ((CellAt{ 0, 0 }), demo->Current());
-    EXPECT_EQ("Record 1 of 4", demo->Status(0));
+    EXPECT_EQ("Record 1 of 4", demo->Status(recordPart));
     EXPECT_EQ("1990-03-03", demo->CellText({ colDate, 1 }));
     EXPECT_EQ("THE \"OLD\" FIELD", demo->CellText({ colAirport, 1 }));
     EXPECT_EQ("1,234,567", demo->CellText({ colCost, 1 }));
@@ -143,7 +148,7 @@ TEST_F(Demo, ValueThatIsStillBeingTypedIsSavedToo)
     GoTo({ colState, 1 });
     Type("Maine");
     EXPECT_SOON(demo->EditorText() == "Maine");
-    EXPECT_EQ("Enter or Tab takes the text, Esc takes it back", demo->Status(1));
+    EXPECT_EQ("Enter or Tab takes the text, Esc takes it back", demo->Status(tellPart));
     Save(std::string(first) +
          "1990-03-03,\"THE \"\"OLD\"\" FIELD\",Maine,BA-146,\"AIR\",Climb,Bird,Large,180,1234567\r\n" + third + fourth);
 }
@@ -153,7 +158,7 @@ TEST_F(Demo, InsertAddsARecord)
     Start();
     Type("{Ins}");
     ASSERT_SOON(demo->Current().row == 4);
-    EXPECT_SOON(demo->Status(0) == "New record, after 4");
+    EXPECT_SOON(demo->Status(recordPart) == "New record, after 4");
     TypeTo("1999-01-02{Tab}", { colAirport, 4 });
     EXPECT_SOON(demo->RowCount() == 6);
     TypeTo("NEW FIELD{Tab}Utah{Tab}", { colAircraft, 4 });
@@ -167,7 +172,7 @@ TEST_F(Demo, RecordsAreTypedAheadOfTheProgram)
     Start();
     Type("{Ins}");
     ASSERT_SOON(demo->Current().row == 4);
-    TypeAhead("1999-01-02{Tab}ONE{Tab}Utah{Tab}B-1{Tab}OP{Tab}Climb{Tab}Duck{Tab}Small{Tab}100{Tab}5{Tab}"
+    TypeAhead("1999-01-02{Tab}ONE{Tab}Utah{Tab}B-1{Tab}OP{Tab}Climb{Tab}Duck{Tab}s{Tab}100{Tab}5{Tab}"
               "1999-02-03{Tab}TWO{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}{Tab}200{Tab}6{Tab}");
     ASSERT_SOON(demo->Current() == (CellAt{ 0, 6 }));
     Save(std::string(first) + second + third + fourth +
@@ -207,7 +212,7 @@ TEST_F(Demo, EscapeTakesBack)
     ASSERT_SOON(demo->EditorText() == "Maine");
     Type("{Esc}");
     EXPECT_SOON(demo->EditorText() == "Louisiana" && demo->Focus() == demo->grid());
-    EXPECT_SOON(demo->Status(1).empty());
+    EXPECT_SOON(demo->Status(tellPart).empty());
     TypeTo("{Down}", { colState, 1 });
     EXPECT_EQ("Louisiana", demo->CellText({ colState, 0 }));
     EXPECT_EQ(frameTitle, demo->Title());
@@ -236,14 +241,14 @@ TEST_F(Demo, RefusedValueTellsWhyAndTheOldOneIsBack)
         const CellAt cell = { refused.column, 1 };
         GoTo(cell);
         Type(refused.typed);
-        EXPECT_SOON(demo->Status(1) == refused.status);
+        EXPECT_SOON(demo->Status(tellPart) == refused.status);
         EXPECT_SOON(demo->Focus() == demo->grid());
         EXPECT_EQ(cell, demo->Current()) << Situation();
         EXPECT_EQ(refused.old, demo->CellText(cell)) << Situation();
     }
     EXPECT_EQ(frameTitle, demo->Title());
     TypeTo("99{Tab}", { colCost, 1 });
-    EXPECT_SOON(demo->Status(1).empty());
+    EXPECT_SOON(demo->Status(tellPart).empty());
     Save(std::string(first) + "1990-03-03,\"THE \"\"OLD\"\" FIELD\",DC,BA-146,\"AIR\",Climb,Bird,Large,99,1234567\r\n" +
          third + fourth);
 }
@@ -253,7 +258,7 @@ TEST_F(Demo, RefusedValueIsNotSaved)
     Start();
     GoTo({ colSpeed, 0 });
     Type("70000{Ctrl+S}");
-    EXPECT_SOON(BeginsWith(demo->Status(1), "Speed (knots): \"70000\" is not"));
+    EXPECT_SOON(BeginsWith(demo->Status(tellPart), "Speed (knots): \"70000\" is not"));
     EXPECT_SOON(demo->CellText({ colSpeed, 0 }) == "300");
     ExpectUnsaved();
 }
@@ -263,11 +268,11 @@ TEST_F(Demo, RefusedValueHoldsAClickElsewhereAndTheWindow)
     Start();
     Type("1990-13-40");
     demo->Click({ colState, 2 });
-    EXPECT_SOON(BeginsWith(demo->Status(1), "Flight date: \"1990-13-40\" is not"));
+    EXPECT_SOON(BeginsWith(demo->Status(tellPart), "Flight date: \"1990-13-40\" is not"));
     EXPECT_SOON(demo->Focus() == demo->grid());
     EXPECT_EQ((CellAt{ colDate, 0 }), demo->Current());
     Type("{F2}1990-14-01{Alt+F4}");
-    EXPECT_SOON(BeginsWith(demo->Status(1), "Flight date: \"1990-14-01\" is not"));
+    EXPECT_SOON(BeginsWith(demo->Status(tellPart), "Flight date: \"1990-14-01\" is not"));
     EXPECT_SOON(demo->Focus() == demo->grid());
     EXPECT_FALSE(demo->HasEnded());
     EXPECT_EQ("1990-01-08", demo->CellText({ colDate, 0 }));
@@ -279,9 +284,9 @@ TEST_F(Demo, RefusedValueHoldsAClickElsewhereAndTheWindow)
 TEST_F(Demo, TextStopsAtTheSizeOfItsColumnNotAtItsWidth)
 {
     Start();
-    GoTo({ colSize, 0 });
-    TypeTo("A SIZE TOO LARGE{Tab}", { colSpeed, 0 });
-    EXPECT_EQ("A SIZE TOO ", demo->CellText({ colSize, 0 }));
+    GoTo({ colPhase, 0 });
+    TypeTo("A PHASE TOO LONG TO HOLD{Tab}", { colSpecies, 0 });
+    EXPECT_EQ("A PHASE TOO LONG TO", demo->CellText({ colPhase, 0 }));
 }
 
 TEST_F(Demo, DateIsClearedToNothing)
@@ -305,7 +310,131 @@ TEST_F(Demo, GeneratedRecordsTakeNoChange)
     EXPECT_EQ(old, demo->CellText({ colState, 1 }));
     EXPECT_EQ(frameTitle, demo->Title());
     TypeTo("{Ctrl+End}", { colState, static_cast<int>(demo->RowCount()) - 1 });
-    EXPECT_SOON(demo->Status(0) == "Record 1000 of 1000");
+    EXPECT_SOON(demo->Status(recordPart) == "Record 1000 of 1000");
+}
+
+// Codes
+
+TEST_F(Demo, CodeIsPickedByKeysAndSavedAsItsText)
+{
+    Start();
+    EXPECT_EQ("Large", demo->CellText({ colSize, 0 }));
+    GoTo({ colSize, 0 });
+    TypeTo("{F2}{Up}{Tab}", { colSpeed, 0 });
+    EXPECT_EQ("Medium", demo->CellText({ colSize, 0 }));
+    EXPECT_SOON(demo->Title() == changedTitle);
+    GoTo({ colSize, 2 });
+    TypeTo("s{Tab}", { colSpeed, 2 });
+    EXPECT_EQ("Small", demo->CellText({ colSize, 2 }));
+    ExpectUnsaved();
+    Save("1990-01-08,\"BARKSDALE, AIR FORCE BASE\",Louisiana,T-38A,MILITARY,Climb,Turkey vulture,Medium,300,0\r\n" +
+         std::string(second) + "1990-04-07,ARPT,Ohio,KC-10A,MILITARY,Take-off run,Bat,Small,,\r\n" + fourth);
+}
+
+TEST_F(Demo, CodePickedInTheEntryRowBeginsARecord)
+{
+    Start();
+    Type("{Ins}");
+    ASSERT_SOON(demo->Current().row == 4);
+    GoTo({ colSize, 4 });
+    EXPECT_EQ("", demo->CellText({ colSize, 4 }));
+    TypeTo("m{Tab}", { colSpeed, 4 });
+    EXPECT_SOON(demo->RowCount() == 6);
+    Save(std::string(first) + second + third + fourth + ",,,,,,,Medium,,\r\n");
+}
+
+TEST_F(Demo, EscapeTakesAPickedCodeBack)
+{
+    Start();
+    GoTo({ colSize, 0 });
+    Type("{F2}{Up}{Esc}");
+    EXPECT_SOON(demo->Focus() == demo->grid());
+    TypeTo("{Down}", { colSize, 1 });
+    EXPECT_EQ("Large", demo->CellText({ colSize, 0 }));
+    EXPECT_EQ(frameTitle, demo->Title());
+}
+
+TEST_F(Demo, TextThatHasNoCodeStaysInTheFile)
+{
+    const std::string huge = "1990-04-24,AIRPORT,Iowa,C-1,AIR,Climb,Gull,Huge,160,0\r\n";
+    Start(first + huge);
+    EXPECT_EQ("", demo->CellText({ colSize, 1 }));
+    EXPECT_NE(std::string::npos, demo->Status(tellPart).find("\"Huge\" is not Small, Medium or Large")) << Situation();
+    GoTo({ colSpeed, 0 });
+    TypeTo("99{Down}", { colSpeed, 1 });
+    Save("1990-01-08,\"BARKSDALE, AIR FORCE BASE\",Louisiana,T-38A,MILITARY,Climb,Turkey vulture,Large,99,0\r\n" +
+         huge);
+}
+
+TEST_F(Demo, SortsByTheTextsOfCodes)
+{
+    Start();
+    demo->Click({ colSize, -1 });
+    ASSERT_SOON(demo->CellText({ colSize, 3 }) == "Small");
+    EXPECT_EQ("Large", demo->CellText({ colSize, 1 }));
+    EXPECT_EQ("Medium", demo->CellText({ colSize, 2 }));
+}
+
+// Counting by phase: the list has Climb and Take-off run, with two records each
+
+class DemoPhases : public Demo {
+protected:
+    void ExpectCount(const char* text) { EXPECT_SOON(demo->Status(countPart) == text); }
+    void ClickOnlyClimb()
+    {
+        Start();
+        ExpectCount("4 records in 2 phases");
+        demo->ClickPhase(0);
+        ExpectCount("2 records in 1 phase");
+        EXPECT_SOON(demo->Focus() == demo->phases());
+    }
+};
+
+TEST_F(DemoPhases, CtrlClickAddsAPhaseAndTakesItAway)
+{
+    ClickOnlyClimb();
+    demo->ClickPhase(1, withCtrl);
+    ExpectCount("4 records in 2 phases");
+    demo->ClickPhase(1, withCtrl); // the current item, of which nothing is told
+    ExpectCount("2 records in 1 phase");
+    demo->ClickPhase(0, withCtrl);
+    ExpectCount("0 records in 0 phases");
+}
+
+TEST_F(DemoPhases, ShiftAndArrowsSelectARange)
+{
+    ClickOnlyClimb();
+    Type("{Shift+Down}");
+    ExpectCount("4 records in 2 phases");
+    Type("{Shift+Up}");
+    ExpectCount("2 records in 1 phase");
+    Type("{Down}");
+    ExpectCount("2 records in 1 phase");
+    EXPECT_EQ(0, demo->AskPhases(HLM_ISSELECTED, 0));
+    EXPECT_EQ(1, demo->AskPhases(HLM_ISSELECTED, 1));
+}
+
+TEST_F(DemoPhases, FunctionKeyGoesThereAndEscapeBack)
+{
+    Start();
+    Type("{F6}");
+    ASSERT_SOON(demo->Focus() == demo->phases());
+    Type("{Esc}");
+    ASSERT_SOON(demo->Focus() == demo->grid());
+}
+
+TEST_F(DemoPhases, CountFollowsTheRecords)
+{
+    ClickOnlyClimb();
+    GoTo({ colPhase, 2 });
+    TypeTo("Climb{Tab}", { colSpecies, 2 });
+    ExpectCount("3 records in 1 phase");
+    GoTo({ colPhase, 0 });
+    TypeTo("Ascent{Tab}", { colSpecies, 0 });
+    ExpectCount("2 records in 1 phase"); // "Ascent" is a new item above the selected one
+    EXPECT_EQ(3, demo->AskPhases(HLM_GETCOUNT));
+    demo->ClickPhase(0, withCtrl);
+    ExpectCount("3 records in 2 phases");
 }
 
 // The window
@@ -388,7 +517,7 @@ TEST_F(Demo, MenuSavesAddsAndDeletes)
     Type("{Alt+R}d");
     EXPECT_SOON(demo->RowCount() == 4);
     Type("{Alt+F}s");
-    EXPECT_SOON(BeginsWith(demo->Status(1), "3 rows saved to "));
+    EXPECT_SOON(BeginsWith(demo->Status(tellPart), "3 rows saved to "));
     EXPECT_EQ(std::string(names) +
                   "1990-01-08,\"BARKSDALE, AIR FORCE BASE\",Iowa,T-38A,MILITARY,Climb,Turkey vulture,Large,300,0\r\n" +
                   third + fourth,

@@ -25,9 +25,9 @@ constexpr NamedKey namedKeys[] = {
     { "Home", VK_HOME },    { "End", VK_END },      { "Left", VK_LEFT },     { "Right", VK_RIGHT }, { "Up", VK_UP },
     { "Down", VK_DOWN },    { "PgUp", VK_PRIOR },   { "PgDn", VK_NEXT },     { "Del", VK_DELETE },  { "Back", VK_BACK },
     { "Ins", VK_INSERT },   { "Tab", VK_TAB },      { "Enter", VK_RETURN },  { "Esc", VK_ESCAPE },  { "Space", VK_SPACE },
-    { "F1", VK_F1 },        { "F2", VK_F2 },        { "F4", VK_F4 },         { "F5", VK_F5 },       { "C", 'C' },
-    { "S", 'S' },           { "V", 'V' },           { "X", 'X' },            { "Z", 'Z' },          { "F", 'F' },
-    { "R", 'R' },           { "N", 'N' },           { "D", 'D' },
+    { "F1", VK_F1 },        { "F2", VK_F2 },        { "F4", VK_F4 },         { "F5", VK_F5 },       { "F6", VK_F6 },
+    { "C", 'C' },           { "S", 'S' },           { "V", 'V' },            { "X", 'X' },          { "Z", 'Z' },
+    { "F", 'F' },           { "R", 'R' },           { "N", 'N' },            { "D", 'D' },
 };
 constexpr NamedModifier namedModifiers[] = { { "Shift", withShift }, { "Ctrl", withCtrl }, { "Alt", withAlt } };
 // clang-format on
