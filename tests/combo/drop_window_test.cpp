@@ -248,23 +248,26 @@ TEST_F(DropLists, MouseOverThemLeavesTheFocusInTheFace)
     EXPECT_EQ((Ints{}), Told());
 }
 
+WNDPROC gFaceProc;
+WPARAM  gWheel; // what the face got of the wheel
+
+LRESULT CALLBACK NoteWheel(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_MOUSEWHEEL) {
+        gWheel = wParam;
+        return 0;
+    }
+    return CallWindowProcA(gFaceProc, hwnd, message, wParam, lParam);
+}
+
 TEST_F(DropLists, WheelGoesToTheFace)
 {
     MakeCombo();
     seen.Skip(WM_MOUSEWHEEL);
-    WPARAM         wheel = 0;
-    static WNDPROC old;
-    static WPARAM* noted;
-    noted = &wheel;
-    old = SubclassWW(face, [](HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-        if (message == WM_MOUSEWHEEL) {
-            *noted = wParam;
-            return 0;
-        }
-        return CallWindowProcA(old, hwnd, message, wParam, lParam);
-    });
+    gWheel = 0;
+    gFaceProc = SubclassWW(face, NoteWheel);
     EXPECT_EQ(0, Send(drop, WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0));
-    EXPECT_EQ(WPARAM{ MAKEWPARAM(0, 120) }, wheel);
+    EXPECT_EQ(WPARAM{ MAKEWPARAM(0, 120) }, gWheel);
 }
 
 TEST_F(DropLists, WheelScrollsByThePageInTheEnd)

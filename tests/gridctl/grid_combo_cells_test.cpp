@@ -99,6 +99,7 @@ protected:
         EXPECT_EQ(Face(), GetFocus());
         EXPECT_EQ(1, LiveHooks());
     }
+    bool IsCoded() const { return code_; }
     void ForEachKind(const std::function<void()>& test)
     {
         for (const Kind& kind : kinds) {
