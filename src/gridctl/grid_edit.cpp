@@ -106,10 +106,11 @@ bool StillHolds(HGridCtl* ctl, HWND editor, const char* value)
 }
 
 // Whether what was read is still to be stored. A host that heard of it meanwhile may have moved on, which has stored it, or
-// may have put another value into the editor.
-bool IsStillToStore(HGridCtl* ctl, HWND editor, Cell cell)
+// may have put another value into the editor; that is asked only where the focus has gone elsewhere since.
+bool IsStillToStore(HGridCtl* ctl, HWND editor, Cell cell, HWND focus)
 {
-    return ctl->hEditor == editor && cell == CurrentCell(ctl) && SendMessageA(editor, WWM_GETCHANGED, 0, 0);
+    const bool stands = ctl->hEditor == editor && cell == CurrentCell(ctl);
+    return stands && (GetFocus() == focus || SendMessageA(editor, WWM_GETCHANGED, 0, 0));
 }
 
 // Writes a value that was read from the editor into the current cell. It isn't pending while it is written, so a host
@@ -207,7 +208,7 @@ int HGReadEditor(HGridCtl* ctl)
     const HWND editor = ctl->hEditor;
     const Cell cell = CurrentCell(ctl);
     const HGField* const field = EditedField(ctl);
-    const bool focused = GetFocus() == editor;
+    const HWND focus = GetFocus();
     if (!field || !SendMessageA(editor, WWM_GETCHANGED, 0, 0) || field->cbSize < 1) {
         return 1;
     }
@@ -217,9 +218,9 @@ int HGReadEditor(HGridCtl* ctl)
     }
     const bool hasValue = ReadValue(editor, field, buffer);
     // A control that takes the focus back has a validator that refuses the value.
-    const bool refused = !focused && GetFocus() == editor;
+    const bool refused = focus != editor && GetFocus() == editor;
     int written = IsWindow(hwnd) && !refused;
-    if (written && IsStillToStore(ctl, editor, cell)) {
+    if (written && IsStillToStore(ctl, editor, cell, focus)) {
         written = WriteRead(ctl, editor, hasValue ? buffer : nullptr);
     }
     HBlockFree(buffer);
