@@ -3,9 +3,9 @@
 
 namespace {
 
-class DllList : public WindowTest {
+class DllListControl : public WindowTest {
 protected:
-    DllList() : list(Create("HList", "%ni%nl", HLS_EXTSEL)), ctl(RecordOf<ControlHeader>(list)) {}
+    DllListControl() : list(Create("HList", "%ni%nl", HLS_EXTSEL)), ctl(RecordOf<ControlHeader>(list)) {}
     void Fill() { ASSERT_EQ(3, HLAddItemsEx(list, 3, data, codes)); }
     int  DataAt(int index) const
     {
@@ -20,7 +20,7 @@ protected:
     ControlHeader*        ctl;
 };
 
-TEST_F(DllList, TakesItemsAtEachPlace)
+TEST_F(DllListControl, TakesItemsAtEachPlace)
 {
     EXPECT_EQ(0, HLAddItem(list, &data[0]));
     EXPECT_EQ(1, HLAddItemEx(list, &data[1], &codes[1]));
@@ -34,7 +34,7 @@ TEST_F(DllList, TakesItemsAtEachPlace)
     EXPECT_EQ(14, Send(list, HLM_GETCOUNT));
 }
 
-TEST_F(DllList, FindsReadsAndChangesItems)
+TEST_F(DllListControl, FindsReadsAndChangesItems)
 {
     Fill();
     EXPECT_EQ(1, HLFindData(list, 0, &data[1]));
@@ -49,7 +49,7 @@ TEST_F(DllList, FindsReadsAndChangesItems)
     EXPECT_EQ(30, values[2]);
 }
 
-TEST_F(DllList, DeletesItems)
+TEST_F(DllListControl, DeletesItems)
 {
     Fill();
     EXPECT_EQ(1, HLDeleteItem(list, 1));
@@ -59,7 +59,7 @@ TEST_F(DllList, DeletesItems)
     EXPECT_EQ(0, Send(list, HLM_GETCOUNT));
 }
 
-TEST_F(DllList, SelectsItems)
+TEST_F(DllListControl, SelectsItems)
 {
     Fill();
     EXPECT_EQ(1, HLSelectItem(list, 0, HLSEL_SET));
@@ -71,7 +71,7 @@ TEST_F(DllList, SelectsItems)
     EXPECT_EQ(0, Send(list, HLM_GETSELCOUNT));
 }
 
-TEST_F(DllList, MirrorsItsCurrentItem)
+TEST_F(DllListControl, MirrorsItsCurrentItem)
 {
     const HWND single = Create("HList", "%ni%nl");
     HLAddItemsEx(single, 3, data, codes);
@@ -83,7 +83,7 @@ TEST_F(DllList, MirrorsItsCurrentItem)
     EXPECT_EQ(2, code) << "the current item's";
 }
 
-TEST_F(DllList, SharesItsItems)
+TEST_F(DllListControl, SharesItsItems)
 {
     Fill();
     const HWND other = Create("HList", "%ss");
@@ -93,7 +93,7 @@ TEST_F(DllList, SharesItsItems)
     EXPECT_EQ(20, DataAt(1));
 }
 
-TEST_F(DllList, ProceduresCanBeCalledByAHost)
+TEST_F(DllListControl, ProceduresCanBeCalledByAHost)
 {
     Fill();
     int wantsDefault = 0;

@@ -191,6 +191,7 @@ TEST_F(GridCells, CodeColumnWithoutItsControlHasNoText)
 {
     HGField* const code = HGFieldCreate("Code", HFF_CODE, 80, 0, 's', 's', 'n', 'l', 16, 'l', 0, "", 0);
     MakeGrid(GridOf({ code }), 1);
+    DestroyWindow(HGGetField(ctl->pData, 0)->pCtl->hWnd);
     const int value = 5;
     EXPECT_EQ(1, HGSetCellData(grid, 0, 0, &value));
     EXPECT_EQ("", CellText(0, 0));

@@ -1,19 +1,20 @@
 // A program of its own that knows nothing of the library: one window, which counts what the mouse does to it.
-// WM_USER asks for its presses of the left button, WM_USER + 1 for its moves.
+// WM_USER asks for its presses of the left button, WM_USER + 1 for its moves that ended at wParam pixels from the left.
 #include <windows.h>
 
 namespace {
 
 LRESULT gPresses;
-LRESULT gMoves;
+LRESULT gMoves[200];
 
 LRESULT CALLBACK OtherProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
+    case WM_MOUSEACTIVATE: return MA_NOACTIVATE; // the focus stays where the list is
     case WM_LBUTTONDOWN: return ++gPresses;
-    case WM_MOUSEMOVE:   return ++gMoves;
+    case WM_MOUSEMOVE:   return ++gMoves[LOWORD(lParam) % 200];
     case WM_USER:        return gPresses;
-    case WM_USER + 1:    return gMoves;
+    case WM_USER + 1:    return gMoves[wParam % 200];
     case WM_DESTROY:     PostQuitMessage(0); return 0;
     default:             return DefWindowProcA(hwnd, message, wParam, lParam);
     }
@@ -30,8 +31,9 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int)
     info.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     info.lpszClassName = "OtherHost";
     RegisterClassA(&info);
-    CreateWindowExA(WS_EX_NOACTIVATE, "OtherHost", "other", WS_POPUP | WS_VISIBLE, 800, 100, 200, 150, nullptr, nullptr,
-                    instance, nullptr);
+    const HWND hwnd = CreateWindowExA(WS_EX_NOACTIVATE, "OtherHost", "other", WS_POPUP, 800, 100, 200, 150, nullptr,
+                                      nullptr, instance, nullptr);
+    ShowWindow(hwnd, SW_SHOWNOACTIVATE);
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
         DispatchMessageA(&message);

@@ -350,7 +350,7 @@ TEST_F(ListInput, HotItemFollowsTheMouse)
     MoveMouse(list, 5, MiddleOf(4));
     EXPECT_EQ(4, +Ctl()->nHot);
     EXPECT_EQ((Ints{}), Told());
-    TypeKey(VK_DOWN);
+    Key(VK_DOWN); // sent: the pointer that stands still may be told of once more before a typed one arrives
     EXPECT_EQ(5, Current()) << "a key goes on from the hot item";
     EXPECT_EQ(-1, +Ctl()->nHot);
     Ctl()->nHot = 3;
