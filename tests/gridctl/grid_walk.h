@@ -20,7 +20,8 @@ enum WalkTrait : unsigned {
     takesBack = 256,    // what is entered is taken back in the end, or refused
     deletesRow = 512,   // the user deletes the row in the end
     walkedBefore = 1024, // another edit walks how the value is entered: only leaving the cell is walked
-    inAllWays = 2048     // with all disturbances, also those that come down to another
+    inAllWays = 2048,    // with all disturbances, also those that come down to another
+    inLongRuns = 4096    // only where tests may take long: what it walks is near to what another edit does
 };
 
 // Events: {Tab}, {Enter}, {Down}, {Esc}, {F2}, {F4} and {Del} press a key, {Press} and {PressHeader} the mouse on another
