@@ -155,7 +155,7 @@ function(widgets_register_test target name window)
     set(drive $<$<AND:$<BOOL:${WIN32}>,$<BOOL:${CMAKE_CROSSCOMPILING}>>:Z:>)
     add_test(NAME ${test} COMMAND ${target})
     set_tests_properties(${test} PROPERTIES
-        TIMEOUT 180
+        TIMEOUT 600
         ENVIRONMENT "GTEST_OUTPUT=xml:${drive}${PROJECT_BINARY_DIR}/results/${test}.xml;GTEST_COLOR=no"
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
     if(window)
