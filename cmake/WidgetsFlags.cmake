@@ -15,11 +15,17 @@ endif()
 
 find_program(CCACHE ccache)
 if(CCACHE)
-    # What ccache has to overlook for sources with a precompiled header.
-    set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+    # What ccache has to overlook for sources with a precompiled header. Clones of this folder share their objects:
+    # paths in them begin here.
+    set(CMAKE_C_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
+        CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_C_COMPILER_LAUNCHER})
 endif()
 
+if(NOT MSVC)
+    # Equal sources give equal files, wherever they lie.
+    add_compile_options(-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+endif()
 if(NOT WIN32)
     if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang)
         message(FATAL_ERROR "The native configuration needs clang++: its sanitizers and libFuzzer. Use the presets.")
