@@ -202,8 +202,7 @@ function(widgets_test name)
 endfunction()
 
 # widgets_dll_test(<name> [LINKED] SOURCES <source>...)
-# <name>_test beside widgets.dll: a GoogleTest program without the product's objects. WIDGETS_DLL_PATH names the
-# library for LoadLibrary and for reading it as a file; LINKED links the import library too.
+# <name>_test beside widgets.dll: a GoogleTest program without the product's objects. LINKED links the import library.
 function(widgets_dll_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "LINKED" "" "SOURCES")
     if(NOT WIN32 OR NOT TARGET widgets)
@@ -215,9 +214,7 @@ function(widgets_dll_test name)
     endif()
     add_executable(${name}_test ${sources})
     widgets_test_includes(${name}_test)
-    # Sources in C stand beside those in C++ there.
-    set_target_properties(${name}_test PROPERTIES
-        RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin DISABLE_PRECOMPILE_HEADERS ON)
+    set_target_properties(${name}_test PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
     if(TARGET widgets_test_main)
         target_link_libraries(${name}_test PRIVATE widgets_test_main)
     endif()
@@ -226,9 +223,6 @@ function(widgets_dll_test name)
         target_link_libraries(${name}_test PRIVATE widgets)
     endif()
     add_dependencies(${name}_test widgets)
-    target_compile_definitions(${name}_test PRIVATE
-        WIDGETS_DLL_PATH="$<$<BOOL:${CMAKE_CROSSCOMPILING}>:Z:>$<TARGET_FILE:widgets>"
-        WIDGETS_SOURCE_DIR="$<$<BOOL:${CMAKE_CROSSCOMPILING}>:Z:>${PROJECT_SOURCE_DIR}")
     widgets_register_test(${name}_test ${name} TRUE)
 endfunction()
 
