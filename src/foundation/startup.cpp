@@ -16,7 +16,7 @@ constexpr int      imageWidth = 13;
 constexpr COLORREF imageMask = 0x0000FF00;
 constexpr DWORD    allCommonControls = 255;
 
-enum class ClassCursor { None, IBeam, Grid };
+enum class ClassCursor { None, IBeam, Arrow, Grid };
 
 struct ControlClass {
     const char* name;
@@ -32,6 +32,7 @@ struct ControlClass {
 // In the order of registration.
 // clang-format off
 constexpr ControlClass controlClasses[] = {
+    { "HButt",    0x408B, HButtWnd, 2, ClassCursor::Arrow, 0,          COLOR_WINDOW + 1, 1 },
     { "HEdit_SS", 0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
     { "HEdit",    0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
     { "HList",    0x400B, HListWnd, 1, ClassCursor::None,  0,          0,                0 },
@@ -52,6 +53,9 @@ HCURSOR CursorOf(ClassCursor cursor)
     }
     if (cursor == ClassCursor::IBeam) {
         return hCurIBeam;
+    }
+    if (cursor == ClassCursor::Arrow) {
+        return hCurArrow;
     }
     hCurGrid = LoadCursorA(hInstance, MAKEINTRESOURCEA(gridCursorId));
     return hCurGrid;

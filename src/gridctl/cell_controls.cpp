@@ -83,7 +83,7 @@ constexpr CellKind kinds[kindCount] = {
     { 'l', "HList",    ListText,     true,  0x00800020, 0x40000011, HGListCellProc },
     { 'c', "HComb",    ComboText,    true,  0x00800020, 0x40000019, nullptr },
     { 'd', "HComb",    ComboText,    true,  0x00800020, 0x40000011, nullptr },
-    { 'k', "HButt",    CheckText,    false, 0,          0x40001C02, nullptr },
+    { 'k', "HButt",    CheckText,    false, 0,          0x40001C02, HGCheckCellProc },
     { 'q', "HEdit_SS", BareEditText, true,  0x00800000, 0x40000200, nullptr },
 };
 // clang-format on

@@ -14,3 +14,4 @@ constexpr int firstCellId = 200;
 
 LRESULT CALLBACK HGEditCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK HGListCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CALLBACK HGCheckCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);

@@ -1,11 +1,9 @@
-// Messages that a grid sends to the cell controls of kinds that it doesn't make yet: lists, combos and buttons.
+// Messages that a grid sends to the cell controls of kinds that it doesn't make yet: combos.
 // They move to widgets.h with the controls that answer them.
 #pragma once
 
 #include <windows.h>
 
-constexpr UINT HBM_GETVALUE = 1080;    // lParam: out; the size, or 0 for the null value
-constexpr UINT HBM_SETVALUE = 1081;    // lParam: value, or null
 constexpr UINT HCM_SETDROP = 1298;     // wParam: height of the drop part
 
 // Bytes that an item's data needs at the most where its size isn't known.

@@ -1,6 +1,5 @@
-// How a grid loads and reads the cell controls of the kinds c, d and k: by stand-ins that record what they are sent.
+// How a grid loads and reads the cell controls of the kinds c and d: by stand-ins that record what they are sent.
 #include "gridctl/grid_editing.h"
-#include "griddata/child_messages.h"
 
 #include <cstring>
 #include <string>
@@ -76,19 +75,17 @@ LRESULT CALLBACK StubProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
         gSent.push_back({ message, wParam, 0 });
         return 1;
     case HLM_SELECTDATA:
-    case HLM_SELECTCODE:
-    case HBM_SETVALUE: Note(message, wParam, lParam, false); return 1;
+    case HLM_SELECTCODE: Note(message, wParam, lParam, false); return 1;
     case HEM_GETDATA:
     case HLM_GETCURDATA:
-    case HLM_GETCURCODE:
-    case HBM_GETVALUE: Note(message, wParam, lParam, true); return GiveValue(stub, lParam);
+    case HLM_GETCURCODE: Note(message, wParam, lParam, true); return GiveValue(stub, lParam);
     case HLM_FINDCODE: Note(message, wParam, lParam, false); return FindCode(lParam);
     case HLM_GETDATA: return CopyItem(wParam, reinterpret_cast<char*>(lParam));
     default: return DefWindowProcA(hwnd, message, wParam, lParam);
     }
 }
 
-constexpr const char* stubClasses[] = { "HComb", "HButt" };
+constexpr const char* stubClasses[] = { "HComb" };
 
 class GridStubCells : public GridEditing {
 protected:
@@ -151,7 +148,6 @@ constexpr KindRow kinds[] = {
     { 'd', true,  { HLM_SELECTCODE, 1, 2 }, { HLM_GETCURCODE, 4, 0 } },
     { 'c', false, { HEM_SETDATA,    0, 0 }, { HEM_GETDATA,    4, 0 } },
     { 'c', true,  { HLM_FINDCODE,   0, 2 }, { HLM_GETCURCODE, 4, 0 } },
-    { 'k', false, { HBM_SETVALUE,   0, 2 }, { HBM_GETVALUE,   0, 0 } },
 };
 // clang-format on
 

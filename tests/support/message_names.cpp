@@ -78,6 +78,14 @@ constexpr Named editMessages[] = {
     N(HEM_GETTEXTPTR), N(HEM_GETFORMATPTR),
 };
 
+constexpr Named buttonMessages[] = {
+    N(HBM_GETPICPOS), N(HBM_GETPIC), N(HBM_GETPICCOUNT), N(HBM_GETPICKEY), N(HBM_GETRELPOS), N(HBM_GETSOUND),
+    N(HBM_GETTEXTPOS), N(HBM_GETKIND), N(HBM_SETPICPOS), N(HBM_SETPIC), N(HBM_SETPICKEY), N(HBM_SETRELPOS),
+    N(HBM_SETSOUND), N(HBM_SETTEXTPOS), N(HBM_GETVALUE), N(HBM_SETVALUE), N(HBM_GETLINK), N(HBM_SETLINK),
+    N(HBM_GETVALUESIZE), N(HBM_GETSTATECOUNT), N(HBM_ISGROUPEND), N(HBM_SETPICCOUNT), N(HBM_GETPALETTE), N(HBM_CLICK),
+    N(HBM_GETBKBRUSH), N(HBM_SETBKBRUSH), N(HBM_GETTEXTCOLOR), N(HBM_SETTEXTCOLOR),
+};
+
 constexpr Named gridNotifications[] = {
     N(HGN_SETFOCUS), N(HGN_KILLFOCUS), N(HGN_MOVED), N(HGN_DBLCLK), N(HGN_DESTROY), N(HGN_RBUTTONDOWN),
     N(HGN_ABOVETOP), N(HGN_BELOWEND), N(HGN_NEWROW), N(HGN_ROWCHANGED), N(HGN_CELLCHANGED), N(HGN_ROWDELETING),
@@ -91,6 +99,8 @@ constexpr Named editNotifications[] = {
     N(HEN_KILLFOCUS), N(HEN_CHANGE), N(HEN_UPDATE), N(HEN_MAXTEXT), N(HEN_HSCROLL), N(HEN_BADINPUT), N(HEN_BELOWMIN),
     N(HEN_ABOVEMAX),
 };
+
+constexpr Named buttonNotifications[] = { N(HBN_CLICKED), N(HBN_DBLCLK) };
 
 // clang-format on
 #undef N
@@ -108,6 +118,27 @@ const char* Find(std::span<const Named> list, UINT number)
 bool IsEdit(const char* className)
 {
     return className && std::strncmp(className, "HEdit", 5) == 0;
+}
+
+bool IsButton(const char* className)
+{
+    return className && std::strcmp(className, "HButt") == 0;
+}
+
+std::span<const Named> MessagesOf(const char* className)
+{
+    if (IsButton(className)) {
+        return buttonMessages;
+    }
+    return IsEdit(className) ? std::span<const Named>(editMessages) : std::span<const Named>(gridMessages);
+}
+
+std::span<const Named> NotificationsOf(const char* className)
+{
+    if (IsButton(className)) {
+        return buttonNotifications;
+    }
+    return IsEdit(className) ? std::span<const Named>(editNotifications) : std::span<const Named>(gridNotifications);
 }
 
 std::string NameOr(const char* name, const char* format, UINT number)
@@ -129,12 +160,12 @@ std::string MessageName(UINT message, const char* className)
         name = Find(commonMessages, message);
     }
     if (!name) {
-        name = IsEdit(className) ? Find(editMessages, message) : Find(gridMessages, message);
+        name = Find(MessagesOf(className), message);
     }
     return NameOr(name, "0x%04X", message);
 }
 
 std::string NotificationName(UINT code, const char* className)
 {
-    return NameOr(IsEdit(className) ? Find(editNotifications, code) : Find(gridNotifications, code), "code %u", code);
+    return NameOr(Find(NotificationsOf(className), code), "code %u", code);
 }
