@@ -10,11 +10,9 @@ LRESULT OnSetText(HButtCtl* ctl, const MsgArgs& args)
         return 0;
     }
     const bool isType = *text >= '0' && *text <= '9';
-    if (!(isType ? HBApplyType(ctl, text) : HBSetCaption(ctl, text, '\0', nullptr))) {
-        return 0;
-    }
+    const bool applied = isType ? HBApplyType(ctl, text) : HBSetCaption(ctl, text, '\0', nullptr);
     HBRevealParent(ctl);
-    return 1;
+    return applied;
 }
 
 LRESULT OnGetText(const HButtCtl* ctl, const MsgArgs& args)

@@ -139,7 +139,12 @@ TEST_F(ButtonPaint, PressedUpDownButtonShowsThePictureBehind)
     Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
     const Pixels shot = ShotOf(button);
     const Pixels wanted = ImageShot(11);
-    EXPECT_EQ(wanted.At(6, 6), shot.At(43 + 6, 23 + 6));
+    // The focus rectangle stands on the picture's edge.
+    for (int i = 1; i < 12; ++i) {
+        for (int k = 1; k < 12; ++k) {
+            ASSERT_EQ(wanted.At(i, k), shot.At(43 + i, 23 + k)) << i << ", " << k;
+        }
+    }
     Send(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
 }
 
@@ -403,8 +408,8 @@ TEST_F(ButtonPaint, TransparentButtonDrawsItsFocusOnceAndTakesItAwayAgain)
     SetFocus(parent.hwnd());
     Ctl()->wFlags = flags;
     paint();
-    EXPECT_FALSE(SamePixels(framed, canvas.Shot())) << "drawn once more it goes";
     const Pixels bare = canvas.Shot();
+    EXPECT_TRUE(framed.colors != bare.colors) << "drawn once more it goes";
     Canvas       fresh(40, 30);
     fresh.Fill(white);
     Ctl()->wFlags &= static_cast<WORD>(~HBF_FOCUSDRAWN);
@@ -589,7 +594,7 @@ TEST_F(ButtonPaint, NullValueIsPaintedAndLeavesTheButtonAsItWas)
     HBDrawValue(Ctl(), asOne.hdc(), &rect, paper.h, &one);
     EXPECT_TRUE(IsNull());
     EXPECT_EQ(0, State());
-    EXPECT_FALSE(SamePixels(asNull.Shot(), asOne.Shot()));
+    EXPECT_TRUE(asNull.Shot().colors != asOne.Shot().colors);
 }
 
 TEST_F(ButtonPaint, PaintingLeavesNoObjects)

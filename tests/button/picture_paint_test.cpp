@@ -71,10 +71,10 @@ TEST(PaintPic, IconFileShowsItsColoursAndLetsItsMaskThrough)
     {
         const Loaded loaded("icotest.ico");
         Canvas       canvas(32, 32);
-        canvas.Fill(RGB(0, 0, 0));
         EXPECT_NE(0, PaintPic(canvas.hdc(), &loaded.pic, 0, 0, 0));
         const Pixels shot = canvas.Shot();
         EXPECT_TRUE(shot.IsAll(RGB(255, 0, 0), { 0, 0, 32, 16 })) << "the upper half";
+        EXPECT_EQ(0, shot.Count(RGB(255, 0, 0), { 0, 16, 32, 32 })) << "the lower half, where the mask lets through";
     }
     DeleteFileA("icotest.ico");
 }
