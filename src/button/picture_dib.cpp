@@ -257,8 +257,9 @@ bool ReadDib(const BYTE* dib, size_t size, DibSource source, DibInfo* out)
     if (!IsValidHeader(header, source)) {
         return false;
     }
-    DibInfo info{ headerSize, static_cast<int>(header.width),
-                  static_cast<int>(header.height < 0 ? -header.height : header.height), header.bits, header.compression, 0, 0, 0 };
+    const LONG rows = header.height < 0 ? -header.height : header.height;
+    DibInfo    info{ headerSize, static_cast<int>(header.width), static_cast<int>(rows), header.bits,
+                  header.compression, 0, 0, 0 };
     if (!PlaceTable(&info, header, size) ||
         !ArePixelsThere(dib + info.pixelOffset, size - info.pixelOffset, info, header.sizeImage)) {
         return false;
