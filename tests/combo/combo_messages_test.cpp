@@ -87,7 +87,9 @@ TEST_F(ComboMessages, FrameAnswersItsOwn)
     EXPECT_EQ(1, Send(WWM_SETUPDATING, 1));
     EXPECT_EQ(1, Send(WWM_GETUPDATING));
     EXPECT_EQ(1, Send(WWM_SETCHANGED, 1));
-    EXPECT_EQ(0, Send(WWM_GETCHANGED)) << "the parts are asked, not the combo";
+    EXPECT_EQ(1, Send(WWM_GETCHANGED)) << "the parts are told, since they are asked";
+    EXPECT_EQ(1, Send(WWM_SETCHANGED, 0));
+    EXPECT_EQ(0, Send(WWM_GETCHANGED));
     EXPECT_EQ(1, Send(WWM_CANCEL));
     EXPECT_EQ(0, Send(WWM_ISNULL));
     EXPECT_EQ(1, Send(WWM_SETSTYLE, 0, static_cast<LPARAM>(Ctl()->dwStyle)));
