@@ -10,8 +10,6 @@ constexpr int    mnemonicTextSize = 64;
 constexpr int    ownTab = DLGC_WANTTAB | DLGC_WANTALLKEYS;
 constexpr int    pushButton = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
 
-constexpr UINT buttonClick = 1123; // the button's message for a click by the user
-
 // Whether a walk over the controls has come past the one with the focus.
 int fPastFocus;
 
@@ -46,7 +44,7 @@ void Choose(HWND hwnd)
 {
     const int code = DlgCode(hwnd);
     if (code & DLGC_BUTTON) {
-        SendMessageA(hwnd, buttonClick, 0, 0);
+        SendMessageA(hwnd, HBM_CLICK, 0, 0);
         if (code & pushButton) {
             return;
         }

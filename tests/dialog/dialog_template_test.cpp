@@ -319,8 +319,15 @@ private:
         if (Pick(3) == 0) {
             className = { 0xFFFF, static_cast<WORD>(0x80 + Pick(6)) };
         }
-        return { className, Text(), static_cast<DWORD>(engine_()), Number(), Number(), Number(), Number(),
-                 static_cast<WORD>(Number()), Bytes(static_cast<size_t>(Pick(6)), 7) };
+        return { className,
+                 Text(),
+                 static_cast<DWORD>(engine_()),
+                 Number(),
+                 Number(),
+                 Number(),
+                 Number(),
+                 static_cast<WORD>(Number()),
+                 Bytes(static_cast<size_t>(Pick(6)), 7) };
     }
 
     std::mt19937 engine_{ 20 };
