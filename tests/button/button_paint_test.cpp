@@ -88,11 +88,17 @@ constexpr CellRow cells[] = {
 TEST_F(ButtonPaint, PictureStandsInEachOfTheNineCells)
 {
     for (const CellRow& row : cells) {
-        const std::string text = std::string("4") + row.digit + "0;;IM0";
+        const std::string text = std::string(row.digit == '4' ? "0" : "4") + row.digit + "0;;IM0";
         MakeFlat(text.c_str());
         EXPECT_TRUE(ShowsImage(0, row.x, row.y)) << row.digit;
         EXPECT_TRUE(IsSame(Ink(), { row.x, row.y, row.x + 13, row.y + 13 })) << row.digit;
     }
+}
+
+TEST_F(ButtonPaint, PictureInTheCaptionsCellKeepsTheGapThoughThereIsNone)
+{
+    MakeFlat("443;;IM0");
+    EXPECT_TRUE(ShowsImage(0, 41, 23));
 }
 
 TEST_F(ButtonPaint, CaptionStandsInEachOfTheNineCells)
@@ -393,7 +399,7 @@ TEST_F(ButtonPaint, NoFocusShowsOnAButtonWithout)
 
 TEST_F(ButtonPaint, TransparentButtonDrawsItsFocusOnceAndTakesItAwayAgain)
 {
-    Make("444;;IM0", HBS_TRANSPARENT | HBS_NOFACE, 40, 30);
+    Make("444;;IM11", HBS_TRANSPARENT | HBS_NOFACE, 40, 30); // an image that leaves its edges free
     SetFocus(button);
     Canvas canvas(40, 30);
     canvas.Fill(white);
