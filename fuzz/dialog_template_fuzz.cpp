@@ -1,4 +1,4 @@
-// Reads any bytes as a dialog template. What comes of it lies inside the bytes, and as many items as they have room for.
+// Reads any bytes as a dialog template. What comes of it lies inside the bytes, in as many items as they have room for.
 #include "dialog/dialog_template.h"
 
 #include "fuzz_input.h"

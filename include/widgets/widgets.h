@@ -773,16 +773,16 @@ int WINAPI SetOverwriteMode(int mode);
 /**
  * Makes the controls of a dialog template as children of a window, and sends it WM_INITDIALOG.
  *
- * The template is in the classic form, without numbers in place of menu, class and titles. Its title becomes the text of
- * the window, if it has one.
+ * The template is in the classic form, without numbers in place of menu, class and titles. Its title becomes the text
+ * of the window, if it has one.
  *
  * @param instance        Whose resource the template is.
  * @param dialogTemplate  Its name.
  * @param hwnd            The window.
  * @param outRect         Receives the dialog's size in pixels, left and top 0; may be null.
  * @param outFont         Receives the template's font in bold, which the controls get and the caller owns, or null if
- *                        the template names none. A null pointer: the template's font isn't made, and the dialog's units
- *                        are those of the system font.
+ *                        the template names none. A null pointer: the template's font isn't made, and the dialog's
+ *                        units are those of the system font.
  * @return The first child with WS_TABSTOP, else the first child; null if the template isn't found or has no controls.
  * @note A template that is cut off gives the controls in front of the cut. Host code runs inside.
  */
@@ -807,8 +807,8 @@ void* WINAPI FreeDlgInfo(HWND hwnd, int free);
 /** Destroys all children of a window and repaints it. Host code runs inside. @return As EnumChildWindows. */
 BOOL WINAPI ClearDialog(HWND hwnd);
 /**
- * Takes messages for a dialog with a page, before they are dispatched: Tab leaves the page at its ends and enters it from
- * the control that it belongs to, and mnemonics are those of the dialog and the page. It stands in the place of
+ * Takes messages for a dialog with a page, before they are dispatched: Tab leaves the page at its ends and enters it
+ * from the control that it belongs to, and mnemonics are those of the dialog and the page. It stands in the place of
  * IsDialogMessageA in a host's message loop. Host code runs inside.
  *
  * @param hDlg   The dialog.
@@ -819,8 +819,8 @@ BOOL WINAPI ClearDialog(HWND hwnd);
  */
 BOOL WINAPI IsTabDlgMessage(HWND hDlg, HWND hPage, int idTab, MSG* msg);
 /**
- * EnumChildWindows callback that looks for the control with a mnemonic, clicks it if it is a button, and gives it the
- * focus. A walk looks at what stands behind the window of the message, the next walk at the rest.
+ * EnumChildWindows callback that looks for the control with a mnemonic: one with DLGC_BUTTON gets HBM_CLICK, and all
+ * but push buttons get the focus. A walk looks at what stands behind the window of the message, the next at the rest.
  *
  * @param msg  A pointer to the MSG of the key.
  * @return 0 if the mnemonic was found, 1 to go on.

@@ -353,11 +353,14 @@ TEST_F(TabDialog, MnemonicIsTheCharacterBehindTheFirstMark)
 {
     const std::string late = std::string(62, 'x') + "&Z";
     const std::string last = std::string(61, 'x') + "&Z";
-    const TextRow     rows[] = {
-            { "&Go", 'G', true },  { "&go", 'G', true },       { "Let &go", 'G', true },     { "Go", 'G', false },
-            { "Go&", 'G', false }, { "&Let &go", 'G', false }, { "&7 days", '7', true },     { "&&G", 'G', false },
-            { "", 'G', false },    { "&", '0', false },        { late.c_str(), 'Z', false }, { last.c_str(), 'Z', true },
+    // clang-format off
+    const TextRow rows[] = {
+        { "&Go",    'G', true },  { "&go",         'G', true },  { "Let &go",     'G', true },
+        { "Go",     'G', false }, { "Go&",         'G', false }, { "&Let &go",    'G', false },
+        { "&7 days", '7', true }, { "&&G",         'G', false }, { "",            'G', false },
+        { "&",      '0', false }, { late.c_str(),  'Z', false }, { last.c_str(),  'Z', true },
     };
+    // clang-format on
     FillPage();
     const HWND coded = Add(page, "Coded", "", 120);
     for (const TextRow& row : rows) {
