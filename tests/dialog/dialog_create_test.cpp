@@ -2,7 +2,7 @@
 #include "dialog/template_window.h"
 
 #include "dialog/control_frame.h"
-#include "foundation/gdi_guards.h"
+#include "support/screen_resolution.h"
 
 namespace {
 
@@ -380,6 +380,19 @@ TEST_F(DialogInWin, IsPaintedAgain)
     EXPECT_TRUE(GetUpdateRect(parent.hwnd(), nullptr, FALSE));
 }
 
+TEST_F(DialogInWin, IsPaintedWithItsControlsUnlessTheWindowClipsThem)
+{
+    TestTemplate from;
+    from.items = { Static(1, "", WS_VISIBLE) };
+    const LONG style = GetWindowLongA(parent.hwnd(), GWL_STYLE);
+    for (const LONG clip : { 0L, LONG{ WS_CLIPCHILDREN } }) {
+        SetWindowLongA(parent.hwnd(), GWL_STYLE, (style & ~WS_CLIPCHILDREN) | clip);
+        Make(from);
+        EXPECT_EQ(clip == 0, GetUpdateRect(Child(1), nullptr, FALSE) != 0) << clip;
+        ClearDialog(parent.hwnd());
+    }
+}
+
 TEST_F(DialogInWin, OfMoreThan255ItemsMakesAllThereAre)
 {
     TestTemplate from;
@@ -439,6 +452,37 @@ TEST_F(DialogInWin, ComesFromAResourceScript)
     EXPECT_EQ(100 * UnitsOfSystem().x / 4, rect.right);
     EXPECT_EQ(3 * UnitsOfSystem().x, PlaceOfChild(202).left);
     EXPECT_EQ(3 * UnitsOfSystem().y, PlaceOfChild(202).top);
+}
+
+struct PageRow {
+    int id;
+    int x; // dialog units
+    int y;
+};
+
+TEST_F(DialogInWin, WithEveryClassFitsItsPageAtEachResolution)
+{
+    constexpr PageRow rows[] = { { 101, 40, 4 },  { 102, 40, 20 },  { 103, 40, 36 }, { 104, 110, 4 },
+                                 { 105, 168, 4 }, { 106, 168, 20 }, { 107, 4, 56 } };
+    for (const int dpi : { 96, 144 }) {
+        const ScreenResolution resolution(dpi);
+        RECT                   rect = {};
+        HFONT                  font = nullptr;
+        {
+            const ScreenOf screen(dpi);
+            CreateDialogInWin(GetModuleHandleA(nullptr), "TESTPAGE", parent.hwnd(), &rect, &font);
+        }
+        for (const PageRow& row : rows) {
+            const RECT place = PlaceOfChild(row.id);
+            EXPECT_EQ(row.x * UnitsOf(font).x / 4, place.left) << row.id << " at " << dpi;
+            EXPECT_EQ(row.y * UnitsOf(font).y / 8, place.top) << row.id << " at " << dpi;
+            EXPECT_LE(place.left + place.right, rect.right) << row.id << " at " << dpi;
+            EXPECT_LE(place.top + place.bottom, rect.bottom) << row.id << " at " << dpi;
+            EXPECT_EQ(reinterpret_cast<LRESULT>(font), Send(Child(row.id), WM_GETFONT)) << row.id << " at " << dpi;
+        }
+        ClearDialog(parent.hwnd());
+        DeleteObject(font);
+    }
 }
 
 } // namespace
