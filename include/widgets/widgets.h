@@ -763,6 +763,88 @@ int WINAPI GetOverwriteMode(void);
 /** Sets the overwrite mode of all edit controls. @return The old mode. */
 int WINAPI SetOverwriteMode(int mode);
 
+/*
+ * Dialogs in windows
+ *
+ * The controls of a dialog template inside a window that exists already, such as a page of a tabbed dialog, and the Tab
+ * key and mnemonics across the dialog and its page.
+ */
+
+/**
+ * Makes the controls of a dialog template as children of a window, and sends it WM_INITDIALOG.
+ *
+ * The template is in the classic form, without numbers in place of menu, class and titles. Its title becomes the text
+ * of the window, if it has one.
+ *
+ * @param instance        Whose resource the template is.
+ * @param dialogTemplate  Its name.
+ * @param hwnd            The window.
+ * @param outRect         Receives the dialog's size in pixels, left and top 0; may be null.
+ * @param outFont         Receives the template's font in bold, which the controls get and the caller owns, or null if
+ *                        the template names none. A null pointer: the template's font isn't made, and the dialog's
+ *                        units are those of the system font.
+ * @return The first child with WS_TABSTOP, else the first child; null if the template isn't found or has no controls.
+ * @note A template that is cut off gives the controls in front of the cut. Host code runs inside.
+ */
+HWND WINAPI CreateDialogInWin(HINSTANCE instance, const char* dialogTemplate, HWND hwnd, RECT* outRect, HFONT* outFont);
+/**
+ * Hangs a block of the host's information on a window.
+ *
+ * @param block  The block, which FreeDlgInfo can free if it is one of GlobalAlloc with GMEM_FIXED; null: a new one.
+ * @param size   Bytes of a new block, which reads as zero.
+ * @return The block; null if the window has one already, if both block and size are 0, or without memory.
+ */
+void* WINAPI CreateDlgInfo(HWND hwnd, void* block, int size);
+/** @return The block that CreateDlgInfo has hung on the window, or null. */
+void* WINAPI GetDlgInfo(HWND hwnd);
+/**
+ * Takes the block off a window, with the window properties "L" and "H".
+ *
+ * @param free  Non-zero: the block is freed.
+ * @return The block, which is the caller's now; null if it was freed or there was none.
+ */
+void* WINAPI FreeDlgInfo(HWND hwnd, int free);
+/** Destroys all children of a window and repaints it. Host code runs inside. @return As EnumChildWindows. */
+BOOL WINAPI ClearDialog(HWND hwnd);
+/**
+ * Takes messages for a dialog with a page, before they are dispatched: Tab leaves the page at its ends and enters it
+ * from the control that it belongs to, and mnemonics are those of the dialog and the page. It stands in the place of
+ * IsDialogMessageA in a host's message loop. Host code runs inside.
+ *
+ * @param hDlg   The dialog.
+ * @param hPage  The window with the controls of the page, a dialog too; null: there is no page.
+ * @param idTab  Id of the dialog's control to which the page belongs, usually a tab control.
+ * @param msg    The message.
+ * @return Non-zero if the message was used and isn't to be dispatched.
+ */
+BOOL WINAPI IsTabDlgMessage(HWND hDlg, HWND hPage, int idTab, MSG* msg);
+/**
+ * EnumChildWindows callback that looks for the control with a mnemonic: one with DLGC_BUTTON gets HBM_CLICK, and all
+ * but push buttons get the focus. A walk looks at what stands behind the window of the message, the next at the rest.
+ *
+ * @param msg  A pointer to the MSG of the key.
+ * @return 0 if the mnemonic was found, 1 to go on.
+ */
+BOOL CALLBACK IsMnemonic(HWND hwnd, LPARAM msg);
+/**
+ * Centres a pop-up on the client area of its owner, or a window without one on the screen.
+ *
+ * @param yOffset  Pixels to add to y.
+ * @return Non-zero, or 0 if hwnd isn't a window.
+ * @note The corner never lies beyond the left or the upper edge of the screen.
+ */
+BOOL WINAPI CenterWindow(HWND hwnd, int yOffset);
+/** Centres a top-level window on the mouse pointer, held to the screen. @return Non-zero, or 0 on failure. */
+BOOL WINAPI CenterAboutCursor(HWND hwnd);
+/** @return The height of a window with its frame in pixels; 0 if hwnd isn't a window. */
+int WINAPI WindowHeight(HWND hwnd);
+/** @return The width of a window with its frame in pixels; 0 if hwnd isn't a window. */
+int WINAPI WindowWidth(HWND hwnd);
+/** Converts both corners of a rectangle from the screen to the client coordinates of a window, in place. */
+void WINAPI RStoC(HWND hwnd, RECT* rect);
+/** Converts both corners of a rectangle from the client coordinates of a window to the screen, in place. */
+void WINAPI RCtoS(HWND hwnd, RECT* rect);
+
 /* Drawing */
 
 /** Text in COLOR_GRAYTEXT. */

@@ -10,13 +10,6 @@ constexpr int usualList = 100;   // or else this
 constexpr int lineMargin = 8;    // above and below the text of a face
 constexpr int leastTextLeft = 2; // where an edit's text begins
 
-int WindowHeight(HWND hwnd)
-{
-    RECT rect = {};
-    GetWindowRect(hwnd, &rect);
-    return static_cast<int>(rect.bottom - rect.top);
-}
-
 int HeightByItself(const HCombCtl* ctl)
 {
     const int height = WindowHeight(ctl->hWnd) * linesOfList;

@@ -17,7 +17,3 @@ DWORD HMeasureLines(HDC hdc, const char* text); // widest line in the low word, 
 // The common form of bounds: a double for numbers, three words for dates and times. 0 for another class.
 int HToCanon(double* out, const void* value, char dataClass, char dataType);
 int HFromCanon(const double* canon, void* value, char dataClass, char dataType);
-
-// Screen to client coordinates of a window and back, in place.
-void RStoC(HWND hwnd, RECT* rect);
-void RCtoS(HWND hwnd, RECT* rect);

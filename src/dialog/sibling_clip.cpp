@@ -1,4 +1,4 @@
-// Keeps a control from painting over its siblings, and converts rectangles between screen and client.
+// Keeps a control from painting over its siblings.
 #include "dialog/control_frame.h"
 
 #include "foundation/memory.h"
@@ -48,20 +48,4 @@ int HClipSiblings(HWND hwnd, HDC hdc)
     SiblingClip clip = { hdc, hwnd, {} };
     GetWindowRect(hwnd, &clip.screen);
     return EnumChildWindows(GetParent(hwnd), ClipSibs, reinterpret_cast<LPARAM>(&clip));
-}
-
-void RStoC(HWND hwnd, RECT* rect)
-{
-    POINT corners[] = { { rect->left, rect->top }, { rect->right, rect->bottom } };
-    ScreenToClient(hwnd, &corners[0]);
-    ScreenToClient(hwnd, &corners[1]);
-    *rect = { corners[0].x, corners[0].y, corners[1].x, corners[1].y };
-}
-
-void RCtoS(HWND hwnd, RECT* rect)
-{
-    POINT corners[] = { { rect->left, rect->top }, { rect->right, rect->bottom } };
-    ClientToScreen(hwnd, &corners[0]);
-    ClientToScreen(hwnd, &corners[1]);
-    *rect = { corners[0].x, corners[0].y, corners[1].x, corners[1].y };
 }

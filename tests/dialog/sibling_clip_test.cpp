@@ -1,4 +1,4 @@
-// Siblings are taken out of a clip region, and rectangles converted.
+// Siblings are taken out of a clip region.
 #include "dialog/test_control.h"
 
 #include "foundation/gdi_guards.h"
@@ -74,21 +74,6 @@ TEST_F(SiblingClip, AlwaysGoesOn)
     } data = { nullptr, drawing_, {} };
     EXPECT_EQ(TRUE, ClipSibs(drawing_, reinterpret_cast<LPARAM>(&data)));
     EXPECT_EQ(TRUE, ClipSibs(Sibling("STATIC", { 0, 0, 5, 5 }), reinterpret_cast<LPARAM>(&data)));
-}
-
-TEST_F(SiblingClip, RectanglesGoToTheScreenAndBack)
-{
-    RECT  rect = { 1, 2, 30, 40 };
-    POINT origin = {};
-    ClientToScreen(drawing_, &origin);
-    RCtoS(drawing_, &rect);
-    EXPECT_EQ(origin.x + 1, rect.left);
-    EXPECT_EQ(origin.y + 2, rect.top);
-    EXPECT_EQ(origin.x + 30, rect.right);
-    EXPECT_EQ(origin.y + 40, rect.bottom);
-    RStoC(drawing_, &rect);
-    const RECT back = { 1, 2, 30, 40 };
-    EXPECT_TRUE(EqualRect(&back, &rect));
 }
 
 } // namespace

@@ -94,6 +94,15 @@ typedef struct tagSIZE {
     LONG cy;
 } SIZE;
 
+typedef struct tagMSG {
+    HWND   hwnd;
+    UINT   message;
+    WPARAM wParam;
+    LPARAM lParam;
+    DWORD  time;
+    POINT  pt;
+} MSG;
+
 typedef struct tagOFSTRUCT {
     BYTE cBytes;
     BYTE fFixedDisk;

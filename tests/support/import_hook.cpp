@@ -15,39 +15,35 @@ T* At(ULONG_PTR offset)
     return reinterpret_cast<T*>(reinterpret_cast<BYTE*>(GetModuleHandleA(nullptr)) + offset);
 }
 
-const IMAGE_IMPORT_DESCRIPTOR* ImportsOf(const char* library)
-{
-    const auto* const headers = At<IMAGE_NT_HEADERS>(static_cast<ULONG_PTR>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
-    const DWORD offset = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
-    for (const auto* import = At<IMAGE_IMPORT_DESCRIPTOR>(offset); import->Name; ++import) {
-        if (lstrcmpiA(At<char>(import->Name), library) == 0) {
-            return import;
-        }
-    }
-    return nullptr;
-}
-
 bool IsNamed(const IMAGE_THUNK_DATA& import, const char* function)
 {
     return !IMAGE_SNAP_BY_ORDINAL(import.u1.Ordinal) &&
            std::strcmp(At<char>(import.u1.AddressOfData + offsetof(IMAGE_IMPORT_BY_NAME, Name)), function) == 0;
 }
 
-// Null if the program doesn't import the function.
-void** SlotOf(const char* function)
+// Null if the library isn't where the program has the function from.
+void** SlotIn(const IMAGE_IMPORT_DESCRIPTOR& library, const char* function)
 {
-    const IMAGE_IMPORT_DESCRIPTOR* const import = ImportsOf("USER32.dll");
-    if (!import) {
-        return nullptr;
-    }
-    const auto* name = At<IMAGE_THUNK_DATA>(import->OriginalFirstThunk);
-    auto*       slot = At<IMAGE_THUNK_DATA>(import->FirstThunk);
+    const auto* name = At<IMAGE_THUNK_DATA>(library.OriginalFirstThunk);
+    auto*       slot = At<IMAGE_THUNK_DATA>(library.FirstThunk);
     for (; name->u1.AddressOfData; ++name, ++slot) {
         if (IsNamed(*name, function)) {
             return reinterpret_cast<void**>(&slot->u1.Function);
         }
     }
     return nullptr;
+}
+
+// Null if the program doesn't import the function.
+void** SlotOf(const char* function)
+{
+    const auto* const headers = At<IMAGE_NT_HEADERS>(static_cast<ULONG_PTR>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+    const DWORD offset = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
+    void**      slot = nullptr;
+    for (const auto* library = At<IMAGE_IMPORT_DESCRIPTOR>(offset); !slot && library->Name; ++library) {
+        slot = SlotIn(*library, function);
+    }
+    return slot;
 }
 
 void Store(void** slot, void* function)

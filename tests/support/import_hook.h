@@ -1,4 +1,4 @@
-// A function of USER32 that this program calls is replaced by another one, so that a test sees the calls of the code
+// A function of the system that this program calls is replaced by another one, so that a test sees the calls of the code
 // that is linked into it.
 #pragma once
 

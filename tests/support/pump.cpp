@@ -1,11 +1,13 @@
 // Message pumping of window tests.
 #include "support/pump.h"
 
+#include <utility>
+
 namespace {
 
 constexpr DWORD longestWait = 10;
 
-HWND gDialog;
+std::function<bool(MSG*)> gFilter;
 
 } // namespace
 
@@ -13,7 +15,7 @@ void PumpPending()
 {
     MSG message;
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
-        if (gDialog && IsDialogMessageA(gDialog, &message)) {
+        if (gFilter && gFilter(&message)) {
             continue;
         }
         TranslateMessage(&message);
@@ -21,9 +23,15 @@ void PumpPending()
     }
 }
 
+void PumpThrough(std::function<bool(MSG*)> filter)
+{
+    gFilter = std::move(filter);
+}
+
 void PumpForDialog(HWND dialog)
 {
-    gDialog = dialog;
+    PumpThrough(dialog ? [dialog](MSG* message) { return IsDialogMessageA(dialog, message) != 0; }
+                       : std::function<bool(MSG*)>());
 }
 
 bool PumpUntil(const std::function<bool()>& condition, DWORD limitMs)
