@@ -122,7 +122,10 @@ LRESULT ComboCellProc(int code, HWND hwnd, UINT message, WPARAM wParam, LPARAM l
     case WWM_CHILDBLUR: {
         const HWND grid = record->hParent;
         HCombWnd(hwnd, message, wParam, lParam);
-        SendMessageA(grid, message, wParam, lParam);
+        // A face that took the focus back while it was leaving has a validator that refused: it hasn't left.
+        if (message == WWM_CHILDFOCUS || !IsChild(hwnd, GetFocus())) {
+            SendMessageA(grid, message, wParam, lParam);
+        }
         return 0;
     }
     default:

@@ -6,6 +6,7 @@
 #include "support/mouse_hooks.h"
 #include "support/pixels.h"
 
+#include <cstring>
 #include <functional>
 #include <vector>
 
@@ -574,6 +575,62 @@ TEST_F(GridComboCells, TextIsTurnedIntoTheCodeForAFieldAlone)
     MakeColumn({ 'd', true });
     SetText(0, 1, "blue");
     EXPECT_EQ(2, Stored(1));
+    DestroyWindow(grid);
+    MakeColumn({ 'c', true });
+    SetText(0, 1, "blue");
+    LONG asItStands = 0;
+    std::memcpy(&asItStands, "blue", sizeof asItStands);
+    EXPECT_EQ(asItStands, Stored(1));
+}
+
+TEST_F(GridComboCells, UnknownCodeReadsAsAnEmptyText)
+{
+    for (const char kind : { 'c', 'd' }) {
+        SCOPED_TRACE(kind);
+        MakeColumn({ kind, true });
+        Store(1, "", 77);
+        EXPECT_EQ("", CellText(0, 1));
+        EXPECT_EQ(77, Stored(1));
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(GridComboCells, TextOfNoItemMakesACodedCellNull)
+{
+    MakeColumn({ 'c', true });
+    Store(1, "blue", 2);
+    StandOn(0, 1);
+    TypeText("nothing of these");
+    TypeKey(VK_TAB);
+    EXPECT_EQ("", CellText(0, 1));
+    EXPECT_TRUE(HGIsCellNull(grid, 0, 1));
+}
+
+TEST_F(GridComboCells, F5GoesToTheStandingEditorWithTheFocus)
+{
+    for (const Kind& kind : kinds) {
+        SCOPED_TRACE(NameOf(kind));
+        MakeColumn(kind, HCS_XBUTTON);
+        StandOn(0, 1);
+        TypeKey(VK_F5);
+        EXPECT_EQ((Ints{ HGN_EDITFOCUS, HGN_EDITBLUR, HGN_EDITDONE }), Told());
+        EXPECT_FALSE(IsOpen());
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(GridComboCells, NoKeyReachesTheComboOfAReadOnlyGrid)
+{
+    ForEachKind([&] {
+        Send(grid, HGM_SETSTYLEBITS, 1, HGS_READONLY);
+        StandOn(0, 1);
+        for (const WORD key : { WORD{ VK_F2 }, WORD{ VK_F4 }, WORD{ VK_F5 } }) {
+            TypeKey(key);
+            EXPECT_FALSE(IsOpen());
+            EXPECT_EQ(grid, GetFocus());
+        }
+        EXPECT_EQ((Ints{}), Told());
+    });
 }
 
 TEST_F(GridComboCells, CellProceduresHandStateToTheCombo)
