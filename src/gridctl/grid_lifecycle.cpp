@@ -2,40 +2,11 @@
 #include "gridctl/grid_handlers.h"
 
 #include "foundation/gdi_guards.h"
-#include "foundation/startup.h"
 #include "griddata/grid_file.h"
 
 #include <algorithm>
 
 namespace {
-
-// Cursors that all grids share while there are any.
-constexpr int sharedCursors[] = { 4302, 4303, 4304 };
-HCURSOR       gCursors[3];
-int           gInstances;
-
-void AddInstance()
-{
-    if (gInstances++ > 0) {
-        return;
-    }
-    for (int i = 0; i < 3; ++i) {
-        gCursors[i] = LoadCursorA(hInstance, MAKEINTRESOURCEA(sharedCursors[i]));
-    }
-}
-
-void DropInstance()
-{
-    if (--gInstances > 0) {
-        return;
-    }
-    for (HCURSOR& cursor : gCursors) {
-        if (cursor) {
-            DestroyCursor(cursor);
-        }
-        cursor = nullptr;
-    }
-}
 
 // The bits that a loaded definition decides; the creation decides the others.
 DWORD MergeStyles(DWORD definition, DWORD creation)
@@ -72,7 +43,7 @@ HGridCtl* MakeRecord(HWND hwnd, const CREATESTRUCTA* create)
         return nullptr;
     }
     SendMessageA(hwnd, WWM_SETSTATE, 0, reinterpret_cast<LPARAM>(ctl));
-    AddInstance();
+    HGAddCursorUser();
     ctl->hWnd = hwnd;
     ctl->hParent = create->hwndParent;
     ctl->wId = static_cast<DWORD>(reinterpret_cast<UINT_PTR>(create->hMenu));
@@ -271,7 +242,7 @@ void HGOnNcDestroy(HGridCtl* ctl)
     const HWND hwnd = ctl->hWnd;
     HGridDestroy(ctl->pData);
     ctl->pData = nullptr;
-    DropInstance();
+    HGDropCursorUser();
     SendMessageA(hwnd, WWM_SETSTATE, 0, 0);
     HBlockFree(ctl);
 }

@@ -47,6 +47,11 @@ LRESULT OnRightDown(HGridCtl* ctl, const MsgArgs& args)
     return AskDefault(args);
 }
 
+LRESULT OnSetCursor(HGridCtl* ctl, const MsgArgs& args)
+{
+    return HGSizeHit(ctl, args.hwnd, static_cast<short>(LOWORD(args.lParam))) ? 1 : AskDefault(args);
+}
+
 // Mouse messages run their step, and the default follows.
 LRESULT OnMouse(HGridCtl* ctl, const MsgArgs& args)
 {
@@ -86,6 +91,7 @@ LRESULT OnWindowMessage(HGridCtl* ctl, const MsgArgs& args)
     case WM_CLOSE:            return OnClose(ctl, args);
     case WM_QUERYENDSESSION:  return 1;
     case WM_CANCELMODE:       ctl->wFlags |= CF_CANCEL; return AskDefault(args);
+    case WM_SETCURSOR:        return OnSetCursor(ctl, args);
     case WM_SETFONT:          return HGOnSetFont(ctl, args);
     case WM_GETDLGCODE:       return OnDlgCode(ctl);
     case WM_KEYDOWN:          return HGOnKeyDown(ctl, wParam, lParam, args.pDefault);
