@@ -815,6 +815,188 @@ void WINAPI HNCPaint(HWND hwnd, int fBorder);
 void WINAPI DrawPushButton(HWND hwnd, HDC dc, RECT* rect, int unused, WORD flags, const char* text, HFONT font,
                            HBITMAP bitmap, COLORREF textColor, int image);
 
+/* Pictures */
+
+/** Nothing. A kind of picture. */
+#define PIC_NONE 0
+/** A bitmap without a palette. A kind of picture. */
+#define PIC_BITMAP 1
+/** An icon. A kind of picture. */
+#define PIC_ICON 2
+/** A bitmap made from a DIB, perhaps with a palette. A kind of picture. */
+#define PIC_DIB 3
+/** An image of the library's strip. A kind of picture. */
+#define PIC_STRIP 4
+
+#pragma pack(push, 8)
+/** A picture that LoadPic has found, or none. */
+typedef struct Pic {
+    DWORD    nKind;    /**< PIC_ kind. */
+    HANDLE   hImage;   /**< Bitmap or icon; -1 for PIC_STRIP, null for none. */
+    HPALETTE hPalette; /**< Palette of PIC_DIB, or null. */
+    int      nImage;   /**< For PIC_STRIP, the index of the image. */
+} Pic;
+#pragma pack(pop)
+
+/**
+ * Finds a picture by its name and counts one use more of it; each picture is loaded once.
+ *
+ * Tried in this order: "IM" and a number, an image of the library's strip; a bitmap, then an icon among the resources of
+ * module, then of the library; a file, first as ".BMP", then as ".ICO" where the name has no dot.
+ *
+ * @param pic     Filled in; without a picture all zero.
+ * @param module  Whose resources are tried first; null: the program's.
+ * @param name    The name; case doesn't matter for a picture that is loaded already.
+ * @return 1, or 0 if the name leads nowhere or the file is damaged. FreePic gives a picture back.
+ */
+int WINAPI LoadPic(Pic* pic, HINSTANCE module, const char* name);
+/**
+ * Gives one use of a picture back; with the last one the picture goes.
+ *
+ * @param unused  Not read.
+ * @return 1 while others use it; 0 for a picture that LoadPic hasn't given and for one of the strip; else the result of
+ *         the platform's deletion.
+ */
+int WINAPI FreePic(const Pic* pic, int unused);
+/**
+ * Draws a picture at its own size; an icon at the system's size of icons.
+ *
+ * @param x, y  Upper left corner.
+ * @param key   Colour of a bitmap that isn't drawn; 0: all of it is drawn.
+ * @return 1; 0 for an unknown kind. For an icon the platform's result.
+ */
+int WINAPI PaintPic(HDC dc, const Pic* pic, int x, int y, COLORREF key);
+/** Tells the size of a picture in pixels. @return 1, or 0 for an unknown kind. */
+int WINAPI GetPicDimensions(const Pic* pic, int* outWidth, int* outHeight);
+
+/*
+ * Button control
+ *
+ * The class "HButt": push button, check box and button of many states, with a caption, a picture for each state and a
+ * sound. A window text that begins with a digit describes it: the place of the caption, the place of the picture, and how
+ * the caption lies to it where both have one place, a digit each from 0 (upper left) to 8 (lower right); for HBS_CHECK a
+ * type letter of class b; ";", the caption ("^" breaks the line); ";", names of pictures separated by ":"; ";", a sound,
+ * perhaps with "%a" before it for HBS_ASYNCSOUND. Colour groups may stand before the caption, its colour, and before the
+ * pictures, the colour that isn't drawn. Any other text is a caption.
+ */
+
+/** The kind's bits; kinds that aren't named draw like push buttons. Style bits. */
+#define HBS_KINDMASK 0x000F
+/** Push button. A kind. */
+#define HBS_PUSH 0x0000
+/** Default push button, with a dark frame. A kind. */
+#define HBS_DEFPUSH 0x0001
+/** Check button. A kind. */
+#define HBS_CHECK 0x0002
+/** Button of three or more states. A kind. */
+#define HBS_THREESTATE 0x0004
+/** Painted straight onto the parent's background. Style bit. */
+#define HBS_TRANSPARENT 0x0010
+/** Caption left-aligned, not centred. Style bit. */
+#define HBS_LEFTTEXT 0x0020
+/** Caption right-aligned; wins over HBS_LEFTTEXT. Style bit. */
+#define HBS_RIGHTTEXT 0x0040
+/** Takes no focus; WS_TABSTOP goes at creation, and BM_SETSTYLE is refused. Style bit. */
+#define HBS_NOFOCUS 0x0080
+/** The parent is asked to draw it first (WM_DRAWITEM). Style bit. */
+#define HBS_OWNERDRAW 0x0100
+/** Two pictures a value: the second one shows while the button is pressed. Style bit. */
+#define HBS_UPDOWN 0x0400
+/** A click steps the value, and a value above 0 clears the radio buttons of its group. Style bit. */
+#define HBS_AUTO 0x0800
+/** No raised face. Style bit. */
+#define HBS_NOFACE 0x1000
+/** A white shadow of the caption. Style bit. */
+#define HBS_SHADOWTEXT 0x2000
+/** Sounds play on while the program runs on. Style bit. */
+#define HBS_ASYNCSOUND 0x8000
+
+/*
+ * Messages of the button. It also answers BM_GETCHECK (240), BM_SETCHECK (241, wParam: value, lParam: notify),
+ * BM_GETSTATE (242: 1 while pressed), BM_SETSTATE (243, wParam: pressed), BM_SETSTYLE (244, wParam: kind) and BM_CLICK
+ * (245). Places count from 0 to 8.
+ */
+
+/** Gives the picture's place. */
+#define HBM_GETPICPOS 1054
+/** wParam: index. Gives the handle of the picture; 0 out of range. */
+#define HBM_GETPIC 1055
+/** Gives the number of pictures. */
+#define HBM_GETPICCOUNT 1056
+/** Gives the colour of pictures that isn't drawn. */
+#define HBM_GETPICKEY 1057
+/** Gives the place of the caption relative to the picture. */
+#define HBM_GETRELPOS 1058
+/** wParam: bytes of lParam, a buffer. Gives the sound resource; without one copies the file's name, gives its length. */
+#define HBM_GETSOUND 1059
+/** Gives the caption's place. */
+#define HBM_GETTEXTPOS 1060
+/** Gives the kind. */
+#define HBM_GETKIND 1063
+/** wParam: place. Gives 1; 0 for a place above 8. */
+#define HBM_SETPICPOS 1074
+/**
+ * wParam: index, and PIC_ kind in the high word, 0 to keep it. lParam: handle, which stays the host's; 0: the library's
+ * default picture, if any. Gives the old handle; 0 out of range, or for one that the library has freed.
+ */
+#define HBM_SETPIC 1075
+/** lParam: colour of pictures that isn't drawn. Gives 1. */
+#define HBM_SETPICKEY 1076
+/** wParam: place. Gives 1; 0 for a place above 8. */
+#define HBM_SETRELPOS 1077
+/** wParam: sound resource, or 0. lParam: file name, or 0. A name gives 1 if it is found; else the old resource. */
+#define HBM_SETSOUND 1078
+/** wParam: place. Gives 1; 0 for a place above 8. */
+#define HBM_SETTEXTPOS 1079
+/** lParam: out, of the value's type. Gives its bytes, 0 for the null value, -1 for a null pointer. */
+#define HBM_GETVALUE 1080
+/** lParam: value, or null for the null value. Gives 1. */
+#define HBM_SETVALUE 1081
+/** Gives the variable that mirrors the value, or null. */
+#define HBM_GETLINK 1082
+/** lParam: variable that mirrors the value from now on and gives it now; null for none and the null value. Gives 1. */
+#define HBM_SETLINK 1083
+/** Gives the bytes of the value. */
+#define HBM_GETVALUESIZE 1084
+/** Gives the number of states. */
+#define HBM_GETSTATECOUNT 1085
+/** Gives 0 if the next window is a radio button of the same group, else 1. */
+#define HBM_ISGROUPEND 1086
+/** wParam: number of pictures, 255 at the most. Fewer than there are: all of them go first. Gives the number. */
+#define HBM_SETPICCOUNT 1087
+/** wParam: index. Gives the palette of the picture; 0 out of range. */
+#define HBM_GETPALETTE 1088
+/** As a click by the user. Gives 1. */
+#define HBM_CLICK 1123
+/** Gives the background brush of a button without a face, or null. */
+#define HBM_GETBKBRUSH 1124
+/** wParam: brush, or null. Gives the old one. */
+#define HBM_SETBKBRUSH 1125
+/** Gives the caption's colour. */
+#define HBM_GETTEXTCOLOR 1130
+/** lParam: colour. Gives 1. */
+#define HBM_SETTEXTCOLOR 1131
+
+/* Notifications of the button: codes of WM_COMMAND. */
+
+/** The user clicked, or a value was set with a wish for it. */
+#define HBN_CLICKED 0
+/** A double click. */
+#define HBN_DBLCLK 5
+
+/**
+ * Draws the caption of a disabled button: the output procedure that buttons give to GrayStringA.
+ *
+ * @param record  The button's record.
+ * @param length  Not read.
+ * @return 1, or 0 for a null record.
+ */
+BOOL CALLBACK HBDrawText(HDC dc, LPARAM record, int length);
+/** Window procedure of the button. */
+LRESULT CALLBACK HButtWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+/** Message handler of the button, for use with HandleMsg at an offset of one word. */
+LRESULT CALLBACK HButtMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record);
+
 /* Grid definitions */
 
 /** Read-only grid: no editor is ever shown. Style bit. */

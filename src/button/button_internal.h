@@ -1,5 +1,9 @@
-// What the drawing sources share.
+// What the sources of buttons and drawing share.
 #pragma once
+
+#include "button/button_control.h"
+#include "button/button_layout.h"
+#include "dialog/message_table.h"
 
 #include <windows.h>
 
@@ -16,3 +20,77 @@ struct MemoryDC {
     MemoryDC(const MemoryDC&) = delete;
     MemoryDC& operator=(const MemoryDC&) = delete;
 };
+
+// Questions about a button's record
+
+inline bool HasStyle(const HButtCtl* ctl, DWORD bits)
+{
+    return (ctl->dwStyle & bits) != 0;
+}
+inline bool HasFlag(const HButtCtl* ctl, WORD bits)
+{
+    return (ctl->wFlags & bits) != 0;
+}
+inline void SetFlag(HButtCtl* ctl, WORD bits, bool on)
+{
+    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
+}
+inline DWORD KindOf(const HButtCtl* ctl)
+{
+    return ctl->dwStyle & HBS_KINDMASK;
+}
+// States and pictures that one value takes.
+inline int StatesOfValue(const HButtCtl* ctl)
+{
+    return HasStyle(ctl, HBS_UPDOWN) ? 2 : 1;
+}
+inline int ValueOf(const HButtCtl* ctl)
+{
+    return ctl->bState / StatesOfValue(ctl);
+}
+inline HINSTANCE ModuleOf(const HButtCtl* ctl)
+{
+    return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(ctl->hWnd, GWLP_HINSTANCE));
+}
+
+// Functions below that give a bool tell whether the window is still there; without it the record is gone.
+
+// Type text, pictures and states
+bool HBApplyType(HButtCtl* ctl, const char* text); // false: no memory, and what could be read is there
+bool HBSetCaption(HButtCtl* ctl, const char* text, char delimiter, char** outNext); // false: no memory
+void HBFreeContent(HButtCtl* ctl);
+void HBCountStates(HButtCtl* ctl);                  // after the pictures have changed
+int  HBSetPicCount(HButtCtl* ctl, int count);
+
+// Press and value
+void HBRepaint(HButtCtl* ctl);
+void HBRevealParent(HButtCtl* ctl); // a transparent one hides and shows itself, others repaint
+void HBSetPressed(HButtCtl* ctl, bool pressed);
+bool HBSetState(HButtCtl* ctl, int value, bool notify);
+bool HBClicked(HButtCtl* ctl, bool notify);
+bool HBReadValue(HButtCtl* ctl, const void* value); // null: the null value
+bool HBPress(HButtCtl* ctl);                        // press, show it, sound
+
+// Painting
+struct NullPictures {
+    Pic normal;
+    Pic pressed;
+};
+extern NullPictures gNullPictures; // of all buttons
+bool HBPaint(HButtCtl* ctl, HDC hdc, const RECT& rect, int state, HBRUSH brush);
+bool HBPaintWindow(HButtCtl* ctl, HDC hdc);
+
+// Sounds. The player is bound when the first sound is found; tests put their own in its place.
+using SoundPlayer = BOOL(WINAPI*)(const char* sound, UINT flags);
+extern SoundPlayer pfnPlaySound;
+void HBLoadSound(HButtCtl* ctl, const char* field); // the third field of a type text
+int  HBSetSoundFile(HButtCtl* ctl, const char* name);
+void HBFreeSound(HButtCtl* ctl);
+void HBPlaySound(HButtCtl* ctl);
+
+// Messages
+using ButtonHandler = LRESULT (*)(HButtCtl* ctl, const MsgArgs& args);
+ButtonHandler FindButtonHandler(UINT message); // of the button's own ones and those of the platform's buttons; or null
+LRESULT       HBOnNcCreate(const MsgArgs& args);
+void          HBFreeRecord(HButtCtl* ctl);
+LRESULT       HBOnInput(HButtCtl* ctl, const MsgArgs& args); // keys, mouse, focus; others ask for the default

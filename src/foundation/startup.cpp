@@ -32,6 +32,7 @@ struct ControlClass {
 // In the order of registration.
 // clang-format off
 constexpr ControlClass controlClasses[] = {
+    { "HButt",    0x408B, HButtWnd, 2, ClassCursor::Arrow, 0,          COLOR_WINDOW + 1, 1 },
     { "HEdit_SS", 0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
     { "HEdit",    0x400B, HEditWnd, 1, ClassCursor::IBeam, 0,          0,                0 },
     { "HList",    0x400B, HListWnd, 1, ClassCursor::None,  0,          0,                0 },

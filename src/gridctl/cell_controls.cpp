@@ -77,7 +77,6 @@ struct CellKind {
 constexpr int kindCount = 6;
 
 // The order of the kinds is part of the interface: it gives the control ids.
-// A kind whose class isn't registered gets no window; its procedure comes with its control.
 // Settled: kind q has no procedure at all, its child is for a subclass of the host.
 // clang-format off
 constexpr CellKind kinds[kindCount] = {
@@ -85,7 +84,7 @@ constexpr CellKind kinds[kindCount] = {
     { 'l', "HList",    ListText,     true,  0x00800020, 0x40000011, HGListCellProc },
     { 'c', "HComb",    ComboText,    true,  0x00800020, 0x40000019, HGComboCellProc },
     { 'd', "HComb",    ComboText,    true,  0x00800020, 0x40000011, HGFieldComboCellProc },
-    { 'k', "HButt",    CheckText,    false, 0,          0x40001C02, nullptr },
+    { 'k', "HButt",    CheckText,    false, 0,          0x40001C02, HGCheckCellProc },
     { 'q', "HEdit_SS", BareEditText, true,  0x00800000, 0x40000200, nullptr },
 };
 // clang-format on

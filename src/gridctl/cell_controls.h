@@ -16,3 +16,4 @@ LRESULT CALLBACK HGEditCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
 LRESULT CALLBACK HGListCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK HGComboCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);      // with an edit
 LRESULT CALLBACK HGFieldComboCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam); // with a list face
+LRESULT CALLBACK HGCheckCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);

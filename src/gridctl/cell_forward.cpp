@@ -4,6 +4,8 @@
 
 #include "edit/edit_control.h"
 
+#include <algorithm>
+
 namespace {
 
 // Who keeps a key while Ctrl is up.
@@ -83,7 +85,8 @@ LRESULT CellProc(WNDPROC own, int code, HWND hwnd, UINT message, WPARAM wParam, 
         return own(hwnd, message, wParam, lParam);
     }
     const ControlHeader* const record = reinterpret_cast<const ControlHeader*>(own(hwnd, WWM_GETSTATE, 0, 0));
-    if (record && message == WM_NCDESTROY) {
+    // A button frees its record at the first of the two, the other controls at the second.
+    if (record && (message == WM_NCDESTROY || (message == WM_DESTROY && code == cellCodeCheck))) {
         ForgetControl(record);
     }
     const bool tellsFocus = message == WM_SETFOCUS || message == WM_KILLFOCUS;
@@ -126,6 +129,31 @@ LRESULT ComboCellProc(int code, HWND hwnd, UINT message, WPARAM wParam, LPARAM l
         break;
     }
     return CellProc(HCombWnd, code, hwnd, message, wParam, lParam);
+}
+
+// A side that is too short for the frame ends up empty, not turned over.
+void Shrink(LONG* low, LONG* high)
+{
+    constexpr LONG frame = 2;
+    const LONG     middle = *low + (*high - *low) / 2;
+    *low = std::min(*low + frame, std::max(*low, middle));
+    *high = std::max(*high - frame, *low);
+}
+
+LRESULT OnCheckNcCalcSize(HWND hwnd, WPARAM wParam, LPARAM lParam)
+{
+    DefWindowProcA(hwnd, WM_NCCALCSIZE, wParam, lParam);
+    RECT* const rect = reinterpret_cast<RECT*>(lParam);
+    Shrink(&rect->left, &rect->right);
+    Shrink(&rect->top, &rect->bottom);
+    return 1;
+}
+
+LRESULT OnCheckNcPaint(HWND hwnd, WPARAM wParam, LPARAM lParam)
+{
+    DefWindowProcA(hwnd, WM_NCPAINT, wParam, lParam);
+    HNCPaint(hwnd, 0);
+    return 1;
 }
 
 } // namespace
@@ -191,4 +219,17 @@ LRESULT CALLBACK HGComboCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 LRESULT CALLBACK HGFieldComboCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ComboCellProc(cellCodeList, hwnd, message, wParam, lParam);
+}
+
+// A check button has no frame of its own; in a cell it has that of the edits.
+LRESULT CALLBACK HGCheckCellProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const bool hasRecord = HButtWnd(hwnd, WWM_GETSTATE, 0, 0) != 0;
+    if (hasRecord && message == WM_NCCALCSIZE) {
+        return OnCheckNcCalcSize(hwnd, wParam, lParam);
+    }
+    if (hasRecord && message == WM_NCPAINT) {
+        return OnCheckNcPaint(hwnd, wParam, lParam);
+    }
+    return CellProc(HButtWnd, cellCodeCheck, hwnd, message, wParam, lParam);
 }

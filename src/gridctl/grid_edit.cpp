@@ -2,7 +2,7 @@
 // What the child does with the value is its own matter; the focus steps are in grid_focus.cpp.
 #include "gridctl/grid_control.h"
 
-#include "griddata/child_messages.h"
+#include "griddata/item_buffer.h"
 
 #include <cstring>
 

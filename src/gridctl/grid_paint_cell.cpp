@@ -1,6 +1,7 @@
 // One data cell: its colours from the cell's flags and the grid's styles, and the painter of its column's control.
 #include "gridctl/grid_paint.h"
 
+#include "button/button_control.h"
 #include "combo/combo_control.h"
 #include "edit/edit_control.h"
 #include "foundation/startup.h"
@@ -135,6 +136,13 @@ bool PaintAsCombo(CellPaint& cell)
     return IsWindow(hwnd) != FALSE;
 }
 
+bool PaintAsCheck(CellPaint& cell)
+{
+    const HWND hwnd = cell.ctl->hWnd;
+    HBDrawValue(reinterpret_cast<HButtCtl*>(cell.field->pCtl), cell.hdc, &cell.rect, cell.brush, cell.value);
+    return IsWindow(hwnd) != FALSE;
+}
+
 // The message is meant for a subclass of the grid, which takes it before the grid's own handler does.
 bool PaintByHost(CellPaint& cell)
 {
@@ -162,6 +170,7 @@ constexpr KindPainter kindPainters[] = {
     { 'c', PaintAsCombo },
     { 'd', PaintAsCombo },
     { 'e', PaintAsEdit },
+    { 'k', PaintAsCheck },
     { 'l', PaintAsList },
     { 'q', PaintByHost },
 };

@@ -2,8 +2,8 @@
 // The row surgery is in grid_rows_bytes.cpp; what the window does with a change is the grid control's.
 #include "griddata/cell_access.h"
 
-#include "griddata/child_messages.h"
 #include "griddata/grid_services.h"
+#include "griddata/item_buffer.h"
 
 #include <algorithm>
 #include <cstring>

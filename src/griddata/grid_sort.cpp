@@ -2,8 +2,8 @@
 // compare says so; here it is reached by sorting an index of the rows and linking the rows anew.
 #include "foundation/merge_sort.h"
 #include "griddata/cell_access.h"
-#include "griddata/child_messages.h"
 #include "griddata/griddata_internal.h"
+#include "griddata/item_buffer.h"
 #include "typed/data_types.h"
 
 #include <algorithm>

@@ -127,12 +127,19 @@ TEST_F(CellControls, HostDrawnKindHasAnEditWithoutFormatAndWithoutWrapping)
     EXPECT_EQ(reinterpret_cast<LONG_PTR>(HGEditCellProc), GetWindowLongPtrA(ChildOf(1), GWLP_WNDPROC));
 }
 
-TEST_F(CellControls, KindsWhoseClassIsNotThereHaveNoChild)
+TEST_F(CellControls, ChildWithoutARecordIsNone)
 {
-    const HWND probe = CreateWindowExA(0, "HButt", "", WS_CHILD, 0, 0, 1, 1, parent.hwnd(), nullptr, nullptr, nullptr);
-    ASSERT_FALSE(probe) << "once there are buttons, this test has nothing to tell";
+    WNDCLASSA info = {}; // the host's own class goes before the library's
+    info.lpfnWndProc = DefWindowProcA;
+    info.hInstance = GetModuleHandleA(nullptr);
+    info.lpszClassName = "HButt";
+    ASSERT_TRUE(RegisterClassA(&info));
     MakeGrid(GridOf({ HGFieldCreate("K", 0, 80, 0, 'b', 'c', 0, 0, 0, 'k', 0, "", 0) }), 1);
+    EXPECT_EQ(nullptr, HGGetField(ctl->pData, 0)->pCtl);
     EXPECT_FALSE(IsWindow(ChildOf(0)));
+    EXPECT_EQ(0, HGCreateCellCtl(ctl, ctl->pData, HGGetField(ctl->pData, 0)));
+    DestroyWindow(grid);
+    UnregisterClassA("HButt", GetModuleHandleA(nullptr));
 }
 
 TEST_F(CellControls, LongFormatsAreCarriedWhole)

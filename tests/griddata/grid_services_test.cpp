@@ -5,7 +5,6 @@
 #include "foundation/screen.h"
 #include "foundation/startup.h"
 #include "griddata/cell_access.h"
-#include "griddata/child_messages.h"
 #include "native/grid_fakes.h"
 #include "native/native_platform.h"
 

@@ -59,6 +59,7 @@ decltype(DeleteObject)* gDeleteObject;
 decltype(DeleteDC)*     gDeleteDC;
 decltype(ReleaseDC)*    gReleaseDC;
 decltype(EndPaint)*     gEndPaint;
+decltype(DestroyIcon)*  gDestroyIcon;
 
 BOOL WINAPI CountedDeleteObject(HGDIOBJ object)
 {
@@ -85,6 +86,12 @@ BOOL WINAPI CountedEndPaint(HWND hwnd, const PAINTSTRUCT* ps)
 {
     Gone(ps->hdc);
     return gEndPaint(hwnd, ps);
+}
+
+BOOL WINAPI CountedDestroyIcon(HICON icon)
+{
+    Gone(icon);
+    return gDestroyIcon(icon);
 }
 
 // Puts hook in place of the imported function and keeps that in *next.
@@ -122,9 +129,12 @@ void ReplaceImport(ULONG_PTR* slot, const char* imported)
     MAKER(CreateCompatibleBitmap);
     MAKER(CreateCompatibleDC);
     MAKER(CreateDIBSection);
+    MAKER(CreateDIBitmap);
     MAKER(CreateFontA);
     MAKER(CreateFontIndirectA);
     MAKER(CreateHatchBrush);
+    MAKER(CreateIcon);
+    MAKER(CreatePalette);
     MAKER(CreatePatternBrush);
     MAKER(CreatePen);
     MAKER(CreatePenIndirect);
@@ -140,6 +150,7 @@ void ReplaceImport(ULONG_PTR* slot, const char* imported)
     ENDER(DeleteDC)
     ENDER(ReleaseDC)
     ENDER(EndPaint)
+    ENDER(DestroyIcon)
 }
 
 void ReplaceImportsFrom(BYTE* base, const IMAGE_IMPORT_DESCRIPTOR& import)

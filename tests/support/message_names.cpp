@@ -83,6 +83,14 @@ constexpr Named comboMessages[] = {
     N(HCM_SETDROPWIDTH), N(HCM_SETLIST), N(HCM_SETOPTIONS), N(CB_SHOWDROPDOWN), N(CB_SETCURSEL), N(CB_GETCURSEL),
 };
 
+constexpr Named buttonMessages[] = {
+    N(HBM_GETPICPOS), N(HBM_GETPIC), N(HBM_GETPICCOUNT), N(HBM_GETPICKEY), N(HBM_GETRELPOS), N(HBM_GETSOUND),
+    N(HBM_GETTEXTPOS), N(HBM_GETKIND), N(HBM_SETPICPOS), N(HBM_SETPIC), N(HBM_SETPICKEY), N(HBM_SETRELPOS),
+    N(HBM_SETSOUND), N(HBM_SETTEXTPOS), N(HBM_GETVALUE), N(HBM_SETVALUE), N(HBM_GETLINK), N(HBM_SETLINK),
+    N(HBM_GETVALUESIZE), N(HBM_GETSTATECOUNT), N(HBM_ISGROUPEND), N(HBM_SETPICCOUNT), N(HBM_GETPALETTE), N(HBM_CLICK),
+    N(HBM_GETBKBRUSH), N(HBM_SETBKBRUSH), N(HBM_GETTEXTCOLOR), N(HBM_SETTEXTCOLOR),
+};
+
 constexpr Named gridNotifications[] = {
     N(HGN_SETFOCUS), N(HGN_KILLFOCUS), N(HGN_MOVED), N(HGN_DBLCLK), N(HGN_DESTROY), N(HGN_RBUTTONDOWN),
     N(HGN_ABOVETOP), N(HGN_BELOWEND), N(HGN_NEWROW), N(HGN_ROWCHANGED), N(HGN_CELLCHANGED), N(HGN_ROWDELETING),
@@ -103,6 +111,8 @@ constexpr Named comboNotifications[] = {
     N(HCN_BACKTAB),
 };
 
+constexpr Named buttonNotifications[] = { N(HBN_CLICKED), N(HBN_DBLCLK) };
+
 // clang-format on
 #undef N
 
@@ -121,9 +131,36 @@ bool IsEdit(const char* className)
     return className && std::strncmp(className, "HEdit", 5) == 0;
 }
 
+bool IsButton(const char* className)
+{
+    return className && std::strcmp(className, "HButt") == 0;
+}
+
 bool IsCombo(const char* className)
 {
     return className && std::strcmp(className, "HComb") == 0;
+}
+
+std::span<const Named> MessagesOf(const char* className)
+{
+    if (IsButton(className)) {
+        return buttonMessages;
+    }
+    if (IsCombo(className)) {
+        return comboMessages;
+    }
+    return IsEdit(className) ? std::span<const Named>(editMessages) : std::span<const Named>(gridMessages);
+}
+
+std::span<const Named> NotificationsOf(const char* className)
+{
+    if (IsButton(className)) {
+        return buttonNotifications;
+    }
+    if (IsCombo(className)) {
+        return comboNotifications;
+    }
+    return IsEdit(className) ? std::span<const Named>(editNotifications) : std::span<const Named>(gridNotifications);
 }
 
 std::string NameOr(const char* name, const char* format, UINT number)
@@ -145,17 +182,12 @@ std::string MessageName(UINT message, const char* className)
         name = Find(commonMessages, message);
     }
     if (!name) {
-        name = IsEdit(className)    ? Find(editMessages, message)
-               : IsCombo(className) ? Find(comboMessages, message)
-                                    : Find(gridMessages, message);
+        name = Find(MessagesOf(className), message);
     }
     return NameOr(name, "0x%04X", message);
 }
 
 std::string NotificationName(UINT code, const char* className)
 {
-    const char* const name = IsEdit(className)    ? Find(editNotifications, code)
-                             : IsCombo(className) ? Find(comboNotifications, code)
-                                                  : Find(gridNotifications, code);
-    return NameOr(name, "code %u", code);
+    return NameOr(Find(NotificationsOf(className), code), "code %u", code);
 }

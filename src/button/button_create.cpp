@@ -1,0 +1,104 @@
+// How a button's record begins and ends, with the pictures of the null value that all buttons share.
+#include "button/button_internal.h"
+#include "foundation/memory.h"
+#include "foundation/startup.h"
+
+#include <cstring>
+
+NullPictures gNullPictures;
+
+namespace {
+
+int cButtons; // that live
+
+constexpr char   nullPictureName[] = "HC5";
+constexpr size_t typeTextSize = 256; // of a default description without its caption
+
+void EnterButton()
+{
+    if (cButtons++ == 0) {
+        LoadPic(&gNullPictures.normal, hInstance, nullPictureName);
+        LoadPic(&gNullPictures.pressed, hInstance, nullPictureName);
+    }
+}
+
+void LeaveButton()
+{
+    if (--cButtons == 0) {
+        FreePic(&gNullPictures.normal, 0);
+        FreePic(&gNullPictures.pressed, 0);
+        gNullPictures = {};
+    }
+}
+
+// A dialog template may give a number in place of a text.
+const char* WindowTextOf(const CREATESTRUCTA& create)
+{
+    return create.lpszName && !IS_INTRESOURCE(create.lpszName) ? create.lpszName : "";
+}
+
+void FillRecord(HButtCtl* ctl, HWND hwnd, CREATESTRUCTA* create)
+{
+    ctl->hWnd = hwnd;
+    ctl->hParent = create->hwndParent;
+    ctl->wId = LOWORD(create->hMenu);
+    ctl->nGlyph = -1;
+    if (create->style & HBS_NOFOCUS) {
+        create->style &= ~WS_TABSTOP;
+        SetWindowLongA(hwnd, GWL_STYLE, GetWindowLongA(hwnd, GWL_STYLE) & ~WS_TABSTOP);
+    }
+    ctl->dwStyle = static_cast<DWORD>(create->style);
+}
+
+// A caption becomes the default description of its kind around it.
+bool ApplyCaption(HButtCtl* ctl, const char* caption)
+{
+    const size_t size = typeTextSize + std::strlen(caption);
+    char* const  text = static_cast<char*>(HBlockAlloc(size));
+    if (!text) {
+        return false;
+    }
+    bool applied = false;
+    if (LoadDefTypeText(static_cast<int>(KindOf(ctl)), text, static_cast<int>(size), caption)) {
+        applied = HBApplyType(ctl, text);
+    } else {
+        // Kinds without a description of their own keep their caption.
+        applied = HBApplyType(ctl, "") && HBSetCaption(ctl, caption, '\0', nullptr);
+    }
+    HBlockFree(text);
+    return applied;
+}
+
+bool ApplyText(HButtCtl* ctl, const char* text)
+{
+    return *text >= '0' && *text <= '9' ? HBApplyType(ctl, text) : ApplyCaption(ctl, text);
+}
+
+} // namespace
+
+LRESULT HBOnNcCreate(const MsgArgs& args)
+{
+    CREATESTRUCTA* const create = reinterpret_cast<CREATESTRUCTA*>(args.lParam);
+    HButtCtl* const      ctl = HRecordAlloc<HButtCtl>();
+    if (!ctl) {
+        return 0;
+    }
+    FillRecord(ctl, args.hwnd, create);
+    if (!ApplyText(ctl, WindowTextOf(*create))) {
+        HBFreeContent(ctl);
+        HBlockFree(ctl);
+        return 0;
+    }
+    SendMessageA(args.hwnd, WWM_SETSTATE, 0, reinterpret_cast<LPARAM>(ctl));
+    EnterButton();
+    return DefWindowProcA(args.hwnd, args.message, args.wParam, args.lParam);
+}
+
+void HBFreeRecord(HButtCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    HBFreeContent(ctl);
+    HBlockFree(ctl);
+    SendMessageA(hwnd, WWM_SETSTATE, 0, 0);
+    LeaveButton();
+}

@@ -1,0 +1,231 @@
+// Mouse, keys and focus on a button: by messages where the order matters, and by real input.
+#include "button_window.h"
+
+namespace {
+
+constexpr LPARAM inside = MAKELPARAM(5, 5);
+constexpr LPARAM outside = MAKELPARAM(500, 5);
+
+class ButtonInput : public ButtonWindow {
+protected:
+    void Down() const { Send(WM_LBUTTONDOWN, MK_LBUTTON, inside); }
+    void Move(LPARAM to, WPARAM buttons = MK_LBUTTON) const { Send(WM_MOUSEMOVE, buttons, to); }
+    void Up(LPARAM at = inside) const { Send(WM_LBUTTONUP, 0, at); }
+    bool HasCapture() const { return GetCapture() == button; }
+};
+
+TEST_F(ButtonInput, MouseDownPressesAndTakesFocusAndCapture)
+{
+    Make("x");
+    Down();
+    EXPECT_TRUE(IsPressed());
+    EXPECT_TRUE(HasCapture());
+    EXPECT_EQ(button, GetFocus());
+    EXPECT_EQ(0, Clicks());
+    Up();
+    EXPECT_FALSE(IsPressed());
+    EXPECT_FALSE(HasCapture());
+    EXPECT_EQ(1, Clicks());
+}
+
+TEST_F(ButtonInput, NoFocusIsTakenByAButtonWithout)
+{
+    Make("x", HBS_NOFOCUS);
+    SetFocus(parent.hwnd());
+    Down();
+    EXPECT_EQ(parent.hwnd(), GetFocus());
+    EXPECT_TRUE(IsPressed());
+    Up();
+    EXPECT_EQ(1, Clicks());
+}
+
+TEST_F(ButtonInput, LeavingMouseReleasesTheFace)
+{
+    Make("x", HBS_CHECK | HBS_AUTO);
+    Down();
+    Move(outside);
+    EXPECT_FALSE(IsPressed());
+    Move(inside);
+    EXPECT_TRUE(IsPressed());
+    Move(outside);
+    Up(outside);
+    EXPECT_FALSE(IsPressed());
+    EXPECT_EQ(0, Clicks());
+    EXPECT_EQ(0, Value());
+}
+
+TEST_F(ButtonInput, MouseCountsOnlyWithCaptureAndButton)
+{
+    Make("x");
+    Move(inside);
+    EXPECT_FALSE(IsPressed());
+    Down();
+    Move(outside, 0);
+    EXPECT_TRUE(IsPressed());
+    Up();
+}
+
+TEST_F(ButtonInput, SpaceBarHoldsTheButtonAndTurnsTheMouseRound)
+{
+    Make("x", HBS_CHECK | HBS_AUTO);
+    Focus();
+    Send(WM_KEYDOWN, VK_SPACE);
+    EXPECT_TRUE(IsPressed());
+    EXPECT_TRUE(HasCapture());
+    Move(inside);
+    EXPECT_FALSE(IsPressed());
+    Move(outside);
+    EXPECT_TRUE(IsPressed());
+    Down();
+    EXPECT_FALSE(IsPressed());
+    Up();
+    EXPECT_TRUE(IsPressed());
+    EXPECT_EQ(0, Clicks());
+    Send(WM_KEYUP, VK_SPACE);
+    EXPECT_FALSE(IsPressed());
+    EXPECT_FALSE(HasCapture());
+    EXPECT_EQ(1, Clicks());
+    EXPECT_EQ(1, Value());
+}
+
+TEST_F(ButtonInput, AnotherKeyThatComesUpEndsTheHoldWithoutAClick)
+{
+    Make("x");
+    Send(WM_KEYDOWN, VK_SPACE);
+    Send(WM_KEYUP, 'A');
+    EXPECT_FALSE(IsPressed());
+    EXPECT_FALSE(HasCapture());
+    Send(WM_KEYUP, VK_SPACE);
+    EXPECT_EQ(0, Clicks());
+}
+
+TEST_F(ButtonInput, SpaceBarIsIgnoredWhileTheMouseHolds)
+{
+    Make("x");
+    Down();
+    Send(WM_KEYDOWN, VK_SPACE);
+    Send(WM_KEYUP, VK_SPACE);
+    EXPECT_TRUE(IsPressed());
+    EXPECT_EQ(0, Clicks());
+    Up();
+    EXPECT_EQ(1, Clicks());
+}
+
+TEST_F(ButtonInput, DoubleClickTells)
+{
+    Make("x");
+    EXPECT_EQ(1, Send(WM_LBUTTONDBLCLK, MK_LBUTTON, inside));
+    EXPECT_EQ(1, parent.Count(HBN_DBLCLK));
+    EXPECT_FALSE(IsPressed());
+}
+
+TEST_F(ButtonInput, ReturnClicks)
+{
+    Make("x", HBS_CHECK | HBS_AUTO);
+    Send(WM_KEYDOWN, VK_RETURN);
+    EXPECT_EQ(1, Clicks());
+    EXPECT_EQ(1, Value());
+}
+
+TEST_F(ButtonInput, FocusLetsGoOfThePress)
+{
+    Make("x");
+    Send(BM_SETSTATE, 0);
+    Ctl()->wFlags |= HBF_PRESSED;
+    Focus();
+    EXPECT_FALSE(IsPressed());
+    Ctl()->wFlags |= HBF_PRESSED;
+    SetFocus(parent.hwnd());
+    EXPECT_FALSE(IsPressed());
+}
+
+TEST_F(ButtonInput, DialogsGiveItNoKeysOfItsOwn)
+{
+    Make("x");
+    EXPECT_EQ(DLGC_STATIC, Send(WM_GETDLGCODE));
+}
+
+TEST_F(ButtonInput, EnablingKeepsTheStyleInStep)
+{
+    Make("x");
+    EnableWindow(button, FALSE);
+    EXPECT_TRUE(Ctl()->dwStyle & WS_DISABLED);
+    Validate();
+    EnableWindow(button, TRUE);
+    EXPECT_FALSE(Ctl()->dwStyle & WS_DISABLED);
+    EXPECT_TRUE(IsInvalid());
+}
+
+TEST_F(ButtonInput, TransparentButtonsHideAndShowThemselves)
+{
+    Make("x", HBS_TRANSPARENT);
+    seen.Watch(button);
+    EnableWindow(button, FALSE);
+    int shows = 0;
+    for (const Seen& line : seen.All()) {
+        shows += line.direction == ToControl && line.code == WM_SHOWWINDOW ? 1 : 0;
+    }
+    EXPECT_EQ(2, shows);
+    EXPECT_TRUE(IsWindowVisible(button));
+    Make("x");
+    seen.Watch(button);
+    SendPtr(WM_SETTEXT, 0, "y");
+    for (const Seen& line : seen.All()) {
+        EXPECT_NE(UINT{ WM_SHOWWINDOW }, line.code);
+    }
+}
+
+TEST_F(ButtonInput, FontIsKeptAndRepaints)
+{
+    Make("x");
+    Validate();
+    const HFONT font = static_cast<HFONT>(GetStockObject(ANSI_VAR_FONT));
+    Ctl()->wFlags |= HBF_PRESSED;
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(font));
+    EXPECT_EQ(reinterpret_cast<LRESULT>(font), Send(WM_GETFONT));
+    EXPECT_TRUE(IsInvalid());
+    EXPECT_TRUE(IsPressed());
+}
+
+// Real keys and a real mouse
+
+TEST_F(ButtonInput, RealMouseClicks)
+{
+    Make("x", HBS_CHECK | HBS_AUTO);
+    ClickAt(button, 10, 10);
+    EXPECT_EQ(1, Clicks());
+    EXPECT_EQ(1, Value());
+    EXPECT_EQ(button, GetFocus());
+}
+
+TEST_F(ButtonInput, RealMouseThatLeavesDoesNotClick)
+{
+    Make("x", HBS_CHECK | HBS_AUTO);
+    PressButton(button, 10, 10);
+    EXPECT_TRUE(IsPressed());
+    MoveMouse(button, 200, 100);
+    EXPECT_FALSE(IsPressed());
+    MoveMouse(button, 10, 10);
+    EXPECT_TRUE(IsPressed());
+    MoveMouse(button, 200, 100);
+    ReleaseButton(button, 200, 100);
+    EXPECT_EQ(0, Clicks());
+    EXPECT_FALSE(HasCapture());
+}
+
+TEST_F(ButtonInput, RealKeysClick)
+{
+    Make("x", HBS_CHECK | HBS_AUTO);
+    Focus();
+    HoldKey(VK_SPACE);
+    HoldKey(VK_SPACE);
+    EXPECT_TRUE(IsPressed());
+    EXPECT_EQ(0, Clicks());
+    ReleaseKey(VK_SPACE);
+    EXPECT_EQ(1, Clicks());
+    TypeKey(VK_RETURN);
+    EXPECT_EQ(2, Clicks());
+    EXPECT_EQ(2, Value());
+}
+
+} // namespace
