@@ -48,8 +48,8 @@ TEST_F(GridSizeZones, WithoutTheStylesThereAreNone)
 
 TEST_F(GridSizeZones, RowEdgesLieInTheHeaderStripAndBelowTheHeader)
 {
-    Make({ Column(80) }, { .style = headers | HGS_ROWSIZE, .rows = 2, .height = 70 });
-    EXPECT_EQ("-1: 16-23; -2: 36-43; -3: 56-63; ", AlongY(20));
+    Make({ Column(80) }, { .style = headers | HGS_ROWSIZE, .rows = 2 });
+    EXPECT_EQ("-1: 16-23; -2: 36-43; -3: 56-63; ", AlongY(20, 0, 70));
 }
 
 TEST_F(GridSizeZones, RowEdgesReachThreePixelsOutOfTheHeaderStrip)
@@ -127,7 +127,7 @@ TEST_F(GridSizeZones, AboveTheMarginOfTheTopThereIsNoRow)
 
 TEST_F(GridSizeZones, RecordOfSeveralBandsHasOneEdge)
 {
-    Make({ Column(80), Column(80, 1) }, { .style = headers | HGS_ROWSIZE, .bands = 2, .rows = 5, .height = 130 });
+    Make({ Column(80), Column(80, 1) }, { .style = headers | HGS_ROWSIZE, .bands = 2, .rows = 5 });
     EXPECT_EQ("-1: 36-43; -2: 76-83; -3: 116-123; ", AlongY(20, 0, 130));
 }
 
