@@ -212,6 +212,7 @@ LRESULT HGOnKillFocus(HGridCtl* ctl, WPARAM wParam, int* pDefault);
 void    HGOnChildFocus(HGridCtl* ctl);
 void    HGOnChildBlur(HGridCtl* ctl);
 LRESULT HGOnCommand(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault);
+int     HGCommand(HGridCtl* ctl, int id, HWND child, int code); // what isn't the editor's; 0
 
 // Painting
 void    HGPaint(HGridCtl* ctl);
@@ -228,4 +229,5 @@ int  HGAttachData(HGridCtl* ctl, HGridData* data);
 void HGReset(HGridCtl* ctl, bool refresh);
 int  HGCreateCellCtl(HGridCtl* ctl, HGridData* grid, HGField* field);
 int  HGCellCtlIndex(char kind); // -1 for a kind without cell control
+void HGForgetHostDrawn(HGridCtl* ctl, HWND child); // a child window goes
 bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
