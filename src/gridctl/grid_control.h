@@ -188,7 +188,7 @@ extern int gGuideLine; // where the guide line stands, as x or y
 constexpr int headerZone = -1;   // the bottom of the column headers
 constexpr int rowHeaderZone = 1; // the right edge of the row headers
 constexpr int firstColumnZone = 2;
-int  HGSizeZoneAt(HGridCtl* ctl, POINT point); // of a point of the window
+int  HGSizeZoneAt(HGridCtl* ctl, POINT point);           // of a point of the window
 int  HGSizeHit(HGridCtl* ctl, HWND window, int hitCode); // sets gSizeZone; 1 if it has set a cursor
 void HGShowMoveCursor();
 void HGAddCursorUser(); // each grid is one

@@ -96,8 +96,8 @@ int ColumnZone(HGridCtl* ctl, ZonePoint at)
     if (!HasColumnZones(ctl, at)) {
         return noZone;
     }
-    const int band = ZoneBand(ctl, at);
-    int col = -1;
+    const int            band = ZoneBand(ctl, at);
+    int                  col = -1;
     const HGField* const field = HGNextColumn(ctl, true, &col, band);
     // Settled: without a column, the band's number stands for a width.
     if (IsRowHeaderEdge(ctl, at.x, field ? ZoneReach(field->nWidth) : band)) {
@@ -117,6 +117,6 @@ int HGSizeZoneAt(HGridCtl* ctl, POINT point)
     }
     const ZonePoint at = { static_cast<int>(point.x - data.left),
                            static_cast<int>(point.y - data.top) + RowMargin(ctl) };
-    const int zone = RowZone(ctl, at);
+    const int       zone = RowZone(ctl, at);
     return zone != noZone ? zone : ColumnZone(ctl, at);
 }

@@ -1,4 +1,4 @@
-// The tips of the navigator's buttons. Their texts come from the host, by a message that its subclass of the grid answers.
+// The tips of the navigator's buttons. The host gives their texts: its subclass of the grid answers a message.
 #include "gridctl/grid_handlers.h"
 
 #include <commctrl.h>

@@ -53,8 +53,8 @@ protected:
     {
         const RECT at = { 10, 10, 410, 10 + height };
         grid = CreateWindowExA(style2, "HGrid", "", WS_CHILD | WS_VISIBLE | HGS_NAVIGATOR | headers | style, at.left,
-                               at.top, at.right - at.left, height, parent.hwnd(), reinterpret_cast<HMENU>(INT_PTR{ 100 }),
-                               GetModuleHandleA(nullptr), nullptr);
+                               at.top, at.right - at.left, height, parent.hwnd(),
+                               reinterpret_cast<HMENU>(INT_PTR{ 100 }), GetModuleHandleA(nullptr), nullptr);
         ctl = RecordOf<HGridCtl>(grid);
         PumpPending();
     }
@@ -87,9 +87,9 @@ protected:
         const bool inStrip = rect.left == client.right - width && rect.right == client.right && IsWindowVisible(child);
         return inStrip ? std::to_string(rect.top) + "-" + std::to_string(rect.bottom) : "elsewhere";
     }
-    static int Step() { return GetSystemMetrics(SM_CYVSCROLL); }
+    static int         Step() { return GetSystemMetrics(SM_CYVSCROLL); }
     static std::string Range(int top, int bottom) { return std::to_string(top) + "-" + std::to_string(bottom); }
-    void PressNav(int id)
+    void               PressNav(int id)
     {
         const int half = GetSystemMetrics(SM_CXVSCROLL) / 2;
         ClickAt(Nav(id), half, half);

@@ -43,7 +43,7 @@ protected:
         EXPECT_EQ(zone, gSizeZone) << what;
         EXPECT_EQ(CursorOf(cursor), GetCursor()) << what;
     }
-    int WidthOf(int col) { return HGGetField(ctl->pData, col)->nWidth; }
+    int     WidthOf(int col) { return HGGetField(ctl->pData, col)->nWidth; }
     LRESULT AskCursor(int hitCode) { return Send(grid, WM_SETCURSOR, reinterpret_cast<WPARAM>(grid), hitCode); }
 };
 
@@ -57,10 +57,10 @@ TEST_F(GridSizeDrag, PointerShowsWhatWouldBeDragged)
         int         cursor;
     };
     constexpr Place places[] = {
-        { "a cell", 160, 90, 0, 4301 },          { "a row's edge", 20, 60, -3, 4302 },
-        { "a cell", 161, 90, 0, 4301 },          { "a column's edge", 120, 8, 2, 4303 },
-        { "a column header", 160, 8, 0, 4301 },  { "the header's edge", 20, 20, -1, 4302 },
-        { "a row header", 20, 70, 0, 4301 },     { "the row headers' edge", 40, 8, 1, 4303 },
+        { "a cell", 160, 90, 0, 4301 },         { "a row's edge", 20, 60, -3, 4302 },
+        { "a cell", 161, 90, 0, 4301 },         { "a column's edge", 120, 8, 2, 4303 },
+        { "a column header", 160, 8, 0, 4301 }, { "the header's edge", 20, 20, -1, 4302 },
+        { "a row header", 20, 70, 0, 4301 },    { "the row headers' edge", 40, 8, 1, 4303 },
     };
     MakeCells();
     for (const Place& place : places) {

@@ -18,7 +18,7 @@ protected:
         std::string text;
         for (int at = from; at < to; ++at) {
             const int zone = zoneAt(at);
-            int end = at;
+            int       end = at;
             while (end + 1 < to && zoneAt(end + 1) == zone) {
                 ++end;
             }

@@ -41,7 +41,7 @@ protected:
     // Lines come to the screen when the system likes.
     testing::AssertionResult ScreenShows(const Pixels& expected)
     {
-        Pixels shot;
+        Pixels     shot;
         const bool shows = PumpUntil([&] { return IsSame(expected, shot = ScreenShotOf(grid)); });
         return shows ? testing::AssertionSuccess() : SamePixels(expected, shot);
     }
@@ -62,7 +62,8 @@ protected:
         const POINT half = { (from.x + to.x) / 2, (from.y + to.y) / 2 };
         for (const POINT at : { half, to }) {
             MoveMouse(grid, at.x, at.y);
-            const RECT line = upright ? RECT{ at.x, 0, at.x + 1, before.height } : RECT{ 0, at.y, before.width, at.y + 1 };
+            const RECT line =
+                upright ? RECT{ at.x, 0, at.x + 1, before.height } : RECT{ 0, at.y, before.width, at.y + 1 };
             EXPECT_TRUE(ScreenShows(Inverted(before, line))) << "at " << at.x << ", " << at.y;
         }
         ReleaseButton(grid, to.x, to.y);
@@ -71,7 +72,7 @@ protected:
         EXPECT_TRUE(ScreenIsClean());
         EXPECT_EQ(nullptr, GetCapture());
     }
-    LRESULT WidthOf(int col) { return Send(grid, HGM_GETFIELDWIDTH, static_cast<WPARAM>(col)); }
+    LRESULT     WidthOf(int col) { return Send(grid, HGM_GETFIELDWIDTH, static_cast<WPARAM>(col)); }
     std::string Bands() const
     {
         std::string bands;
@@ -98,7 +99,7 @@ protected:
         POINT        target = to;
         ClientToScreen(grid, &target);
         const auto isShown = [&] { return IsSame(expected, shot = ScreenShotOf(grid)); };
-        Hand hand([this] { return (Send(grid, HGM_GETFLAGS) & HGC_COLDRAG) != 0; },
+        Hand       hand([this] { return (Send(grid, HGM_GETFLAGS) & HGC_COLDRAG) != 0; },
                   [&] {
                       Hand::MoveTo(target);
                       Hand::WaitFor(isShown);

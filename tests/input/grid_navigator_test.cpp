@@ -105,8 +105,8 @@ TEST_F(GridNavigatorInput, BarScrollsByRowsAndPages)
 TEST_F(GridNavigatorInput, ThumbIsDraggedToTheMiddleOfAllRecords)
 {
     MakeMillion();
-    const HWND bar = GetDlgItem(grid, scrollId);
-    const int  half = GetSystemMetrics(SM_CXVSCROLL) / 2;
+    const HWND    bar = GetDlgItem(grid, scrollId);
+    const int     half = GetSystemMetrics(SM_CXVSCROLL) / 2;
     SCROLLBARINFO info = {};
     info.cbSize = sizeof info;
     GetScrollBarInfo(bar, static_cast<LONG>(OBJID_CLIENT), &info);
