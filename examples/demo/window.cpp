@@ -15,6 +15,8 @@ constexpr const char* frameClass = "WildlifeStrikes";
 constexpr INT_PTR     gridId = 100;
 constexpr INT_PTR     statusId = 101;
 constexpr INT_PTR     phasesId = 102;
+constexpr INT_PTR     allId = 103; // buttons beside the phases
+constexpr INT_PTR     noneId = 104;
 constexpr int         saveId = 200;
 constexpr int         exitId = 201;
 constexpr int         newId = 202;
@@ -42,7 +44,9 @@ struct Frame {
     HWND   window = nullptr;
     HWND   grid = nullptr;
     HWND   status = nullptr;
-    HWND   caption = nullptr; // beside the phases
+    HWND   caption = nullptr; // beside the phases, above the buttons
+    HWND   all = nullptr;
+    HWND   none = nullptr;
     HWND   phases = nullptr;
     HFONT  font = nullptr;
     HACCEL shortcuts = nullptr;
@@ -69,6 +73,16 @@ int PhasesHeight()
     return phaseRows * static_cast<int>(SendMessageA(frame.phases, LB_GETITEMHEIGHT, 0, 0)) + borders;
 }
 
+// The caption above its two buttons, left of the phases.
+void LayOutPanel(int top, int height)
+{
+    constexpr int buttonWidth = captionWidth / 2;
+    const int     captionHeight = height / 2;
+    MoveWindow(frame.caption, 0, top, captionWidth, captionHeight, TRUE);
+    MoveWindow(frame.all, 0, top + captionHeight, buttonWidth, height - captionHeight, TRUE);
+    MoveWindow(frame.none, buttonWidth, top + captionHeight, buttonWidth, height - captionHeight, TRUE);
+}
+
 void Layout(HWND hwnd)
 {
     RECT client;
@@ -79,7 +93,7 @@ void Layout(HWND hwnd)
     const int strip = frame.table ? PhasesHeight() : 0;
     const int height = std::max<int>(client.bottom - (status.bottom - status.top) - strip, 0);
     MoveWindow(frame.grid, 0, 0, client.right, height, TRUE);
-    MoveWindow(frame.caption, 0, height, captionWidth, strip, TRUE);
+    LayOutPanel(height, strip);
     MoveWindow(frame.phases, captionWidth, height, std::max<int>(client.right - captionWidth, 0), strip, TRUE);
     const int parts[] = { recordPartWidth, recordPartWidth + countPartWidth, allOrNone };
     SendMessageA(frame.status, SB_SETPARTS, std::size(parts), reinterpret_cast<LPARAM>(parts));
@@ -285,6 +299,15 @@ void OnPhases(int code)
     }
 }
 
+// What was selected of the phases, all of them or none, takes the place of the selection.
+void OnSelectButton(int id, int code)
+{
+    if (code == HBN_CLICKED) {
+        HLSelectItems(frame.phases, id == allId ? HLSEL_SET : HLSEL_CLEAR, HLI_ALL, 0, nullptr);
+        ShowCount();
+    }
+}
+
 void EnableCommands(HMENU menu)
 {
     const UINT state = frame.table ? MF_ENABLED : MF_GRAYED;
@@ -316,6 +339,8 @@ void OnFrameCommand(WPARAM wParam, LPARAM lParam)
         OnNotification(HIWORD(wParam));
     } else if (frame.phases && LOWORD(wParam) == phasesId) {
         OnPhases(HIWORD(wParam));
+    } else if (LOWORD(wParam) == allId || LOWORD(wParam) == noneId) {
+        OnSelectButton(LOWORD(wParam), HIWORD(wParam));
     }
 }
 
@@ -352,6 +377,15 @@ void RegisterFrame(HINSTANCE instance)
     RegisterClassA(&windowClass);
 }
 
+// A press leaves the focus where it is.
+HWND MakeButton(HWND hwnd, const char* caption, INT_PTR id)
+{
+    const HWND button = CreateWindowExA(0, "HButt", caption, WS_CHILD | HBS_PUSH | HBS_NOFOCUS, 0, 0, 0, 0, hwnd,
+                                        reinterpret_cast<HMENU>(id), GetModuleHandleA(nullptr), nullptr);
+    SendMessageA(button, WM_SETFONT, reinterpret_cast<WPARAM>(frame.font), FALSE);
+    return button;
+}
+
 // Hidden until there are records to count.
 void MakePanel(HWND hwnd)
 {
@@ -359,6 +393,8 @@ void MakePanel(HWND hwnd)
     frame.caption = CreateWindowExA(0, "STATIC", "Records by phase", style, 0, 0, 0, 0, hwnd, nullptr,
                                     GetModuleHandleA(nullptr), nullptr);
     SendMessageA(frame.caption, WM_SETFONT, reinterpret_cast<WPARAM>(frame.font), FALSE);
+    frame.all = MakeButton(hwnd, "All", allId);
+    frame.none = MakeButton(hwnd, "None", noneId);
     frame.phases = MakePhaseList(hwnd, phasesId, frame.font);
 }
 
@@ -410,8 +446,9 @@ void AllowEditing(Table& table)
     frame.table = &table;
     BeginEditing(frame.grid, table);
     ShowPhases(frame.phases, table);
-    ShowWindow(frame.caption, SW_SHOW);
-    ShowWindow(frame.phases, SW_SHOW);
+    for (const HWND window : { frame.caption, frame.all, frame.none, frame.phases }) {
+        ShowWindow(window, SW_SHOW);
+    }
     Layout(frame.window);
     ShowCount();
 }

@@ -23,9 +23,10 @@ constexpr BYTE placeBits[placeCount] = { // 1 left, 2 right, 4 top, 8 bottom
 };
 // clang-format on
 
+// Of a place that doesn't exist: none, which is the centre's.
 BYTE BitsOf(BYTE place)
 {
-    return placeBits[std::min(place, lastPlace)];
+    return place < placeCount ? placeBits[place] : BYTE{ 0 };
 }
 
 Side SideOf(BYTE bits, int shift)

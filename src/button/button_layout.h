@@ -19,6 +19,6 @@ struct ButtonPlaces {
     RECT picture;
 };
 
-// A caption as wide as text and a picture, in the places that they want. Either may overlap the other or be cut by face,
-// but both begin inside of it.
+// A caption as wide as text and a picture, in the places that they want. Either may overlap the other or be cut by
+// face, but both begin inside of it.
 ButtonPlaces HBLayout(const RECT& face, const ButtonContent& content);

@@ -4,8 +4,8 @@
 #include "foundation/memory.h"
 
 #include <algorithm>
-#include <climits>
 #include <initializer_list>
+#include <limits>
 
 namespace {
 
@@ -109,7 +109,7 @@ bool IsRunLength(DWORD compression)
 // Bounded: no size, the one height that has no opposite, and what run-length data could claim without having it.
 bool IsSize(const RawHeader& header)
 {
-    if (header.width <= 0 || header.height == 0 || header.height == LONG_MIN) {
+    if (header.width <= 0 || header.height == 0 || header.height == std::numeric_limits<LONG>::min()) {
         return false;
     }
     return !IsRunLength(header.compression) || (header.width <= maxRunSide && header.height <= maxRunSide);
@@ -257,8 +257,9 @@ bool ReadDib(const BYTE* dib, size_t size, DibSource source, DibInfo* out)
     if (!IsValidHeader(header, source)) {
         return false;
     }
-    DibInfo info{ headerSize, static_cast<int>(header.width),
-                  static_cast<int>(header.height < 0 ? -header.height : header.height), header.bits, header.compression, 0, 0, 0 };
+    const LONG rows = header.height < 0 ? -header.height : header.height;
+    DibInfo    info{ headerSize, static_cast<int>(header.width), static_cast<int>(rows), header.bits,
+                  header.compression, 0, 0, 0 };
     if (!PlaceTable(&info, header, size) ||
         !ArePixelsThere(dib + info.pixelOffset, size - info.pixelOffset, info, header.sizeImage)) {
         return false;

@@ -175,7 +175,7 @@ HICON MakeIcon(BYTE* image, const IconEntry& entry, const IconImage& info)
 
 size_t MaskRoom(const IconEntry& entry)
 {
-    return static_cast<size_t>((entry.width + 15) / 16 * 2 * entry.height);
+    return static_cast<size_t>(entry.width + 15) / 16 * 2 * static_cast<size_t>(entry.height);
 }
 
 } // namespace

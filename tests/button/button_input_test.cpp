@@ -156,22 +156,35 @@ TEST_F(ButtonInput, EnablingKeepsTheStyleInStep)
     EXPECT_TRUE(IsInvalid());
 }
 
+std::vector<WPARAM> gShown; // 0: hidden
+
+LRESULT CALLBACK NoteShowing(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_SHOWWINDOW) {
+        gShown.push_back(wParam);
+    }
+    return HButtWnd(hwnd, message, wParam, lParam);
+}
+
 TEST_F(ButtonInput, TransparentButtonsHideAndShowThemselves)
 {
-    Make("x", HBS_TRANSPARENT);
-    seen.Watch(button);
-    EnableWindow(button, FALSE);
-    int shows = 0;
-    for (const Seen& line : seen.All()) {
-        shows += line.direction == ToControl && line.code == WM_SHOWWINDOW ? 1 : 0;
-    }
-    EXPECT_EQ(2, shows);
-    EXPECT_TRUE(IsWindowVisible(button));
-    Make("x");
-    seen.Watch(button);
-    SendPtr(WM_SETTEXT, 0, "y");
-    for (const Seen& line : seen.All()) {
-        EXPECT_NE(UINT{ WM_SHOWWINDOW }, line.code);
+    const std::vector<WPARAM> hiddenAndShown = { FALSE, TRUE };
+    for (const DWORD style : { DWORD{ HBS_TRANSPARENT }, DWORD{ 0 } }) {
+        SCOPED_TRACE(style);
+        const bool reveals = style == HBS_TRANSPARENT;
+        Make("x", style);
+        SetWindowLongPtrA(button, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(NoteShowing));
+        gShown.clear();
+        EnableWindow(button, FALSE);
+        EXPECT_EQ(reveals ? hiddenAndShown : std::vector<WPARAM>(), gShown);
+        gShown.clear();
+        SendPtr(WM_SETTEXT, 0, "y");
+        EXPECT_EQ(reveals ? hiddenAndShown : std::vector<WPARAM>(), gShown);
+        EXPECT_TRUE(IsWindowVisible(button));
+        ShowWindow(button, SW_HIDE);
+        gShown.clear();
+        EnableWindow(button, TRUE);
+        EXPECT_TRUE(gShown.empty()) << "what is hidden stays hidden";
     }
 }
 

@@ -166,12 +166,12 @@ TEST(HBLayout, WithoutCaptionAndPictureBothAreEmpty)
     EXPECT_EQ((Span{ 40, 40 }), DownOf(places.picture));
 }
 
-TEST(HBLayout, PlaceThatDoesNotExistCountsAsTheLast)
+TEST(HBLayout, PlaceThatDoesNotExistIsTheCentre)
 {
-    const RECT last = LayoutOf(8, 0, 0).text;
-    const RECT past = LayoutOf(200, 0, 0).text;
-    EXPECT_EQ(AcrossOf(last), AcrossOf(past));
-    EXPECT_EQ(DownOf(last), DownOf(past));
+    const RECT centre = LayoutOf(4, 0, 0).text;
+    const RECT none = LayoutOf(200, 0, 0).text;
+    EXPECT_EQ(AcrossOf(centre), AcrossOf(none));
+    EXPECT_EQ(DownOf(centre), DownOf(none));
 }
 
 } // namespace

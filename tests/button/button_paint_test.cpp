@@ -88,11 +88,17 @@ constexpr CellRow cells[] = {
 TEST_F(ButtonPaint, PictureStandsInEachOfTheNineCells)
 {
     for (const CellRow& row : cells) {
-        const std::string text = std::string("4") + row.digit + "0;;IM0";
+        const std::string text = std::string(row.digit == '4' ? "0" : "4") + row.digit + "0;;IM0";
         MakeFlat(text.c_str());
         EXPECT_TRUE(ShowsImage(0, row.x, row.y)) << row.digit;
         EXPECT_TRUE(IsSame(Ink(), { row.x, row.y, row.x + 13, row.y + 13 })) << row.digit;
     }
+}
+
+TEST_F(ButtonPaint, PictureInTheCaptionsCellKeepsTheGapThoughThereIsNone)
+{
+    MakeFlat("443;;IM0");
+    EXPECT_TRUE(ShowsImage(0, 41, 23));
 }
 
 TEST_F(ButtonPaint, CaptionStandsInEachOfTheNineCells)
@@ -393,7 +399,7 @@ TEST_F(ButtonPaint, NoFocusShowsOnAButtonWithout)
 
 TEST_F(ButtonPaint, TransparentButtonDrawsItsFocusOnceAndTakesItAwayAgain)
 {
-    Make("444;;IM0", HBS_TRANSPARENT | HBS_NOFACE, 40, 30);
+    Make("444;;IM11", HBS_TRANSPARENT | HBS_NOFACE, 40, 30); // an image that leaves its edges free
     SetFocus(button);
     Canvas canvas(40, 30);
     canvas.Fill(white);
@@ -452,97 +458,6 @@ TEST_F(ButtonPaint, ParentIsAskedToDrawAnOwnersButton)
     answer = 0;
     InvalidateRect(button, nullptr, TRUE);
     EXPECT_FALSE(ShotOf(button).IsAll(black, { 0, 0, 40, 30 })) << "a parent that doesn't draw";
-}
-
-struct PartCall {
-    int  part;
-    RECT rect;
-    int  enabled;
-    int  pressed;
-    int  reserved;
-};
-std::vector<PartCall> gParts;
-int                   gPartAnswer;
-HWND                  gPartVictim;
-
-int CALLBACK NotePart(int part, HDC hdc, RECT* rect, int enabled, int pressed, int reserved)
-{
-    gParts.push_back({ part, *rect, enabled, pressed, reserved });
-    FillRect(hdc, rect, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-    if (gPartVictim) {
-        DestroyWindow(gPartVictim);
-    }
-    return gPartAnswer;
-}
-
-class ButtonParts : public ButtonPaint {
-protected:
-    ButtonParts()
-    {
-        gParts.clear();
-        gPartAnswer = 1;
-        gPartVictim = nullptr;
-        SetGridDrawPartFnc(NotePart);
-    }
-    ~ButtonParts() override { SetGridDrawPartFnc(nullptr); }
-    void MakePart(int id)
-    {
-        if (button && IsWindow(button)) {
-            DestroyWindow(button);
-        }
-        button = WindowTest::Create("HButt", "", HBS_NOFOCUS, id, { 10, 10, 40, 30 });
-        PumpPending();
-        gParts.clear();
-    }
-};
-
-TEST_F(ButtonParts, NavigatorsButtonsArePaintedByTheHost)
-{
-    const int rows[][2] = { { 4188, 5 }, { 4189, 6 }, { 4190, 7 }, { 4191, 9 } };
-    for (const auto& [id, part] : rows) {
-        MakePart(id);
-        InvalidateRect(button, nullptr, TRUE);
-        EXPECT_TRUE(ShotOf(button).IsAll(black, { 0, 0, 40, 30 }));
-        ASSERT_EQ(1u, gParts.size()) << id;
-        EXPECT_EQ(part, gParts[0].part);
-        EXPECT_TRUE(IsSame({ 0, 0, 40, 30 }, gParts[0].rect));
-        EXPECT_NE(0, gParts[0].enabled);
-        EXPECT_EQ(0, gParts[0].pressed);
-        EXPECT_EQ(0, gParts[0].reserved);
-    }
-}
-
-TEST_F(ButtonParts, OtherButtonsAreNot)
-{
-    for (const int id : { 4187, 4192, 7 }) {
-        MakePart(id);
-        InvalidateRect(button, nullptr, TRUE);
-        UpdateWindow(button);
-        EXPECT_TRUE(gParts.empty()) << id;
-    }
-}
-
-TEST_F(ButtonParts, HostThatDoesNotPaintLeavesItToTheButton)
-{
-    gPartAnswer = 0;
-    MakePart(4188);
-    InvalidateRect(button, nullptr, TRUE);
-    EXPECT_FALSE(ShotOf(button).IsAll(black, { 0, 0, 40, 30 }));
-    EXPECT_EQ(1u, gParts.size());
-}
-
-TEST_F(ButtonParts, HostMayDestroyTheButton)
-{
-    for (const int answer : { 0, 1 }) {
-        MakePart(4188);
-        gPartAnswer = answer;
-        gPartVictim = button;
-        InvalidateRect(button, nullptr, TRUE);
-        UpdateWindow(button);
-        EXPECT_FALSE(IsWindow(button));
-        gPartVictim = nullptr;
-        gPartAnswer = 1;
-    }
 }
 
 // Painting where and when others ask for it

@@ -206,7 +206,8 @@ class ButtonGroup : public ButtonWindow {
 protected:
     HWND Radio(const char* text, DWORD style = 0)
     {
-        const HWND made = WindowTest::Create("BUTTON", text, BS_RADIOBUTTON | WS_TABSTOP | style, ++id_, { 200, 10, 50, 20 });
+        const DWORD all = BS_RADIOBUTTON | WS_TABSTOP | style;
+        const HWND  made = WindowTest::Create("BUTTON", text, all, ++id_, { 200, 10, 50, 20 });
         ::SendMessageA(made, BM_SETCHECK, 1, 0);
         return made;
     }

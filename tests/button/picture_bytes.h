@@ -116,6 +116,7 @@ inline DibSpec RunLength8()
     DibSpec spec;
     spec.compression = 1;
     spec.pixels = { 5, 1, 0, 0, 0, 3, 7, 8, 9, 0, 0, 2, 1, 1, 1, 4, 0, 1 };
+    spec.sizeImage = 18;
     return spec;
 }
 
@@ -125,6 +126,7 @@ inline DibSpec RunLength4()
     spec.bits = 4;
     spec.compression = 2;
     spec.pixels = { 5, 0x12, 0, 0, 0, 5, 0x12, 0x34, 0x50, 0, 0, 0, 3, 0x66, 0, 1 };
+    spec.sizeImage = 16;
     return spec;
 }
 

@@ -2,6 +2,7 @@
 #include "button/picture_cache.h"
 
 #include "button/picture_bytes.h"
+#include "button/temp_file.h"
 #include "foundation/screen.h"
 #include "foundation/startup.h"
 #include "support/gdi_leaks.h"
@@ -9,29 +10,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <string>
 
 namespace {
-
-class TempFile {
-public:
-    TempFile(const char* name, const Bytes& bytes) : name_(name)
-    {
-        std::FILE* const file = std::fopen(name, "wb");
-        EXPECT_NE(nullptr, file) << name;
-        if (file) {
-            std::fwrite(bytes.data(), 1, bytes.size(), file);
-            std::fclose(file);
-        }
-    }
-    ~TempFile() { DeleteFileA(name_.c_str()); }
-    TempFile(const TempFile&) = delete;
-    TempFile& operator=(const TempFile&) = delete;
-
-private:
-    std::string name_;
-};
 
 class PictureCache : public testing::Test {
 protected:

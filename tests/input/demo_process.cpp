@@ -233,3 +233,8 @@ void DemoProcess::ClickPhase(int item, unsigned modifiers) const
     const int place = item - static_cast<int>(AskPhases(HLM_GETTOP));
     ClickAt(phases_, 20, place * height + height / 2, modifiers);
 }
+
+void DemoProcess::ClickButton(const char* caption) const
+{
+    ClickAt(FindWindowExA(frame_, nullptr, "HButt", caption), 10, 10);
+}

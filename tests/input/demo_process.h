@@ -41,6 +41,7 @@ public:
     POINT MiddleOf(CellAt cell) const; // in client coordinates of the grid
     void  Click(CellAt cell, unsigned modifiers = 0) const;
     void  ClickPhase(int item, unsigned modifiers = 0) const;
+    void  ClickButton(const char* caption) const;
 
 private:
     void Start(const std::string& arguments);

@@ -414,6 +414,20 @@ TEST_F(DemoPhases, ShiftAndArrowsSelectARange)
     EXPECT_EQ(1, demo->AskPhases(HLM_ISSELECTED, 1));
 }
 
+TEST_F(DemoPhases, ButtonsSelectAllAndNoneAndLeaveTheFocus)
+{
+    ClickOnlyClimb();
+    demo->ClickButton("All");
+    ExpectCount("4 records in 2 phases");
+    demo->ClickButton("None");
+    ExpectCount("0 records in 0 phases");
+    EXPECT_EQ(demo->phases(), demo->Focus());
+    GoTo({ colSpecies, 1 });
+    demo->ClickButton("All");
+    ExpectCount("4 records in 2 phases");
+    EXPECT_NE(demo->phases(), demo->Focus());
+}
+
 TEST_F(DemoPhases, FunctionKeyGoesThereAndEscapeBack)
 {
     Start();
