@@ -2225,7 +2225,7 @@ LRESULT CALLBACK HListMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
  * The class "HComb": a face, which is a typed edit or a list of one row, and a list that drops below it or lies there.
  * The window text is "%", the height of the list in pixels at 96 dpi, optionally "%" and its least width, then the type
  * text of the list; "#" in place of the first "%" keeps HLS_CODECURRENT from the list. Without a height there is no
- * list. Style bits that are not named here are given to the lists. The messages of combo boxes (CB_) and those of edit
+ * list. All style bits but those that creation takes out are the lists' too: HCS_WANTKEYS is their HLS_WANTKEYS. The messages of combo boxes (CB_) and those of edit
  * and list controls are answered too.
  */
 
@@ -2272,7 +2272,7 @@ LRESULT CALLBACK HListMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 #define HCM_GETDROPHEIGHT 1297
 /**
  * wParam: 0 takes the list away, 1 brings it back, each giving the width of HCM_GETDROPWIDTH; else the height of the
- * list in pixels, which gives 1.
+ * list in pixels, at 96 dpi when it drops, which gives 1. A list that lies open takes what the face leaves.
  */
 #define HCM_SETDROP 1298
 /** Gives the least width of the dropped list in pixels at 96 dpi. */

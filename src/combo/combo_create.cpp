@@ -156,15 +156,6 @@ void SetBorrows(HListCtl* list, bool borrows)
     list->wFlags = static_cast<WORD>(borrows ? list->wFlags | HLF_SHAREDLIST : list->wFlags & ~HLF_SHAREDLIST);
 }
 
-void DestroyItems(HListCtl* list)
-{
-    if (!Borrows(list)) {
-        DataList own = list->items;
-        HDLDestroy(&own);
-    }
-    list->items = {};
-}
-
 } // namespace
 
 bool HCCreate(HCombCtl* ctl, const CREATESTRUCTA& create)
@@ -221,7 +212,7 @@ void HCShareItems(HWND from, HWND to)
     if (!source || !target) {
         return;
     }
-    DestroyItems(target);
+    HLDropItems(target);
     target->items = source->items;
     const bool      borrowed = Borrows(source);
     const bool      targetIsField = (target->dwStyle & HLS_FIELD) != 0;
@@ -245,13 +236,13 @@ int HCShareList(HCombCtl* ctl, DataList* list)
     }
     DataList shared;
     std::memcpy(&shared, list, sizeof shared); // another list's record may hold it at any address
-    HListCtl* const own = ListRecord(ctl->hDrop);
-    if (own && own->items.pValues == shared.pValues) {
+    HListCtl* const       field = HasEdit(ctl) ? nullptr : ListRecord(ctl->hChild);
+    const HListCtl* const holder = field ? field : ListRecord(ctl->hDrop);
+    if (holder && !Borrows(holder) && holder->items.pValues == shared.pValues) {
         return 1; // Bounded: its own items would be destroyed and then shown.
     }
-    HListCtl* const field = HasEdit(ctl) ? nullptr : ListRecord(ctl->hChild);
     if (field) {
-        DestroyItems(field);
+        HLDropItems(field);
         field->items = shared;
         SetBorrows(field, true);
     }
@@ -275,7 +266,22 @@ void HCUnparkList(HCombCtl* ctl)
         ctl->hDrop = ctl->hDropParked;
         ctl->hDropParked = nullptr;
         HCKeepParts(ctl);
+        // It has missed a new font, and its own may be gone.
+        if (ctl->hFont && ctl->hFont != reinterpret_cast<HFONT>(ToList(ctl, WM_GETFONT))) {
+            ToList(ctl, WM_SETFONT, reinterpret_cast<WPARAM>(+ctl->hFont));
+        }
     }
+}
+
+void HCLoseFace(HCombCtl* ctl)
+{
+    for (const HWND list : { ctl->hDrop, ctl->hDropParked }) {
+        HListCtl* const record = HasEdit(ctl) ? nullptr : ListRecord(list);
+        if (record && Borrows(record)) {
+            record->items = {};
+        }
+    }
+    ctl->pChild = nullptr;
 }
 
 void HCEnd(HCombCtl* ctl)

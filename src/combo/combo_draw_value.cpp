@@ -40,6 +40,9 @@ const void* ValueOfCode(HCombCtl* ctl, HDC hdc, const void* code, char* text)
 int HCDrawValue(HCombCtl* ctl, HDC hdc, RECT* rect, HBRUSH brush, const void* value, int kind, HGridData* grid,
                 COLORREF color)
 {
+    if (!ctl->pChild) {
+        return 0; // the host destroyed the face
+    }
     if (!HasEdit(ctl)) {
         HListCtl* const field = reinterpret_cast<HListCtl*>(ctl->pChild);
         return ctl->hDrop ? HLDrawValue(field, hdc, rect, brush, value, kind, color) : 0;

@@ -73,6 +73,8 @@ HWND HCFaceOfDrop(HWND drop); // null for a list of the class that no combo has 
 // Reads a number behind a head of "%" at *text and moves behind it. 0 without one.
 int HCReadSize(const char** text);
 
+void HCLoseFace(HCombCtl* ctl); // the face goes, and a field its items with it
+
 // Messages
 using ComboHandler = LRESULT (*)(HCombCtl* ctl, const MsgArgs& args);
 ComboHandler FindComboHandler(UINT message);    // of the combo's own numbers from 1024 on, those for parts too

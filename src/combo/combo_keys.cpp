@@ -183,8 +183,8 @@ LRESULT HCOnGetDlgCode(HCombCtl* ctl, const MsgArgs&)
 
 LRESULT CALLBACK HCFilter(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const HWND            combo = GetParent(hwnd);
-    const HCombCtl* const ctl = HCFromWindow(combo);
+    const HWND      combo = GetParent(hwnd);
+    HCombCtl* const ctl = HCFromWindow(combo);
     if (!ctl || ctl->hChild != hwnd) {
         return DefWindowProcA(hwnd, message, wParam, lParam);
     }
@@ -200,6 +200,7 @@ LRESULT CALLBACK HCFilter(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
         SendMessageA(combo, HCM_CHILDBLUR, 0, 0);
         return 0;
     case WM_GETDLGCODE: return SendMessageA(combo, message, wParam, lParam);
+    case WM_NCDESTROY: HCLoseFace(ctl); return pass();
     case WM_KEYDOWN: return SendMessageA(combo, message, wParam, lParam) ? 1 : pass();
     case WM_SYSKEYDOWN: SendMessageA(combo, HCM_SYSKEY, wParam, lParam); return pass();
     default: return pass();

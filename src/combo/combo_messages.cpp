@@ -97,6 +97,16 @@ LRESULT OnGetChanged(HCombCtl* ctl, const MsgArgs& args)
     return list || child;
 }
 
+// Both parts forget a change. A new one is the face's: the list's bit goes when the list follows the face.
+LRESULT OnSetChanged(HCombCtl* ctl, const MsgArgs& args)
+{
+    if (!args.wParam) {
+        AskList(ctl, args);
+    }
+    AskChild(ctl, args);
+    return AskDefault(args);
+}
+
 // What the frame answers for all controls, and what nobody does.
 LRESULT ToFrame(HCombCtl*, const MsgArgs& args)
 {
@@ -173,7 +183,7 @@ constexpr MessageEntry<ComboHandler> entries[] = {
     { HLM_SETFOCUSBRUSH, OnSetFocusBrush },
     { HLM_SETCOLOR,      OnBothParts },
     { WWM_GETCHANGED,    OnGetChanged },
-    { WWM_SETCHANGED,    ToFrame },
+    { WWM_SETCHANGED,    OnSetChanged },
     { WWM_SETUPDATING,   ToFrame },
     { WWM_GETUPDATING,   ToFrame },
     { HCM_CHILDFOCUS,    HCOnChildFocus },

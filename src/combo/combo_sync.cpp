@@ -138,15 +138,25 @@ void SelectValue(HCombCtl* ctl)
     }
 }
 
-int ChildToList(HCombCtl* ctl, int current, bool notify)
+// A list that holds its item by the code may end up on another one with the same code: it counts that the field moved.
+int FieldToList(HCombCtl* ctl, int current, bool notify)
 {
     const HWND hwnd = ctl->hWnd;
-    if (!HasEdit(ctl)) {
-        const int item = CurrentOfField(ctl);
-        if (item != current) {
-            ToList(ctl, HLM_SETCURRENT, static_cast<WPARAM>(item), 1);
-        }
-    } else if (HasTexts(ctl)) {
+    const int  item = CurrentOfField(ctl);
+    if (item == current) {
+        return 0;
+    }
+    ToList(ctl, HLM_SETCURRENT, static_cast<WPARAM>(item), 1);
+    if (notify && IsWindow(hwnd)) {
+        Notify(ctl, HCN_SELCHANGE);
+    }
+    return 0;
+}
+
+int EditToList(HCombCtl* ctl, int current, bool notify)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (HasTexts(ctl)) {
         SelectTyped(ctl);
     } else {
         SelectValue(ctl);
@@ -167,7 +177,7 @@ int HCSync(HCombCtl* ctl, bool fromChild, bool notify)
     }
     const int current = CurrentOfList(ctl);
     if (fromChild) {
-        return ChildToList(ctl, current, notify);
+        return HasEdit(ctl) ? EditToList(ctl, current, notify) : FieldToList(ctl, current, notify);
     }
     return HasEdit(ctl) ? ListToEdit(ctl, current, notify) : ListToField(ctl, current, notify);
 }

@@ -68,7 +68,9 @@ LRESULT HCOnSetText(HCombCtl* ctl, const MsgArgs& args)
     if (!text) {
         return 1;
     }
-    if (const int height = GetDropHeight(&text)) {
+    const char* const head = text;
+    const int         height = GetDropHeight(&text);
+    if (text != head) {
         HCSetHeight(ctl, height);
         HCLayout(ctl);
     }

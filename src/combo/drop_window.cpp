@@ -140,7 +140,8 @@ void OnNcDestroy(HWND hwnd)
     }
     HListCtl* const list = HCFaceOfDrop(hwnd) ? static_cast<HListCtl*>(ControlRecord(hwnd)) : nullptr;
     HCombCtl* const ctl = list ? HCFromWindow(list->hParent) : nullptr;
-    if (ctl) {
+    // Bounded: a host may have given the list another parent, whose record is none of a combo.
+    if (ctl && HIsCombo(list->hParent) && (ctl->hDrop == hwnd || ctl->hDropParked == hwnd)) {
         LeaveCombo(ctl, list);
     }
 }

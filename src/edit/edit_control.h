@@ -60,7 +60,7 @@ int  ScrollBy(HEditCtl* ctl, int delta);
 void UpdateScrollRange(HEditCtl* ctl);
 
 // Painting
-void PaintField(HEditCtl* ctl, bool highlight);
+bool PaintField(HEditCtl* ctl, bool highlight); // false: nothing of the window had to be painted
 bool DrawFieldText(HDC hdc, RECT* rect, const char* text, int count, char passwordChar, int align, HEditCtl* ctl,
                    HGridData* grid);
 void FillFieldBackground(HEditCtl* ctl, HDC hdc, RECT* rect, HBRUSH brush);

@@ -177,6 +177,7 @@ void ShowEntered(HEditCtl* ctl, const Entered& entered)
 {
     const int caret = SelectionOf(ctl).lo;
     const int next = caret + entered.advance;
+    const FieldDC sharedByMeasures(ctl);
     UpdateScrollRange(ctl);
     InvalidateTyped(ctl, caret, entered.repaint);
     if (HasFlag(ctl, HEF_RIGHT) || entered.advance < 0) {

@@ -145,12 +145,20 @@ struct ShownText {
     ShownText& operator=(const ShownText&) = delete;
 };
 
-// A device context of the window with the control's font in it.
+// A device context of the window with the control's font in it. One that is made while another of the same window and
+// font lives borrows that one's: a typed character takes several measures, and each context costs more than its measure.
 struct FieldDC {
-    WindowDC       window;
-    SelectedObject font;
-    explicit FieldDC(const HEditCtl* ctl) : window(ctl->hWnd), font(window.hdc, ctl->hFont) {}
-    HDC hdc() const { return window.hdc; }
+    const FieldDC* outer;
+    HWND           hwnd;
+    HFONT          font;
+    HDC            dc;
+    HGDIOBJ        oldFont;
+    bool           borrowed;
+    explicit FieldDC(const HEditCtl* ctl);
+    ~FieldDC();
+    FieldDC(const FieldDC&) = delete;
+    FieldDC& operator=(const FieldDC&) = delete;
+    HDC hdc() const { return dc; }
 };
 
 // CF_UPDATING is set while one of these lives, by the messages that a subclass can see, and gets its old state back.
@@ -219,6 +227,10 @@ void RepaintFrame(HEditCtl* ctl);
 void RebuildCaret(HEditCtl* ctl); // where the window has one
 int  OnPaint(HEditCtl* ctl, const MsgArgs& args);
 int  OnHScroll(HEditCtl* ctl, WPARAM wParam);
+// UpdateScrollRange in parts, for who has the field's font in a context of its own.
+bool HasScrollRange(const HEditCtl* ctl);
+int  ScrollRangeFor(const HEditCtl* ctl, HDC hdc);
+void SetScrollRangeTo(HEditCtl* ctl, int max);
 bool IsFieldDisabled(const HEditCtl* ctl); // the window or its parent
 LRESULT OnNcCalcSize(HEditCtl* ctl, const MsgArgs& args);
 LRESULT OnNcPaint(HEditCtl* ctl, const MsgArgs& args);

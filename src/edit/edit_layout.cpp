@@ -73,7 +73,36 @@ int FitLast(HDC hdc, const char* text, int count, int width)
     return fits;
 }
 
+const FieldDC* gInnermost; // the context that lives, or null
+
 } // namespace
+
+FieldDC::FieldDC(const HEditCtl* ctl)
+    : outer(gInnermost), hwnd(ctl->hWnd), font(ctl->hFont), dc(nullptr), oldFont(nullptr), borrowed(false)
+{
+    if (outer && outer->hwnd == hwnd && outer->font == font) {
+        dc = outer->dc;
+        borrowed = true;
+    } else {
+        dc = GetDC(hwnd);
+        oldFont = font ? SelectObject(dc, font) : nullptr;
+    }
+    gInnermost = this;
+}
+
+FieldDC::~FieldDC()
+{
+    gInnermost = outer;
+    if (borrowed) {
+        return;
+    }
+    if (oldFont) {
+        SelectObject(dc, oldFont);
+    }
+    if (dc) {
+        ReleaseDC(hwnd, dc);
+    }
+}
 
 // Bounded: without memory for the filling a password shows as nothing, never as itself.
 ShownText::ShownText(const HEditCtl* ctl)

@@ -70,31 +70,46 @@ RECT ClipBoxOf(HWND hwnd)
 
 } // namespace
 
-void PaintField(HEditCtl* ctl, bool highlight)
+// The range is measured while the font is at hand, and shown once the painting is over.
+bool PaintField(HEditCtl* ctl, bool highlight)
 {
     const HWND hwnd = ctl->hWnd;
+    int        scrollMax = 0;
+    bool       visible = false;
     {
         const PaintDC paint(hwnd);
         if (!IsWindow(hwnd)) {
-            return;
+            return false;
         }
+        visible = !IsRectEmpty(&paint.ps.rcPaint);
         const SelectedObject font(paint.hdc, ctl->hFont);
         SetTextLook(ctl, paint.hdc, highlight);
         DrawShownPart(ctl, paint.hdc);
+        if (IsWindow(hwnd) && HasScrollRange(ctl)) {
+            scrollMax = ScrollRangeFor(ctl, paint.hdc);
+        }
     }
     if (IsWindow(hwnd)) {
-        UpdateScrollRange(ctl);
+        SetScrollRangeTo(ctl, scrollMax);
     }
+    return visible;
 }
 
 int OnPaint(HEditCtl* ctl, const MsgArgs& args)
 {
+    const HWND hwnd = args.hwnd;
     const bool showsSelection = (IsFocused(ctl) || HasStyle(ctl, HES_KEEPSEL)) && !HasStyle(ctl, HES_STATIC);
     if (!showsSelection) {
         PaintField(ctl, false);
         return 1;
     }
-    const HWND hwnd = args.hwnd;
+    const TextRange selection = SelectionOf(ctl);
+    if (selection.lo == selection.hi && PaintField(ctl, false)) {
+        return 1; // without a context more, since typing comes here with each character
+    }
+    if (!IsWindow(hwnd)) {
+        return 1;
+    }
     const RECT clip = ClipBoxOf(hwnd);
     if (IsRectEmpty(&clip)) {
         *args.pDefault = 1;

@@ -12,16 +12,21 @@ struct Visible {
     int length;
 };
 
-Visible VisibleChars(HEditCtl* ctl)
+Visible VisibleIn(const HEditCtl* ctl, HDC hdc)
 {
     const ShownText shown(ctl);
     const int length = static_cast<int>(std::strlen(shown.text));
     const int scroll = std::min(static_cast<int>(ctl->nScroll), length);
     const bool right = HasFlag(ctl, HEF_RIGHT);
     const int width = ctl->rcText.right - ctl->rcText.left;
-    const FieldDC dc(ctl);
-    const int count = FitChars(dc.hdc(), right ? shown.text : shown.text + scroll, length - scroll, width, right);
+    const int count = FitChars(hdc, right ? shown.text : shown.text + scroll, length - scroll, width, right);
     return { right ? length - scroll - count : scroll, count, length };
+}
+
+Visible VisibleChars(HEditCtl* ctl)
+{
+    const FieldDC dc(ctl);
+    return VisibleIn(ctl, dc.hdc());
 }
 
 // The character at the far end may have been cut: it is painted anew, to the edge of the field.
@@ -96,13 +101,19 @@ int ScrollBy(HEditCtl* ctl, int delta)
     return right ? -amount : amount;
 }
 
-void UpdateScrollRange(HEditCtl* ctl)
+int ScrollRangeFor(const HEditCtl* ctl, HDC hdc)
 {
-    int max = 0;
-    if (*FieldText(ctl) && !HasFlag(ctl, HEF_CENTER)) {
-        const Visible visible = VisibleChars(ctl);
-        max = ScrollRange(visible.length - visible.count, ctl->nScrollMax, visible.length);
-    }
+    const Visible visible = VisibleIn(ctl, hdc);
+    return ScrollRange(visible.length - visible.count, ctl->nScrollMax, visible.length);
+}
+
+bool HasScrollRange(const HEditCtl* ctl)
+{
+    return *FieldText(ctl) && !HasFlag(ctl, HEF_CENTER);
+}
+
+void SetScrollRangeTo(HEditCtl* ctl, int max)
+{
     if (max == ctl->nScrollMax) {
         return;
     }
@@ -111,6 +122,16 @@ void UpdateScrollRange(HEditCtl* ctl)
         SetScrollRange(ctl->hWnd, SB_HORZ, 0, max, TRUE);
         RepaintFrame(ctl);
     }
+}
+
+void UpdateScrollRange(HEditCtl* ctl)
+{
+    int max = 0;
+    if (HasScrollRange(ctl)) {
+        const FieldDC dc(ctl);
+        max = ScrollRangeFor(ctl, dc.hdc());
+    }
+    SetScrollRangeTo(ctl, max);
 }
 
 int OnHScroll(HEditCtl* ctl, WPARAM wParam)

@@ -105,6 +105,12 @@ bool StillHolds(HGridCtl* ctl, HWND editor, const char* value)
     return same;
 }
 
+// In a combo it is the face that has the focus.
+bool HoldsFocus(HWND editor, HWND focus)
+{
+    return editor && focus && (focus == editor || IsChild(editor, focus));
+}
+
 // Whether what was read is still to be stored. A host that heard of it meanwhile may have moved on, which has stored it, or
 // may have put another value into the editor; that is asked only where the focus has gone elsewhere since.
 bool IsStillToStore(HGridCtl* ctl, HWND editor, Cell cell, HWND focus)
@@ -218,7 +224,7 @@ int HGReadEditor(HGridCtl* ctl)
     }
     const bool hasValue = ReadValue(editor, field, buffer);
     // A control that takes the focus back has a validator that refuses the value.
-    const bool refused = focus != editor && GetFocus() == editor;
+    const bool refused = !HoldsFocus(editor, focus) && HoldsFocus(editor, GetFocus());
     int written = IsWindow(hwnd) && !refused;
     if (written && IsStillToStore(ctl, editor, cell, focus)) {
         written = WriteRead(ctl, editor, hasValue ? buffer : nullptr);
@@ -269,7 +275,7 @@ int HGCommitEdit(HGridCtl* ctl)
     if (!inEdit || !IsWindow(hwnd)) {
         return inEdit ? 0 : 1;
     }
-    if (taken && ctl->hEditor && GetFocus() == ctl->hEditor) {
+    if (taken && HoldsFocus(ctl->hEditor, GetFocus())) {
         return 0; // refused, as below
     }
     gUnstored = nullptr;
@@ -313,7 +319,7 @@ int HGDetachEditor(HGridCtl* ctl)
     }
     const HWND hwnd = ctl->hWnd;
     HGEndEdit(ctl, true);
-    if (IsWindow(hwnd) && GetFocus() == ctl->hEditor) {
+    if (IsWindow(hwnd) && HoldsFocus(ctl->hEditor, GetFocus())) {
         HGLoadEditor(ctl); // a refused value holds the focus no longer
     }
     if (IsWindow(hwnd)) {

@@ -71,6 +71,7 @@ void HLAdjustIndexes(HListCtl* ctl, int delta, int at);
 int  HLForEachItem(HListCtl* ctl, int which, int n, const void* list, HLStep step, void* context, bool keep);
 int  HLFetchMany(HListCtl* ctl, int n, int kind, void* out, int which, const void* list);
 void HLEmptyItems(HListCtl* ctl);
+void HLDropItems(HListCtl* ctl); // items and format go, each unless it is somebody else's
 void HLShareItems(HListCtl* ctl, const DataList* list);
 int  HLSetFormat(HListCtl* ctl, const char* format); // 1, or 0 if the data has none or memory is short
 ULONG_PTR HLItemData(HListCtl* ctl, int index); // for the structures of owner drawing

@@ -7,6 +7,16 @@
 
 #include <algorithm>
 
+// A window's record, and behind it what hosts don't know of.
+struct ListBlock {
+    HListCtl ctl;
+    bool     hadFocus; // between WM_SETFOCUS and WM_KILLFOCUS
+};
+
+inline bool& HadFocus(HListCtl* ctl)
+{
+    return reinterpret_cast<ListBlock*>(ctl)->hadFocus;
+}
 inline bool HasStyle(const HListCtl* ctl, DWORD bits)
 {
     return (ctl->dwStyle & bits) != 0;

@@ -310,8 +310,9 @@ int SweepItems(HListCtl* ctl, int which)
     return sweep.Finish();
 }
 
-// Items and format go, each unless it is somebody else's.
-void DropItems(HListCtl* ctl)
+} // namespace
+
+void HLDropItems(HListCtl* ctl)
 {
     DataList items = ctl->items;
     if (!HasFlag(ctl, HLF_SHAREDLIST)) {
@@ -322,8 +323,6 @@ void DropItems(HListCtl* ctl)
     SetFlag(ctl, HLF_OWNFORMAT, false);
     ctl->items = {};
 }
-
-} // namespace
 
 bool HLApplyType(HListCtl* ctl, const char* text)
 {
@@ -344,7 +343,7 @@ bool HLApplyType(HListCtl* ctl, const char* text)
 
 void HLFreeItems(HListCtl* ctl)
 {
-    DropItems(ctl);
+    HLDropItems(ctl);
     HLListDestroy(ctl->pSelected);
     ctl->pSelected = nullptr;
     HBlockFree(ctl->pTabs);
@@ -482,7 +481,7 @@ void HLShareItems(HListCtl* ctl, const DataList* list)
 {
     const void* const own = reinterpret_cast<const char*>(ctl) + offsetof(HListCtl, items);
     if (list != own || !HasFlag(ctl, HLF_SHAREDLIST)) {
-        DropItems(ctl);
+        HLDropItems(ctl);
         SetFlag(ctl, HLF_SHAREDLIST, true);
         DataList shared;
         std::memcpy(&shared, list, sizeof shared); // another list's record may hold it at any address

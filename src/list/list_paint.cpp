@@ -10,10 +10,15 @@ constexpr int  staticKind = 6;
 constexpr WORD comboListId = 2;
 constexpr UINT stateFocused = ODS_FOCUS;
 
-// A question to the system that costs as much as some rows of text; who needs no answer doesn't ask.
-bool IsFocused(const HListCtl* ctl)
+// The list whose background was filled last, and with what: in a repaint that begins with it, items need no filling of
+// their own.
+const HListCtl* gFilled;
+HBRUSH          gFilledWith;
+
+// The question to the system costs as much as some rows of text; a list that knows the answer doesn't ask.
+bool IsFocused(HListCtl* ctl)
 {
-    return GetFocus() == ctl->hWnd;
+    return HadFocus(ctl) && GetFocus() == ctl->hWnd;
 }
 
 // So is a list whose parent is.
@@ -23,7 +28,7 @@ bool IsListDisabled(const HListCtl* ctl)
 }
 
 // The list's own brush, or null.
-HBRUSH OwnBrush(const HListCtl* ctl)
+HBRUSH OwnBrush(HListCtl* ctl)
 {
     if (HasStyle(ctl, HLS_FOCUSBRUSH) && ctl->hFocusBrush && IsFocused(ctl)) {
         return ctl->hFocusBrush;
@@ -68,6 +73,7 @@ struct ListPaint {
     COLORREF  color;     // 0: the list's own
     COLORREF  backColor; // of brush, if it has just one
     bool      hasBackColor;
+    bool      isFilled; // with brush
     COLORREF  highlight;
 };
 
@@ -110,6 +116,11 @@ bool DrawsAtOnce(const ListPaint& paint, const ItemLook& look)
     return hasText && !HasStyle(paint.ctl, HLS_TABS) && (look.highlighted || paint.hasBackColor);
 }
 
+bool NeedsFilling(const ListPaint& paint, const ItemLook& look)
+{
+    return look.highlighted || !(look.marked || paint.isFilled);
+}
+
 // The current item of a field without the focus: what a disabled list or a combo's one shows may differ.
 bool HasPlainMark(const ItemLook& look)
 {
@@ -119,10 +130,11 @@ bool HasPlainMark(const ItemLook& look)
 // The background goes under the text at once, so that neither shows without the other for long.
 void PaintItemItself(const ListPaint& paint, const RECT& rect, int index, const ItemLook& look)
 {
-    const bool atOnce = !HasPlainMark(look) && DrawsAtOnce(paint, look);
+    const bool fills = NeedsFilling(paint, look);
+    const bool atOnce = fills && DrawsAtOnce(paint, look);
     if (atOnce) {
         SetBkColor(paint.hdc, look.highlighted ? paint.highlight : paint.backColor);
-    } else if (!HasPlainMark(look)) {
+    } else if (fills) {
         Fill(paint.hdc, rect, look.highlighted ? GetSysColorBrush(COLOR_HIGHLIGHT) : paint.brush);
     }
     if (look.marked || !paint.isField) {
@@ -165,6 +177,12 @@ void PaintItems(const ListPaint& paint, const RECT& area)
     }
 }
 
+// A procedure of the host's may have drawn over the background.
+bool IsOwnProcedure(HWND hwnd)
+{
+    return GetWindowLongPtrA(hwnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(HListWnd);
+}
+
 } // namespace
 
 void HLFillBackground(HListCtl* ctl, HDC hdc, const RECT* rect, HBRUSH brush)
@@ -181,12 +199,18 @@ void HLFillBackground(HListCtl* ctl, HDC hdc, const RECT* rect, HBRUSH brush)
         chosen = brush ? brush : AskForBrush(ctl, hdc);
     }
     Fill(hdc, area, chosen);
+    if (!rect) {
+        gFilled = ctl;
+        gFilledWith = chosen;
+    }
 }
 
 void HLPaint(HListCtl* ctl)
 {
-    const HWND    hwnd = ctl->hWnd;
-    const PaintDC dc(hwnd);
+    const HWND hwnd = ctl->hWnd;
+    gFilled = nullptr;
+    const PaintDC dc(hwnd); // asks for the background first, if that is to be filled
+    const HBRUSH  filledWith = gFilled == ctl && IsOwnProcedure(hwnd) ? gFilledWith : nullptr;
     if (!dc.hdc || !IsWindow(hwnd) || HLCount(ctl) == 0) {
         return;
     }
@@ -205,8 +229,9 @@ void HLPaint(HListCtl* ctl)
     const COLORREF       highlight = GetSysColor(COLOR_HIGHLIGHT);
     const bool           isField = HasStyle(ctl, HLS_FIELD);
     const int            current = HLCurIndex(ctl);
-    const ListPaint      paint = { ctl,   dc.hdc, hwnd,      focused,      isField,
-                                   current, brush,  color, backColor, hasBackColor, highlight };
+    const bool           isFilled = brush && brush == filledWith;
+    const ListPaint      paint = { ctl,   dc.hdc, hwnd,      focused,      isField,  current,
+                                   brush, color,  backColor, hasBackColor, isFilled, highlight };
     PaintItems(paint, dc.ps.rcPaint);
 }
 

@@ -141,6 +141,7 @@ LRESULT OnNcPaint(HListCtl* ctl, const MsgArgs& args)
 
 LRESULT OnSetFocus(HListCtl* ctl, const MsgArgs& args)
 {
+    HadFocus(ctl) = true;
     if (HasStyle(ctl, HLS_FIELD | HLS_FOCUSBRUSH)) {
         InvalidateRect(args.hwnd, nullptr, HasStyle(ctl, HLS_FOCUSBRUSH));
     } else {
@@ -155,6 +156,7 @@ LRESULT OnSetFocus(HListCtl* ctl, const MsgArgs& args)
 
 LRESULT OnKillFocus(HListCtl* ctl, const MsgArgs& args)
 {
+    HadFocus(ctl) = false;
     if (HasStyle(ctl, HLS_FIELD | HLS_FOCUSBRUSH)) {
         InvalidateRect(args.hwnd, nullptr, TRUE);
         UpdateWindow(args.hwnd);
@@ -270,10 +272,11 @@ LRESULT OnInput(HListCtl* ctl, const MsgArgs& args)
 LRESULT HLOnNcCreate(const MsgArgs& args)
 {
     const CREATESTRUCTA& create = *reinterpret_cast<const CREATESTRUCTA*>(args.lParam);
-    HListCtl* const ctl = HRecordAlloc<HListCtl>();
-    if (!ctl) {
+    ListBlock* const block = HRecordAlloc<ListBlock>();
+    if (!block) {
         return 0;
     }
+    HListCtl* const ctl = &block->ctl;
     FillRecord(ctl, args.hwnd, create);
     if (!HLApplyType(ctl, WindowTextOf(create))) {
         FreeRecord(ctl);

@@ -165,6 +165,63 @@ TEST_F(ComboItems, BorrowingTwiceFreesNothing)
     HBlockFree(shared);
 }
 
+TEST_F(ComboItems, FormatOfItsOwnGoesWithTheItemsThatWereBorrowed)
+{
+    const BlockLeakCheck blocks;
+    DataList* const      first = HDLCreate(0, 'n', 'i', 0, 0, "0");
+    DataList* const      second = HDLCreate(0, 'n', 'i', 0, 0, "00");
+    const int            value = 7;
+    HDLInsertItem(first, -1, &value, nullptr);
+    HDLInsertItem(second, -1, &value, nullptr);
+    Make("%120%ni", fields);
+    HCSetList(combo, first);
+    EXPECT_EQ(1, SendPtr(HLM_SETFORMAT, 0, "0000"));
+    EXPECT_EQ("0007", ItemText(0));
+    HCSetList(combo, second);
+    EXPECT_EQ("07", ItemText(0));
+    EXPECT_EQ(1, SendPtr(HLM_SETFORMAT, 0, "000"));
+    End();
+    EXPECT_STREQ("0", first->pszFormat);
+    EXPECT_STREQ("00", second->pszFormat);
+    for (DataList* const list : { first, second }) {
+        HDLDestroy(list);
+        HBlockFree(list);
+    }
+}
+
+TEST_F(ComboItems, BorrowedListThatIsGivenAgainIsTakenUpAnew)
+{
+    DataList* const shared = HDLCreate(0, 'n', 'i', 0, 0, "0");
+    const int       value = 7;
+    HDLInsertItem(shared, -1, &value, nullptr);
+    Make("%120%ni", fields);
+    HCSetList(combo, shared);
+    Send(HLM_SETCURRENT, 0);
+    EXPECT_EQ(0, Current());
+    HDLSetFormat(shared, "000");
+    EXPECT_EQ(1, HCSetList(combo, shared));
+    EXPECT_EQ(-1, Current());
+    EXPECT_EQ("007", ItemText(0));
+    End();
+    HDLDestroy(shared);
+    HBlockFree(shared);
+}
+
+TEST_F(ComboItems, FaceThatGoesFirstTakesNothingAlongThatIsUsed)
+{
+    for (const DWORD style : { fields, edits }) {
+        Make("%120%ss", style);
+        Add({ "x", "y" });
+        DestroyWindow(Face());
+        EXPECT_EQ(style == fields ? 0 : 2, Count());
+        RECT      rect = { 0, 0, 20, 20 };
+        const HDC hdc = GetDC(combo);
+        EXPECT_EQ(0, HCDrawValue(Ctl(), hdc, &rect, GetSysColorBrush(COLOR_WINDOW), "x", 1, nullptr, 0));
+        ReleaseDC(combo, hdc);
+        End();
+    }
+}
+
 TEST_F(ComboItems, SetListWithoutAListLaysOutAnew)
 {
     Make("%120%ss", edits);

@@ -130,6 +130,43 @@ TEST_F(GridComboCells, ChildIsADroppingComboOfTheColumnsHeight)
     });
 }
 
+TEST_F(GridComboCells, PassingThroughAnItemThatWasPickedElsewhereStoresNothing)
+{
+    ForEachKind([&] {
+        Store(1, "red", 3);
+        Store(2, "green", 1);
+        StandOn(0, 1);
+        TypeKey(VK_F2);
+        TypeKey(VK_DOWN);
+        TypeKey(VK_TAB);
+        EXPECT_EQ("green", CellText(0, 1));
+        Forget();
+        parent.ClearCounts();
+        StandOn(0, 2);
+        TypeKey(VK_F2);
+        TypeKey(VK_TAB);
+        EXPECT_EQ(0, parent.Count(HGN_CELLCHANGED));
+    });
+}
+
+int CALLBACK RefuseAll(HWND, int, void*)
+{
+    return 1;
+}
+
+TEST_F(GridComboCells, ValueThatTheEditsValidatorRefusesKeepsTheCell)
+{
+    MakeColumn({ 'c', false });
+    Store(1, "red", 3);
+    SendPtr(ChildOf(0), HEM_SETVALIDATOR, 0, reinterpret_cast<const void*>(RefuseAll));
+    StandOn(0, 1);
+    TypeText("x");
+    TypeKey(VK_TAB);
+    EXPECT_EQ((Cell{ 0, 1 }), Current());
+    EXPECT_EQ(Face(), GetFocus());
+    EXPECT_EQ("red", CellText(0, 1));
+}
+
 TEST_F(GridComboCells, CellShowsItsItem)
 {
     ForEachKind([&] {
