@@ -1030,9 +1030,10 @@ LRESULT CALLBACK HButtMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 /** The selection never extends. Style bit. */
 #define HGS_NOEXTEND 0x4000
 /**
- * Without WS_VSCROLL, a navigator stands at the right: a scroll bar and buttons that act as Ctrl+Home, Ctrl+End and, under
- * HGS_NEWROW, Insert, after HGN_NAVIGATE. For the text of a button's tip the grid's window gets message 40 with the id in
- * wParam (4188 to 4191) and a buffer of 81 bytes in lParam; a host's subclass fills it and answers 1. Style bit.
+ * Without WS_VSCROLL, a navigator stands at the right: a scroll bar and buttons that act as Ctrl+Home, Ctrl+End and,
+ * under HGS_NEWROW, Insert, after HGN_NAVIGATE. For the text of a button's tip the grid's window gets message 40 with
+ * the id in wParam (4188 to 4191) and a buffer of 81 bytes in lParam; a host's subclass fills it and answers 1. Style
+ * bit.
  */
 #define HGS_NAVIGATOR 0x8000
 
@@ -1357,9 +1358,9 @@ struct HGridCtl {
 };
 
 /**
- * What a subclass of the grid gets to draw a cell of kind q: WM_SETFONT with this record in wParam, which it doesn't hand
- * on. The column's control isn't wrapped: a host that wants its edits stored sends WWM_CHILDFOCUS and WWM_CHILDBLUR to the
- * grid when the control gets and loses the focus.
+ * What a subclass of the grid gets to draw a cell of kind q: WM_SETFONT with this record in wParam, which it doesn't
+ * hand on. The column's control isn't wrapped: a host that wants its edits stored sends WWM_CHILDFOCUS and
+ * WWM_CHILDBLUR to the grid when the control gets and loses the focus.
  */
 typedef struct HGDrawItem {
     const char* pszName; /**< The field's pszName. */
