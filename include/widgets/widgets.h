@@ -1111,12 +1111,17 @@ LRESULT CALLBACK HButtMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 #define HGS_ROWSELECT 0x2000
 /** The selection never extends. Style bit. */
 #define HGS_NOEXTEND 0x4000
-/** Without WS_VSCROLL, a navigator stands at the right. Style bit. */
+/**
+ * Without WS_VSCROLL, a navigator stands at the right: a scroll bar and buttons that act as Ctrl+Home, Ctrl+End and,
+ * under HGS_NEWROW, Insert, after HGN_NAVIGATE. For the text of a button's tip the grid's window gets message 40 with
+ * the id in wParam (4188 to 4191) and a buffer of 81 bytes in lParam; a host's subclass fills it and answers 1. Style
+ * bit.
+ */
 #define HGS_NAVIGATOR 0x8000
 
 /** Unit mode in the low two bits of dwStyle2: all sizes are dialog units. */
 #define HGX_DLGUNITS 0x0001
-/** Bit of dwStyle2: a fourth navigator button. */
+/** Bit of dwStyle2: a fourth navigator button, which only tells HGN_NAVEXTRA. */
 #define HGX_EXTRABUTTON 0x0004
 
 /** The column takes no space. Bit of HGField.wFlags. */
@@ -1357,7 +1362,15 @@ HGridData* WINAPI HGridLoad(const char* name, OFSTRUCT* ofs);
 
 /** Supplies the records of a grid whose rows are a block of a larger set. buffer is a row's data. */
 typedef int(CALLBACK* HGROWSOURCE)(HWND hwnd, int operation, int record, void* buffer);
-/** Paints a part of the library's buttons. @return Non-zero if it has painted. */
+/**
+ * Paints a part of the library's buttons.
+ *
+ * @param part      1 to 4: buttons of a combo. 5, 6, 7, 9: the navigator's to the first, last and new record, and the
+ *                  fourth one.
+ * @param enabled, pressed  The state, 0 or non-zero.
+ * @param reserved  0.
+ * @return Non-zero if it has painted; 0 leaves the button to paint itself.
+ */
 typedef int(CALLBACK* HGDRAWPART)(int part, HDC hdc, RECT* rect, int enabled, int pressed, int reserved);
 
 /** A mouse button is down. Bit of HGridCtl.wFlags. */
@@ -1426,7 +1439,11 @@ struct HGridCtl {
     HBRUSH      hNoEditBrush; /**< Brush for cells of read-only columns. */
 };
 
-/** What a subclass of the grid gets to draw a cell of kind q: WM_SETFONT with this record in wParam. */
+/**
+ * What a subclass of the grid gets to draw a cell of kind q: WM_SETFONT with this record in wParam, which it doesn't
+ * hand on. The column's control isn't wrapped: a host that wants its edits stored sends WWM_CHILDFOCUS and
+ * WWM_CHILDBLUR to the grid when the control gets and loses the focus.
+ */
 typedef struct HGDrawItem {
     const char* pszName; /**< The field's pszName. */
     const void* pValue;  /**< The cell's value, or null. */

@@ -161,6 +161,18 @@ LRESULT OnCheckNcPaint(HWND hwnd, WPARAM wParam, LPARAM lParam)
 
 } // namespace
 
+// The child of a column that the host draws isn't wrapped: its end is told to the grid by the system alone.
+void HGForgetHostDrawn(HGridCtl* ctl, HWND child)
+{
+    for (int col = 0; col < HGColCount(ctl->pData); ++col) {
+        const HGField* const field = HGGetField(ctl->pData, col);
+        if (field->cKind == 'q' && field->pCtl && field->pCtl->hWnd == child) {
+            ForgetControl(field->pCtl);
+            return;
+        }
+    }
+}
+
 bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     *result = 1;

@@ -184,6 +184,16 @@ void    HGMouseDblClk(HGridCtl* ctl, LPARAM lParam);
 extern int gSizeZone;  // what the mouse is over: 0 nothing, see the size zones
 extern int gGuideLine; // where the guide line stands, as x or y
 
+// Size zones: n above rowHeaderZone is the right edge of column n - 2, n below headerZone the bottom of row -2 - n.
+constexpr int headerZone = -1;   // the bottom of the column headers
+constexpr int rowHeaderZone = 1; // the right edge of the row headers
+constexpr int firstColumnZone = 2;
+int  HGSizeZoneAt(HGridCtl* ctl, POINT point);           // of a point of the window
+int  HGSizeHit(HGridCtl* ctl, HWND window, int hitCode); // sets gSizeZone; 1 if it has set a cursor
+void HGShowMoveCursor();
+void HGAddCursorUser(); // each grid is one
+void HGDropCursorUser();
+
 // Editing
 extern HWND gUnstored; // the grid that has taken the focus from its editor and not read it yet, or null
 bool HGIsEditable(HGridCtl* ctl, int col); // false for a column that doesn't exist
@@ -202,6 +212,7 @@ LRESULT HGOnKillFocus(HGridCtl* ctl, WPARAM wParam, int* pDefault);
 void    HGOnChildFocus(HGridCtl* ctl);
 void    HGOnChildBlur(HGridCtl* ctl);
 LRESULT HGOnCommand(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault);
+int     HGCommand(HGridCtl* ctl, int id, HWND child, int code); // what isn't the editor's; 0
 
 // Painting
 void    HGPaint(HGridCtl* ctl);
@@ -218,4 +229,5 @@ int  HGAttachData(HGridCtl* ctl, HGridData* data);
 void HGReset(HGridCtl* ctl, bool refresh);
 int  HGCreateCellCtl(HGridCtl* ctl, HGridData* grid, HGField* field);
 int  HGCellCtlIndex(char kind); // -1 for a kind without cell control
+void HGForgetHostDrawn(HGridCtl* ctl, HWND child); // a child window goes
 bool HGCellForward(int kind, HWND hGrid, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);

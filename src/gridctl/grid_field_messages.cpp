@@ -2,7 +2,6 @@
 // The way from position to column is written once, before the lookup.
 #include "gridctl/grid_handlers.h"
 
-
 #include <algorithm>
 #include <cstring>
 

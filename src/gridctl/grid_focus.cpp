@@ -166,11 +166,5 @@ LRESULT HGOnCommand(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault)
     if (child && child == ctl->hEditor && OnEditorCode(ctl, HIWORD(wParam))) {
         return 0;
     }
-    // OK and Cancel of a dialog end the edit and stay the dialog's all the same.
-    if (LOWORD(wParam) == IDOK) {
-        HGCommitEdit(ctl);
-    } else if (LOWORD(wParam) == IDCANCEL) {
-        HGCancelEdit(ctl);
-    }
-    return 0;
+    return HGCommand(ctl, LOWORD(wParam), child, HIWORD(wParam));
 }

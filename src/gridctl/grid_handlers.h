@@ -27,5 +27,12 @@ LRESULT HGOnSetFont(HGridCtl* ctl, const MsgArgs& args);
 LRESULT HGOnSetText(HGridCtl* ctl, const MsgArgs& args);
 LRESULT HGOnGetText(HGridCtl* ctl, const MsgArgs& args);
 
+// The navigator and its tips
+void    HGMakeNavigator(HGridCtl* ctl);
+void    HGDestroyNavigator(HGridCtl* ctl);
+void    HGAddTips(HGridCtl* ctl, HINSTANCE instance);
+void    HGAddTool(HWND hTips, HWND tool, HWND owner, HINSTANCE instance);
+LRESULT HGOnNotify(HGridCtl* ctl, const MsgArgs& args);
+
 // Sends a message to every column's cell control.
 void HGSendToChildren(HGridCtl* ctl, UINT message, WPARAM wParam, LPARAM lParam);

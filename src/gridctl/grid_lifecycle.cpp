@@ -2,40 +2,12 @@
 #include "gridctl/grid_handlers.h"
 
 #include "foundation/gdi_guards.h"
-#include "foundation/startup.h"
+#include "gridctl/grid_paint.h"
 #include "griddata/grid_file.h"
 
 #include <algorithm>
 
 namespace {
-
-// Cursors that all grids share while there are any.
-constexpr int sharedCursors[] = { 4302, 4303, 4304 };
-HCURSOR       gCursors[3];
-int           gInstances;
-
-void AddInstance()
-{
-    if (gInstances++ > 0) {
-        return;
-    }
-    for (int i = 0; i < 3; ++i) {
-        gCursors[i] = LoadCursorA(hInstance, MAKEINTRESOURCEA(sharedCursors[i]));
-    }
-}
-
-void DropInstance()
-{
-    if (--gInstances > 0) {
-        return;
-    }
-    for (HCURSOR& cursor : gCursors) {
-        if (cursor) {
-            DestroyCursor(cursor);
-        }
-        cursor = nullptr;
-    }
-}
 
 // The bits that a loaded definition decides; the creation decides the others.
 DWORD MergeStyles(DWORD definition, DWORD creation)
@@ -72,7 +44,7 @@ HGridCtl* MakeRecord(HWND hwnd, const CREATESTRUCTA* create)
         return nullptr;
     }
     SendMessageA(hwnd, WWM_SETSTATE, 0, reinterpret_cast<LPARAM>(ctl));
-    AddInstance();
+    HGAddCursorUser();
     ctl->hWnd = hwnd;
     ctl->hParent = create->hwndParent;
     ctl->wId = static_cast<DWORD>(reinterpret_cast<UINT_PTR>(create->hMenu));
@@ -112,44 +84,6 @@ void MakeNoEditBrush(HGridCtl* ctl, HDC hdc)
 {
     const LOGBRUSH brush = { BS_SOLID, NoEditColor(hdc), 0 };
     ctl->hNoEditBrush = CreateBrushIndirect(&brush);
-}
-
-HINSTANCE InstanceOf(HGridCtl* ctl)
-{
-    return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(ctl->hWnd, GWLP_HINSTANCE));
-}
-
-HWND MakeNavButton(HGridCtl* ctl, INT_PTR id)
-{
-    constexpr DWORD style = WS_CHILD | WS_VISIBLE | 0x4080;
-    return CreateWindowExA(0, "HButt", "", style, 0, 0, 1, 1, ctl->hWnd, reinterpret_cast<HMENU>(id), InstanceOf(ctl),
-                           nullptr);
-}
-
-// The buttons of the navigator are missing as long as their class is.
-void MakeNavigator(HGridCtl* ctl)
-{
-    constexpr INT_PTR scrollId = 1;
-    ctl->hNavScroll = CreateWindowExA(0, "SCROLLBAR", "", WS_CHILD | WS_VISIBLE | SBS_VERT, 0, 0, 1, 1, ctl->hWnd,
-                                      reinterpret_cast<HMENU>(scrollId), InstanceOf(ctl), nullptr);
-    ctl->pData->dwStyle |= WS_VSCROLL;
-    ctl->hNavFirst = MakeNavButton(ctl, 4188);
-    ctl->hNavLast = MakeNavButton(ctl, 4189);
-    ctl->hNavNew = MakeNavButton(ctl, 4190);
-    if (ctl->pData->dwStyle2 & HGX_EXTRABUTTON) {
-        ctl->hNavExtra = MakeNavButton(ctl, 4191);
-    }
-}
-
-void DestroyNavigator(HGridCtl* ctl)
-{
-    const HWND children[] = { ctl->hNavScroll, ctl->hNavFirst, ctl->hNavLast, ctl->hNavNew };
-    ctl->hNavScroll = ctl->hNavFirst = ctl->hNavLast = ctl->hNavNew = nullptr;
-    for (const HWND child : children) {
-        if (child) {
-            DestroyWindow(child);
-        }
-    }
 }
 
 // Rows go while the parent can still be asked: to the row source, or for good. False if the window went.
@@ -222,7 +156,7 @@ LRESULT HGOnCreate(HGridCtl* ctl)
         HGSendToChildren(ctl, WM_SETFONT, reinterpret_cast<WPARAM>(font), 0);
     }
     if (HasStyle(ctl, HGS_NAVIGATOR) && !HasStyle(ctl, WS_VSCROLL)) {
-        MakeNavigator(ctl);
+        HGMakeNavigator(ctl);
     }
     MakeNoEditBrush(ctl, screen.hdc);
     return 0;
@@ -230,6 +164,10 @@ LRESULT HGOnCreate(HGridCtl* ctl)
 
 LRESULT HGOnSetFont(HGridCtl* ctl, const MsgArgs& args)
 {
+    // Bounded: where no subclass has drawn the cell, its record is no font.
+    if (HGIsDrawItem(args.wParam)) {
+        return 0;
+    }
     const HFONT old = ctl->hFont;
     const HFONT font = reinterpret_cast<HFONT>(args.wParam);
     HGSendToChildren(ctl, WM_SETFONT, args.wParam, args.lParam);
@@ -262,7 +200,7 @@ void HGOnDestroy(HGridCtl* ctl)
         PostQuitMessage(0);
     }
     ClearChildLinks(ctl->pData);
-    DestroyNavigator(ctl);
+    HGDestroyNavigator(ctl);
     DeletePaintObjects(ctl);
 }
 
@@ -271,7 +209,7 @@ void HGOnNcDestroy(HGridCtl* ctl)
     const HWND hwnd = ctl->hWnd;
     HGridDestroy(ctl->pData);
     ctl->pData = nullptr;
-    DropInstance();
+    HGDropCursorUser();
     SendMessageA(hwnd, WWM_SETSTATE, 0, 0);
     HBlockFree(ctl);
 }

@@ -5,17 +5,12 @@
 #include "dialog/control_frame.h"
 #include "foundation/gdi_guards.h"
 #include "foundation/screen.h"
-#include "foundation/startup.h"
 
 int gSizeZone;
 int gGuideLine;
 
 namespace {
 
-constexpr int columnsCursor = 4304;
-constexpr int rowHeaderZone = 1;      // the right edge of the row headers
-constexpr int firstColumnZone = 2;    // zone n is the right edge of column n - 2
-constexpr int headerZone = -1;        // the bottom of the column headers; zone n below is the bottom of row -2 - n
 constexpr int lowestColumnWidth = 15; // pixels that a column drag leaves
 constexpr int minWidth = 2;
 constexpr int maxSize = 2000;
@@ -104,7 +99,7 @@ void ScrollByTime(HGridCtl* ctl)
 void DragColumns(HGridCtl* ctl)
 {
     ctl->wFlags |= HGC_COLDRAG;
-    SetCursor(LoadCursorA(hInstance, MAKEINTRESOURCEA(columnsCursor)));
+    HGShowMoveCursor();
     ScrollByTime(ctl);
 }
 

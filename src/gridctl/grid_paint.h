@@ -23,6 +23,7 @@ void HGZoneRect(HGridCtl* ctl, RECT* rect, bool fixed);
 
 // Cells whose place is known and in view. HGDrawDataCell gives 0 if the window went.
 int  HGDrawDataCell(HGridCtl* ctl, HDC hdc, const RECT& rect, int col, int row);
+bool HGIsDrawItem(WPARAM font); // true for the record that a host gets to draw a cell
 void HGDrawColumnHeader(HGridCtl* ctl, HDC hdc, RECT rect, int col);
 void HGDrawRowHeader(HGridCtl* ctl, HDC hdc, RECT rect, int row);
 // What is left of the header strips behind the last column of a band and the row lastRow.

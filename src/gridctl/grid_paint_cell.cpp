@@ -143,10 +143,13 @@ bool PaintAsCheck(CellPaint& cell)
     return IsWindow(hwnd) != FALSE;
 }
 
+const HGDrawItem* gDrawItem; // what a host is drawing
+
 // The message is meant for a subclass of the grid, which takes it before the grid's own handler does.
 bool PaintByHost(CellPaint& cell)
 {
     const HWND hwnd = cell.ctl->hWnd;
+    const HGDrawItem* const outer = gDrawItem;
     const bool nullChild = (cell.field->pCtl->wFlags & CF_NULL) != 0;
     HGDrawItem item{};
     item.pszName = cell.field->pszName;
@@ -155,7 +158,9 @@ bool PaintByHost(CellPaint& cell)
     item.hDC = cell.hdc;
     item.crText = cell.color;
     FillRect(cell.hdc, &cell.rect, cell.brush);
+    gDrawItem = &item;
     SendMessageA(hwnd, WM_SETFONT, reinterpret_cast<WPARAM>(&item), 0);
+    gDrawItem = outer;
     return IsWindow(hwnd) != FALSE;
 }
 
@@ -192,6 +197,11 @@ WORD CellFlags(HGridData* grid, int col, int row)
 }
 
 } // namespace
+
+bool HGIsDrawItem(WPARAM font)
+{
+    return font && font == reinterpret_cast<WPARAM>(gDrawItem);
+}
 
 int HGDrawDataCell(HGridCtl* ctl, HDC hdc, const RECT& rect, int col, int row)
 {

@@ -47,6 +47,19 @@ LRESULT OnRightDown(HGridCtl* ctl, const MsgArgs& args)
     return AskDefault(args);
 }
 
+LRESULT OnSetCursor(HGridCtl* ctl, const MsgArgs& args)
+{
+    return HGSizeHit(ctl, args.hwnd, static_cast<short>(LOWORD(args.lParam))) ? 1 : AskDefault(args);
+}
+
+LRESULT OnParentNotify(HGridCtl* ctl, const MsgArgs& args)
+{
+    if (LOWORD(args.wParam) == WM_DESTROY) {
+        HGForgetHostDrawn(ctl, reinterpret_cast<HWND>(args.lParam));
+    }
+    return AskDefault(args);
+}
+
 // Mouse messages run their step, and the default follows.
 LRESULT OnMouse(HGridCtl* ctl, const MsgArgs& args)
 {
@@ -86,12 +99,15 @@ LRESULT OnWindowMessage(HGridCtl* ctl, const MsgArgs& args)
     case WM_CLOSE:            return OnClose(ctl, args);
     case WM_QUERYENDSESSION:  return 1;
     case WM_CANCELMODE:       ctl->wFlags |= CF_CANCEL; return AskDefault(args);
+    case WM_SETCURSOR:        return OnSetCursor(ctl, args);
     case WM_SETFONT:          return HGOnSetFont(ctl, args);
     case WM_GETDLGCODE:       return OnDlgCode(ctl);
     case WM_KEYDOWN:          return HGOnKeyDown(ctl, wParam, lParam, args.pDefault);
     case WM_SYSKEYUP:         return HGOnSysKeyUp(ctl, wParam, args.pDefault);
     case WM_CHAR:             return HGOnChar(ctl, wParam, lParam, args.pDefault);
     case WM_COMMAND:          return HGOnCommand(ctl, wParam, lParam, args.pDefault);
+    case WM_NOTIFY:           return HGOnNotify(ctl, args);
+    case WM_PARENTNOTIFY:     return OnParentNotify(ctl, args);
     case WM_HSCROLL:          return HGOnHScroll(ctl, wParam);
     case WM_VSCROLL:          return HGOnVScroll(ctl, wParam);
     case WM_MOUSEWHEEL:       return HGOnMouseWheel(ctl, wParam, lParam, args.pDefault);

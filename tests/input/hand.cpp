@@ -25,14 +25,21 @@ Hand::~Hand()
     CloseHandle(thread_);
 }
 
+bool Hand::WaitFor(const std::function<bool()>& condition)
+{
+    const DWORD start = GetTickCount();
+    bool        held = condition();
+    while (!held && GetTickCount() - start < limitMs) {
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, lookMs, QS_ALLINPUT);
+        held = condition();
+    }
+    return held;
+}
+
 DWORD WINAPI Hand::Run(void* parameter)
 {
     Hand* const self = static_cast<Hand*>(parameter);
-    const DWORD start = GetTickCount();
-    while (!self->held_ && GetTickCount() - start < limitMs) {
-        MsgWaitForMultipleObjects(0, nullptr, FALSE, lookMs, QS_ALLINPUT);
-        self->held_ = self->condition_();
-    }
+    self->held_ = WaitFor(self->condition_);
     self->deed_();
     return 0;
 }

@@ -17,6 +17,8 @@ public:
     bool IsDone() const { return WaitForSingleObject(thread_, 0) == WAIT_OBJECT_0; }
     bool HeldInTime() const { return held_; } // once it is done
 
+    // Within a deed: comes back once the condition holds, or after a few seconds. The result is whether it held.
+    static bool WaitFor(const std::function<bool()>& condition);
     // Real input at a place of the screen.
     static void MoveTo(POINT screen);
     static void Lift(POINT screen, unsigned modifiers = 0); // the left button, and then the keys

@@ -106,14 +106,16 @@ RECT Pixels::InkBounds(COLORREF background, const RECT& area) const
     return bounds;
 }
 
-Pixels ShotOfDC(HDC hdc, int width, int height)
+namespace {
+
+Pixels PartOfDC(HDC hdc, POINT corner, int width, int height)
 {
     const BITMAPINFO info = TopDownInfo(width, height, 32);
     void*            bits = nullptr;
     const HDC        memory = CreateCompatibleDC(hdc);
     const HBITMAP    bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
     const HGDIOBJ    old = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, hdc, 0, 0, SRCCOPY);
+    BitBlt(memory, 0, 0, width, height, hdc, corner.x, corner.y, SRCCOPY);
     GdiFlush();
     Pixels            result = { width, height, {} };
     const auto* const dib = static_cast<const DWORD*>(bits);
@@ -123,6 +125,25 @@ Pixels ShotOfDC(HDC hdc, int width, int height)
     SelectObject(memory, old);
     DeleteObject(bitmap);
     DeleteDC(memory);
+    return result;
+}
+
+} // namespace
+
+Pixels ShotOfDC(HDC hdc, int width, int height)
+{
+    return PartOfDC(hdc, {}, width, height);
+}
+
+Pixels ScreenShotOf(HWND hwnd)
+{
+    RECT  client = {};
+    POINT corner = {};
+    GetClientRect(hwnd, &client);
+    ClientToScreen(hwnd, &corner);
+    const HDC    screen = GetDC(nullptr);
+    const Pixels result = PartOfDC(screen, corner, client.right, client.bottom);
+    ReleaseDC(nullptr, screen);
     return result;
 }
 

@@ -24,6 +24,8 @@ struct Pixels {
 // The client area after all pending painting, or the whole window with its frame.
 Pixels ShotOf(HWND hwnd);
 Pixels ShotOfWindow(HWND hwnd);
+// What the screen shows where the client area is, from any thread; nothing is painted first.
+Pixels ScreenShotOf(HWND hwnd);
 // The upper left part of a DC.
 Pixels ShotOfDC(HDC hdc, int width, int height);
 
