@@ -157,7 +157,7 @@ HICON IconOf(const BITMAP& info, HBITMAP colors, const IconEntry& entry, const B
                       static_cast<BYTE>(info.bmBitsPixel), mask, bits.bytes);
 }
 
-// image is changed, and has room behind it for a mask with rows of whole words.
+// image is changed, and has as much room as info says.
 HICON MakeIcon(BYTE* image, const IconEntry& entry, const IconImage& info)
 {
     FixIconHeader(image, entry, info);
@@ -171,11 +171,6 @@ HICON MakeIcon(BYTE* image, const IconEntry& entry, const IconImage& info)
         return nullptr;
     }
     return IconOf(bitmap, colors.h, entry, image + info.maskOffset);
-}
-
-size_t MaskRoom(const IconEntry& entry)
-{
-    return static_cast<size_t>(entry.width + 15) / 16 * 2 * static_cast<size_t>(entry.height);
 }
 
 } // namespace
@@ -214,13 +209,11 @@ void LoadPicIconFile(Pic* pic, const char* name)
     IconEntry  entry{};
     IconImage  info{};
     if (!ReadNamed(name, ".ICO", OF_READ | OF_SHARE_DENY_WRITE, &file) ||
-        !FindIconEntry(file.bytes, file.size, &entry) || !image.Make(entry.size + MaskRoom(entry))) {
+        !FindIconEntry(file.bytes, file.size, &entry) ||
+        !ReadIconImage(file.bytes + entry.offset, entry, &info) || !image.Make(info.room)) {
         return;
     }
     std::memcpy(image.bytes, file.bytes + entry.offset, entry.size);
-    if (!ReadIconImage(image.bytes, entry, &info)) {
-        return;
-    }
     if (const HICON icon = MakeIcon(image.bytes, entry, info)) {
         *pic = { PIC_ICON, icon, nullptr, 0 };
     }

@@ -79,6 +79,18 @@ size_t BytesOfBits(const IconEntry& entry, int bits)
     return static_cast<size_t>(entry.height * bits * entry.width / pixelsOfByte);
 }
 
+// The platform may count a row of each plane, and has the rows of the mask begin at whole words. Bounded: where the
+// image ends before such rows do, its block goes on behind it.
+size_t RoomOf(const BYTE* image, const IconEntry& entry, const IconImage& info)
+{
+    constexpr int maskAlign = 16;
+    const WORD    allBits = static_cast<WORD>(info.bits * LoadAs<WORD>(image + headerPlanes));
+    const size_t  rows = static_cast<size_t>(entry.height);
+    const size_t  maskRow = static_cast<size_t>((entry.width + maskAlign - 1) / maskAlign * (maskAlign / pixelsOfByte));
+    const size_t  colors = info.bitsOffset + rows * static_cast<size_t>(DibRowBytes(entry.width, allBits));
+    return std::max({ entry.size, colors, info.maskOffset + rows * maskRow });
+}
+
 } // namespace
 
 bool FindIconEntry(const BYTE* bytes, size_t size, IconEntry* out)
@@ -122,7 +134,8 @@ bool ReadIconImage(const BYTE* image, const IconEntry& entry, IconImage* out)
     if (colorBytes + maskBytes > left || static_cast<size_t>(entry.height) * DibRowBytes(entry.width, bits) > left) {
         return false;
     }
-    *out = { bits, bitsOffset, bitsOffset + colorBytes, maskRow };
+    *out = { bits, bitsOffset, bitsOffset + colorBytes, maskRow, 0 };
+    out->room = RoomOf(image, entry, *out);
     return true;
 }
 

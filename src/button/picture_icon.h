@@ -19,6 +19,7 @@ struct IconImage {
     size_t bitsOffset; // colour bits
     size_t maskOffset; // rows of the mask behind them, the lowest first
     size_t maskRow;    // bytes of one
+    size_t room;       // bytes that the platform may read of it: as many as the image has, or more
 };
 
 // The first entry of height 32 or of width 64.

@@ -216,6 +216,9 @@ TEST_F(PictureCache, IconFilesOfEachDepthLoad)
         spec.bits = bits;
         const TempFile file("icotest.ico", MakeIconFile(spec));
         EXPECT_TRUE(Exists("icotest.ico")) << bits;
+        spec.planes = 4;
+        const TempFile planes("icoplane.ico", MakeIconFile(spec));
+        EXPECT_TRUE(Exists("icoplane.ico")) << bits << " bits in four planes";
     }
     IconSpec understated;
     understated.understates = true;
