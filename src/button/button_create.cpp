@@ -12,7 +12,7 @@ namespace {
 int cButtons; // that live
 
 constexpr char   nullPictureName[] = "HC5";
-constexpr size_t typeTextSize = 256; // of a default description without its caption
+constexpr int    typeTextSize = 256; // of a default description; a caption may go beyond it
 
 void EnterButton()
 {
@@ -53,13 +53,13 @@ void FillRecord(HButtCtl* ctl, HWND hwnd, CREATESTRUCTA* create)
 // A caption becomes the default description of its kind around it.
 bool ApplyCaption(HButtCtl* ctl, const char* caption)
 {
-    const size_t size = typeTextSize + std::strlen(caption);
-    char* const  text = static_cast<char*>(HBlockAlloc(size));
+    char* const text = static_cast<char*>(HBlockAlloc(typeTextSize + std::strlen(caption)));
     if (!text) {
         return false;
     }
+    // Settled: the caption takes its characters from the pictures, so behind a long one there are fewer.
     bool applied = false;
-    if (LoadDefTypeText(static_cast<int>(KindOf(ctl)), text, static_cast<int>(size), caption)) {
+    if (LoadDefTypeText(static_cast<int>(KindOf(ctl)), text, typeTextSize, caption)) {
         applied = HBApplyType(ctl, text);
     } else {
         // Kinds without a description of their own keep their caption.

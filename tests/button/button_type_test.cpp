@@ -227,12 +227,42 @@ TEST_F(ButtonType, ArrayOfPicturesGrowsByFour)
     }
 }
 
+struct LongRow {
+    size_t length; // of the caption
+    int    pictures;
+    int    lastImage;
+};
+
+// clang-format off
+constexpr LongRow longRows[] = {
+    { 234, 4, 3 }, { 235, 4, 0 }, // the last name has lost its number
+    { 236, 3, 2 }, { 238, 3, 2 }, { 239, 3, 0 },
+    { 240, 2, 1 }, { 242, 2, 1 }, { 243, 2, 0 },
+    { 244, 1, 0 }, { 247, 1, 0 },
+    { 248, 0, 0 }, { 250, 0, 0 }, { 251, 0, 0 }, { 255, 0, 0 },
+};
+// clang-format on
+
+TEST_F(ButtonType, LongCaptionTakesTheRoomOfTheDefaultPictures)
+{
+    for (const LongRow& row : longRows) {
+        SCOPED_TRACE(row.length);
+        Make(std::string(row.length, 'c').c_str(), HBS_CHECK);
+        EXPECT_EQ(static_cast<LRESULT>(row.length), Send(WM_GETTEXTLENGTH));
+        ASSERT_EQ(row.pictures, Pictures());
+        EXPECT_EQ(row.pictures > 2 ? row.pictures : 2, States());
+        if (row.pictures > 0) {
+            EXPECT_EQ(row.lastImage, Ctl()->pPics[row.pictures - 1].nImage);
+        }
+    }
+}
+
 TEST_F(ButtonType, LongTextsAreCutNotOverrun)
 {
     const std::string caption(1000, 'c');
     Make(caption.c_str(), HBS_CHECK);
     EXPECT_EQ(255, Send(WM_GETTEXTLENGTH));
-    EXPECT_EQ(4, Pictures()) << "the pictures follow a long caption too";
+    EXPECT_EQ(0, Pictures());
     std::string many = "333;x;";
     for (int i = 0; i < 300; ++i) {
         many += "IM1:";
