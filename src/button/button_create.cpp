@@ -9,7 +9,8 @@ NullPictures gNullPictures;
 
 namespace {
 
-int cButtons; // that live
+int        cButtons; // that live
+RecordUse* pUses;    // the innermost
 
 constexpr char   nullPictureName[] = "HC5";
 constexpr int    typeTextSize = 256; // of a default description; a caption may go beyond it
@@ -94,11 +95,37 @@ LRESULT HBOnNcCreate(const MsgArgs& args)
     return DefWindowProcA(args.hwnd, args.message, args.wParam, args.lParam);
 }
 
+RecordUse::RecordUse(HButtCtl* ctl) : ctl_(ctl), outer_(pUses), frees_(false)
+{
+    pUses = this;
+}
+
+RecordUse::~RecordUse()
+{
+    pUses = outer_;
+    if (frees_) {
+        HBlockFree(ctl_);
+    }
+}
+
+void RecordUse::LetGo(HButtCtl* ctl)
+{
+    RecordUse* outermost = nullptr;
+    for (RecordUse* use = pUses; use; use = use->outer_) {
+        outermost = use->ctl_ == ctl ? use : outermost;
+    }
+    if (outermost) {
+        outermost->frees_ = true;
+    } else {
+        HBlockFree(ctl);
+    }
+}
+
 void HBFreeRecord(HButtCtl* ctl)
 {
-    const HWND hwnd = ctl->hWnd;
+    // It is detached first: whoever sees the message may ask for the record.
+    SendMessageA(ctl->hWnd, WWM_SETSTATE, 0, 0);
     HBFreeContent(ctl);
-    HBlockFree(ctl);
-    SendMessageA(hwnd, WWM_SETSTATE, 0, 0);
+    RecordUse::LetGo(ctl);
     LeaveButton();
 }

@@ -180,6 +180,17 @@ TEST_F(ButtonType, ColourGroupsColourTheCaptionAndTheKey)
     EXPECT_EQ(0x00FF00, Send(HBM_GETPICKEY));
 }
 
+TEST_F(ButtonType, SecondColourMayBeGivenTwice)
+{
+    for (const char* const groups : { "[red][blue]", "[red][green][blue]", "[nothing][blue]", "[blue][nothing]" }) {
+        Make((std::string("441;a;") + groups + "IM1").c_str());
+        EXPECT_EQ(0xFF0000, Send(HBM_GETPICKEY)) << groups;
+        EXPECT_EQ(1, Pictures()) << groups;
+    }
+    Make("441;a;[nothing]IM1");
+    EXPECT_EQ(0x00FF00, Send(HBM_GETPICKEY));
+}
+
 TEST_F(ButtonType, KeyIsPureGreenWithoutAGroup)
 {
     Make("x");
@@ -385,6 +396,29 @@ TEST_F(ButtonType, RecordGoesWithTheFirstMessageOfTheEnd)
     UnhookWindowsHookEx(hook);
     EXPECT_EQ(0, gAtEnd.atDestroy);
     EXPECT_EQ(live, LiveBlocks());
+}
+
+int gRecordsSeen;
+
+// Reads the record on every message that asks for none itself, as a host's procedure may.
+LRESULT CALLBACK ReadRecord(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT state = message == WWM_GETSTATE ? 0 : HButtWnd(hwnd, WWM_GETSTATE, 0, 0);
+    if (const HButtCtl* const ctl = reinterpret_cast<const HButtCtl*>(state)) {
+        EXPECT_EQ(hwnd, +ctl->hWnd) << message;
+        EXPECT_STREQ("Caption", ctl->pszCaption) << message;
+        ++gRecordsSeen;
+    }
+    return HButtWnd(hwnd, message, wParam, lParam);
+}
+
+TEST_F(ButtonType, RecordIsWholeAsLongAsItIsAttached)
+{
+    Make("441;Caption;IM1");
+    SetWindowLongPtrA(button, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ReadRecord));
+    gRecordsSeen = 0;
+    DestroyButton();
+    EXPECT_GT(gRecordsSeen, 0);
 }
 
 TEST_F(ButtonType, MessagesWithoutARecordGoToTheDefault)
