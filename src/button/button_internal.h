@@ -108,6 +108,7 @@ using SoundPlayer = BOOL(WINAPI*)(const char* sound, UINT flags);
 extern SoundPlayer pfnPlaySound;
 void HBLoadSound(HButtCtl* ctl, const char* field); // the third field of a type text
 int  HBSetSoundFile(HButtCtl* ctl, const char* name);
+const char* HBTakeSoundPrefix(HButtCtl* ctl, const char* name); // steps over the one for sounds that play on
 void HBFreeSound(HButtCtl* ctl);
 void HBPlaySound(HButtCtl* ctl);
 

@@ -34,9 +34,9 @@ bool IsNamed(const IMAGE_THUNK_DATA& import, const char* function)
 }
 
 // Null if the program doesn't import the function.
-void** SlotOf(const char* function)
+void** SlotOf(const char* function, const char* library)
 {
-    const IMAGE_IMPORT_DESCRIPTOR* const import = ImportsOf("USER32.dll");
+    const IMAGE_IMPORT_DESCRIPTOR* const import = ImportsOf(library);
     if (!import) {
         return nullptr;
     }
@@ -67,7 +67,8 @@ BOOL WINAPI CountBeep(UINT)
 
 } // namespace
 
-ImportHook::ImportHook(const char* function, void* replacement) : slot_(SlotOf(function)), real_(nullptr)
+ImportHook::ImportHook(const char* function, void* replacement, const char* library)
+    : slot_(SlotOf(function, library)), real_(nullptr)
 {
     EXPECT_NE(nullptr, slot_) << function << " isn't imported";
     if (slot_) {

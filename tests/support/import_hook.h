@@ -1,4 +1,4 @@
-// A function of USER32 that this program calls is replaced by another one, so that a test sees the calls of the code
+// A function of USER32, or of another library, that this program calls is replaced by another one, so that a test sees the calls of the code
 // that is linked into it.
 #pragma once
 
@@ -6,10 +6,11 @@ class ImportHook {
 public:
     // function: an imported function's name. replacement has its type.
     template <typename Function>
-    ImportHook(const char* function, Function* replacement) : ImportHook(function, reinterpret_cast<void*>(replacement))
+    ImportHook(const char* function, Function* replacement, const char* library = "USER32.dll")
+        : ImportHook(function, reinterpret_cast<void*>(replacement), library)
     {
     }
-    ImportHook(const char* function, void* replacement);
+    ImportHook(const char* function, void* replacement, const char* library);
     ~ImportHook();
     ImportHook(const ImportHook&) = delete;
     ImportHook& operator=(const ImportHook&) = delete;
