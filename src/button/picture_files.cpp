@@ -17,6 +17,19 @@ constexpr UINT   pieceSize = 32767;   // of a read
 constexpr WORD   paletteVersion = 0x0300;
 constexpr DWORD  notNt = 0x80000000;  // of GetVersion
 
+// What tells a kind of file before all of it is read.
+struct FileKind {
+    const char* ending; // of names without one
+    UINT        mode;
+    size_t      headerSize;
+    size_t      signatureAt;
+    WORD        signature;
+};
+
+constexpr FileKind bitmapFile = { ".BMP", OF_READ, bitmapFileHeaderSize, 0, bitmapFileSignature };
+constexpr FileKind iconFile = { ".ICO", OF_READ | OF_SHARE_DENY_WRITE, iconFileHeaderSize, iconFileTypeAt,
+                                iconFileType };
+
 // A block of the library that goes at the end of its scope.
 struct OwnedBlock {
     BYTE*  bytes;
@@ -60,6 +73,12 @@ bool ReadBytes(HFILE file, BYTE* out, size_t count)
     return true;
 }
 
+bool IsOfKind(HFILE file, const FileKind& kind)
+{
+    BYTE header[bitmapFileHeaderSize];
+    return ReadBytes(file, header, kind.headerSize) && LoadAs<WORD>(header + kind.signatureAt) == kind.signature;
+}
+
 bool ReadWhole(HFILE file, OwnedBlock* out)
 {
     const LONG size = _llseek(file, 0, FILE_END);
@@ -69,18 +88,18 @@ bool ReadWhole(HFILE file, OwnedBlock* out)
     return out->Make(static_cast<size_t>(size)) && ReadBytes(file, out->bytes, out->size);
 }
 
-bool ReadNamed(const char* name, const char* ending, UINT mode, OwnedBlock* out)
+bool ReadNamed(const char* name, const FileKind& kind, OwnedBlock* out)
 {
     char complete[fileNameSize];
-    if (!CompleteName(name, ending, complete)) {
+    if (!CompleteName(name, kind.ending, complete)) {
         return false;
     }
     OFSTRUCT    told{};
-    const HFILE file = OpenFile(complete, &told, mode);
+    const HFILE file = OpenFile(complete, &told, kind.mode);
     if (file == HFILE_ERROR) {
         return false;
     }
-    const bool whole = ReadWhole(file, out);
+    const bool whole = IsOfKind(file, kind) && ReadWhole(file, out);
     _lclose(file);
     return whole;
 }
@@ -197,7 +216,7 @@ void LoadPicBitmapFile(Pic* pic, const char* name)
 {
     OwnedBlock file;
     DibInfo    info{};
-    if (ReadNamed(name, ".BMP", OF_READ, &file) && ReadBitmapFile(file.bytes, file.size, &info)) {
+    if (ReadNamed(name, bitmapFile, &file) && ReadBitmapFile(file.bytes, file.size, &info)) {
         MakeDibPic(pic, file.bytes + bitmapFileHeaderSize, info, true);
     }
 }
@@ -208,8 +227,7 @@ void LoadPicIconFile(Pic* pic, const char* name)
     OwnedBlock image;
     IconEntry  entry{};
     IconImage  info{};
-    if (!ReadNamed(name, ".ICO", OF_READ | OF_SHARE_DENY_WRITE, &file) ||
-        !FindIconEntry(file.bytes, file.size, &entry) ||
+    if (!ReadNamed(name, iconFile, &file) || !FindIconEntry(file.bytes, file.size, &entry) ||
         !ReadIconImage(file.bytes + entry.offset, entry, &info) || !image.Make(info.room)) {
         return;
     }

@@ -8,10 +8,7 @@
 
 namespace {
 
-constexpr size_t fileHeaderSize = 6;
-constexpr size_t fileType = 2;
 constexpr size_t fileCount = 4;
-constexpr WORD   iconType = 1;
 
 constexpr size_t entrySize = 16;
 constexpr size_t entryWidth = 0;
@@ -45,9 +42,9 @@ const BYTE* FindWanted(const BYTE* bytes, size_t size)
 {
     const size_t count = LoadAs<WORD>(bytes + fileCount);
     // Bounded: a directory that counts more entries than the file has room for.
-    const size_t there = std::min(count, (size - fileHeaderSize) / entrySize);
+    const size_t there = std::min(count, (size - iconFileHeaderSize) / entrySize);
     for (size_t i = 0; i < there; ++i) {
-        const BYTE* const entry = bytes + fileHeaderSize + i * entrySize;
+        const BYTE* const entry = bytes + iconFileHeaderSize + i * entrySize;
         if (IsWanted(entry)) {
             return entry;
         }
@@ -83,10 +80,11 @@ size_t BytesOfBits(const IconEntry& entry, int bits)
 // image ends before such rows do, its block goes on behind it.
 size_t RoomOf(const BYTE* image, const IconEntry& entry, const IconImage& info)
 {
-    constexpr int maskAlign = 16;
+    constexpr int pixelsOfWord = 2 * pixelsOfByte;
     const WORD    allBits = static_cast<WORD>(info.bits * LoadAs<WORD>(image + headerPlanes));
     const size_t  rows = static_cast<size_t>(entry.height);
-    const size_t  maskRow = static_cast<size_t>((entry.width + maskAlign - 1) / maskAlign * (maskAlign / pixelsOfByte));
+    const int     maskWords = (entry.width + pixelsOfWord - 1) / pixelsOfWord;
+    const size_t  maskRow = static_cast<size_t>(maskWords) * sizeof(WORD);
     const size_t  colors = info.bitsOffset + rows * static_cast<size_t>(DibRowBytes(entry.width, allBits));
     return std::max({ entry.size, colors, info.maskOffset + rows * maskRow });
 }
@@ -95,7 +93,7 @@ size_t RoomOf(const BYTE* image, const IconEntry& entry, const IconImage& info)
 
 bool FindIconEntry(const BYTE* bytes, size_t size, IconEntry* out)
 {
-    if (!bytes || size < fileHeaderSize || LoadAs<WORD>(bytes + fileType) != iconType) {
+    if (!bytes || size < iconFileHeaderSize || LoadAs<WORD>(bytes + iconFileTypeAt) != iconFileType) {
         return false;
     }
     const BYTE* const entry = FindWanted(bytes, size);

@@ -5,6 +5,11 @@
 
 #include <cstddef>
 
+// How an icon file begins.
+constexpr size_t iconFileHeaderSize = 6;
+constexpr size_t iconFileTypeAt = 2;
+constexpr WORD   iconFileType = 1;
+
 // Where the image of an icon file lies.
 struct IconEntry {
     int    width;  // pixels

@@ -252,6 +252,16 @@ TEST_F(PictureCache, DamagedFilesAreNone)
     EXPECT_EQ(live, LiveBlocks());
 }
 
+TEST_F(PictureCache, FileOfAnotherKindIsRefusedBeforeItIsRead)
+{
+    const TempFile bitmap("pictest.bmp", Bytes(5000, 0xFF));
+    const TempFile icon("icotest.ico", Bytes(5000, 0xFF));
+    const int      before = AllocationCount();
+    EXPECT_FALSE(Exists("pictest"));
+    EXPECT_FALSE(Exists("icotest"));
+    EXPECT_EQ(before, AllocationCount());
+}
+
 TEST_F(PictureCache, NamesThatLeadNowhereGiveNothing)
 {
     EXPECT_FALSE(Exists("no such picture"));
