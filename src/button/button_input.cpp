@@ -125,6 +125,7 @@ LRESULT OnSetFocus(HButtCtl* ctl)
     return 0;
 }
 
+// Settled: a space bar that is held keeps the capture; the key's going up ends it wherever the focus is.
 LRESULT OnKillFocus(HButtCtl* ctl, const MsgArgs& args)
 {
     const bool transparent = HasStyle(ctl, HBS_TRANSPARENT);

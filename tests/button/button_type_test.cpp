@@ -15,7 +15,7 @@ protected:
     LRESULT Pic(int index) const { return Send(HBM_GETPIC, static_cast<WPARAM>(index)); }
 };
 
-TEST_F(ButtonType, RegistersItsClassFirstWithTwoWords)
+TEST_F(ButtonType, RegistersItsClassWithTwoWords)
 {
     WNDCLASSA info = {};
     ASSERT_NE(0, GetClassInfoA(GetModuleHandleA(nullptr), "HButt", &info));
