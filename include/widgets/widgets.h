@@ -984,7 +984,7 @@ int WINAPI GetPicDimensions(const Pic* pic, int* outWidth, int* outHeight);
 #define HBS_OWNERDRAW 0x0100
 /** Two pictures a value: the second one shows while the button is pressed. Style bit. */
 #define HBS_UPDOWN 0x0400
-/** A click steps the value, and a value above 0 clears the radio buttons of its group. Style bit. */
+/** A click steps the value. Any value asked for but 0 clears the radio buttons of its group. Style bit. */
 #define HBS_AUTO 0x0800
 /** No raised face. Style bit. */
 #define HBS_NOFACE 0x1000
@@ -995,8 +995,9 @@ int WINAPI GetPicDimensions(const Pic* pic, int* outWidth, int* outHeight);
 
 /*
  * Messages of the button. It also answers BM_GETCHECK (240), BM_SETCHECK (241, wParam: value, lParam: notify),
- * BM_GETSTATE (242: 1 while pressed), BM_SETSTATE (243, wParam: pressed), BM_SETSTYLE (244, wParam: kind) and BM_CLICK
- * (245). Places count from 0 to 8.
+ * BM_GETSTATE (242: 1 while pressed), BM_SETSTATE (243, wParam: pressed; if so, it sounds and clicks too), BM_SETSTYLE
+ * (244, wParam: kind) and BM_CLICK (245). The clicks of BM_SETSTATE and BM_CLICK tell nobody.
+ * Places count from 0 to 8.
  */
 
 /** Gives the picture's place. */
@@ -1019,14 +1020,18 @@ int WINAPI GetPicDimensions(const Pic* pic, int* outWidth, int* outHeight);
 #define HBM_SETPICPOS 1074
 /**
  * wParam: index, and PIC_ kind in the high word, 0 to keep it. lParam: handle, which stays the host's; 0: the library's
- * default picture, if any. Gives the old handle; 0 out of range, or for one that the library has freed.
+ * default picture, if any. Gives the old handle if FreePic gives 0 for it, so a host's own and the last use of a strip's;
+ * 0 out of range, and for a picture that the library has freed or that others still use.
  */
 #define HBM_SETPIC 1075
 /** lParam: colour of pictures that isn't drawn. Gives 1. */
 #define HBM_SETPICKEY 1076
 /** wParam: place. Gives 1; 0 for a place above 8. */
 #define HBM_SETRELPOS 1077
-/** wParam: sound resource, or 0. lParam: file name, or 0. A name gives 1 if it is found; else the old resource. */
+/**
+ * wParam: sound resource, or 0. lParam: file name, or 0; "%a" before it sets HBS_ASYNCSOUND. A name gives 1 if it is
+ * found; else the old resource. The resource is one that was found, under HBS_ASYNCSOUND one that was loaded.
+ */
 #define HBM_SETSOUND 1078
 /** wParam: place. Gives 1; 0 for a place above 8. */
 #define HBM_SETTEXTPOS 1079

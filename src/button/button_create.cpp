@@ -9,10 +9,11 @@ NullPictures gNullPictures;
 
 namespace {
 
-int cButtons; // that live
+int        cButtons; // that live
+RecordUse* pUses;    // the innermost
 
 constexpr char   nullPictureName[] = "HC5";
-constexpr size_t typeTextSize = 256; // of a default description without its caption
+constexpr int    typeTextSize = 256; // of a default description; a caption may go beyond it
 
 void EnterButton()
 {
@@ -53,13 +54,13 @@ void FillRecord(HButtCtl* ctl, HWND hwnd, CREATESTRUCTA* create)
 // A caption becomes the default description of its kind around it.
 bool ApplyCaption(HButtCtl* ctl, const char* caption)
 {
-    const size_t size = typeTextSize + std::strlen(caption);
-    char* const  text = static_cast<char*>(HBlockAlloc(size));
+    char* const text = static_cast<char*>(HBlockAlloc(typeTextSize + std::strlen(caption)));
     if (!text) {
         return false;
     }
+    // Settled: the caption takes its characters from the pictures, so behind a long one there are fewer.
     bool applied = false;
-    if (LoadDefTypeText(static_cast<int>(KindOf(ctl)), text, static_cast<int>(size), caption)) {
+    if (LoadDefTypeText(static_cast<int>(KindOf(ctl)), text, typeTextSize, caption)) {
         applied = HBApplyType(ctl, text);
     } else {
         // Kinds without a description of their own keep their caption.
@@ -94,11 +95,37 @@ LRESULT HBOnNcCreate(const MsgArgs& args)
     return DefWindowProcA(args.hwnd, args.message, args.wParam, args.lParam);
 }
 
+RecordUse::RecordUse(HButtCtl* ctl) : ctl_(ctl), outer_(pUses), frees_(false)
+{
+    pUses = this;
+}
+
+RecordUse::~RecordUse()
+{
+    pUses = outer_;
+    if (frees_) {
+        HBlockFree(ctl_);
+    }
+}
+
+void RecordUse::LetGo(HButtCtl* ctl)
+{
+    RecordUse* outermost = nullptr;
+    for (RecordUse* use = pUses; use; use = use->outer_) {
+        outermost = use->ctl_ == ctl ? use : outermost;
+    }
+    if (outermost) {
+        outermost->frees_ = true;
+    } else {
+        HBlockFree(ctl);
+    }
+}
+
 void HBFreeRecord(HButtCtl* ctl)
 {
-    const HWND hwnd = ctl->hWnd;
+    // It is detached first: whoever sees the message may ask for the record.
+    SendMessageA(ctl->hWnd, WWM_SETSTATE, 0, 0);
     HBFreeContent(ctl);
-    HBlockFree(ctl);
-    SendMessageA(hwnd, WWM_SETSTATE, 0, 0);
+    RecordUse::LetGo(ctl);
     LeaveButton();
 }

@@ -8,13 +8,6 @@ bool IsCaptured(HWND hwnd)
     return GetCapture() == hwnd;
 }
 
-void EndCapture(HWND hwnd)
-{
-    if (IsCaptured(hwnd)) {
-        ReleaseCapture();
-    }
-}
-
 bool IsInClient(HWND hwnd, LPARAM lParam)
 {
     const POINT point{ static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)) };
@@ -28,7 +21,7 @@ LRESULT OnButtonDown(HButtCtl* ctl, const MsgArgs& args)
     if (!HasStyle(ctl, HBS_NOFOCUS)) {
         SetFocus(args.hwnd);
     }
-    if (!IsWindow(args.hwnd)) {
+    if (!IsAlive(ctl)) {
         return 0;
     }
     if (HasFlag(ctl, HBF_SPACEDOWN)) {
@@ -36,12 +29,12 @@ LRESULT OnButtonDown(HButtCtl* ctl, const MsgArgs& args)
         return 0;
     }
     SetCapture(args.hwnd);
-    if (!IsWindow(args.hwnd)) {
+    if (!IsAlive(ctl)) {
         return 0;
     }
     HBSetPressed(ctl, true);
     HUpdateTop(args.hwnd);
-    if (IsWindow(args.hwnd)) {
+    if (IsAlive(ctl)) {
         HBPlaySound(ctl);
     }
     return 0;
@@ -60,14 +53,14 @@ LRESULT OnMouseMove(HButtCtl* ctl, const MsgArgs& args)
     return 0;
 }
 
-LRESULT OnButtonUp(HButtCtl* ctl, const MsgArgs& args)
+LRESULT OnButtonUp(HButtCtl* ctl)
 {
     if (HasFlag(ctl, HBF_SPACEDOWN)) {
         HBSetPressed(ctl, true);
         return 0;
     }
-    EndCapture(args.hwnd);
-    if (!IsWindow(args.hwnd)) {
+    ReleaseCapture();
+    if (!IsAlive(ctl)) {
         return 0;
     }
     if (HasFlag(ctl, HBF_PRESSED)) {
@@ -91,7 +84,7 @@ LRESULT OnSpaceDown(HButtCtl* ctl, const MsgArgs& args)
     }
     SetFlag(ctl, HBF_SPACEDOWN, true);
     SetCapture(args.hwnd);
-    if (IsWindow(args.hwnd)) {
+    if (IsAlive(ctl)) {
         HBPress(ctl);
     }
     return 0;
@@ -112,8 +105,8 @@ LRESULT OnKeyUp(HButtCtl* ctl, const MsgArgs& args)
         return AskDefault(args);
     }
     SetFlag(ctl, HBF_SPACEDOWN, false);
-    EndCapture(args.hwnd);
-    if (!IsWindow(args.hwnd)) {
+    ReleaseCapture();
+    if (!IsAlive(ctl)) {
         return 0;
     }
     if (args.wParam == VK_SPACE) {
@@ -132,6 +125,7 @@ LRESULT OnSetFocus(HButtCtl* ctl)
     return 0;
 }
 
+// Settled: a space bar that is held keeps the capture; the key's going up ends it wherever the focus is.
 LRESULT OnKillFocus(HButtCtl* ctl, const MsgArgs& args)
 {
     const bool transparent = HasStyle(ctl, HBS_TRANSPARENT);
@@ -139,14 +133,14 @@ LRESULT OnKillFocus(HButtCtl* ctl, const MsgArgs& args)
         // The parent's background is fresh before the focus rectangle goes.
         HUpdateTop(args.hwnd);
     }
-    if (!IsWindow(args.hwnd)) {
+    if (!IsAlive(ctl)) {
         return 0;
     }
     HBSetPressed(ctl, false);
     if (transparent) {
         UpdateWindow(args.hwnd);
     }
-    if (transparent && IsWindow(args.hwnd)) {
+    if (transparent && IsAlive(ctl)) {
         SetFlag(ctl, HBF_FOCUSDRAWN, false);
     }
     return 0;
@@ -159,7 +153,7 @@ LRESULT HBOnInput(HButtCtl* ctl, const MsgArgs& args)
     switch (args.message) {
     case WM_LBUTTONDOWN:   return OnButtonDown(ctl, args);
     case WM_MOUSEMOVE:     return OnMouseMove(ctl, args);
-    case WM_LBUTTONUP:     return OnButtonUp(ctl, args);
+    case WM_LBUTTONUP:     return OnButtonUp(ctl);
     case WM_LBUTTONDBLCLK: return OnDoubleClick(ctl);
     case WM_KEYDOWN:       return OnKeyDown(ctl, args);
     case WM_KEYUP:         return OnKeyUp(ctl, args);

@@ -53,7 +53,30 @@ inline HINSTANCE ModuleOf(const HButtCtl* ctl)
     return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(ctl->hWnd, GWLP_HINSTANCE));
 }
 
-// Functions below that give a bool tell whether the window is still there; without it the record is gone.
+// Whether the record is still its window's. Others may take it away, with the window or before it, whenever they are
+// called; its content has gone then.
+inline bool IsAlive(const HButtCtl* ctl)
+{
+    constexpr int recordWord = sizeof(LONG_PTR);
+    return GetWindowLongPtrA(ctl->hWnd, recordWord) == reinterpret_cast<LONG_PTR>(ctl);
+}
+
+// While one of these stands on the stack, the block of a record stays, so that it can be asked whether it is alive.
+class RecordUse {
+public:
+    explicit RecordUse(HButtCtl* ctl);
+    ~RecordUse();
+    RecordUse(const RecordUse&) = delete;
+    RecordUse& operator=(const RecordUse&) = delete;
+    static void LetGo(HButtCtl* ctl); // frees the block, or has the outermost use of it do so
+
+private:
+    HButtCtl*  ctl_;
+    RecordUse* outer_;
+    bool       frees_;
+};
+
+// Functions below that give a bool tell whether the record is still alive.
 
 // Type text, pictures and states
 bool HBApplyType(HButtCtl* ctl, const char* text); // false: no memory, and what could be read is there
@@ -85,6 +108,7 @@ using SoundPlayer = BOOL(WINAPI*)(const char* sound, UINT flags);
 extern SoundPlayer pfnPlaySound;
 void HBLoadSound(HButtCtl* ctl, const char* field); // the third field of a type text
 int  HBSetSoundFile(HButtCtl* ctl, const char* name);
+const char* HBTakeSoundPrefix(HButtCtl* ctl, const char* name); // steps over the one for sounds that play on
 void HBFreeSound(HButtCtl* ctl);
 void HBPlaySound(HButtCtl* ctl);
 

@@ -20,5 +20,5 @@ struct ButtonPlaces {
 };
 
 // A caption as wide as text and a picture, in the places that they want. Either may overlap the other or be cut by
-// face, but both begin inside of it.
+// face. Settled: where one of a pair takes all of face, the other is pushed out of it and turned over.
 ButtonPlaces HBLayout(const RECT& face, const ButtonContent& content);

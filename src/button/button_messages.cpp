@@ -265,7 +265,7 @@ LRESULT OnSetSound(HButtCtl* ctl, const MsgArgs& args)
     if (args.wParam || !args.lParam) {
         return ReplaceSound(ctl, reinterpret_cast<HGLOBAL>(args.wParam));
     }
-    return HBSetSoundFile(ctl, reinterpret_cast<const char*>(args.lParam));
+    return HBSetSoundFile(ctl, HBTakeSoundPrefix(ctl, reinterpret_cast<const char*>(args.lParam)));
 }
 
 // The value

@@ -19,7 +19,6 @@ constexpr COLORREF white = RGB(255, 255, 255);
 // One paint under way. rect is what is left of the face.
 struct ButtonPaint {
     HButtCtl* ctl;
-    HWND      hwnd;
     HDC       hdc;
     RECT      rect;
     int       state;
@@ -90,11 +89,11 @@ HBRUSH BackgroundOf(const ButtonPaint& paint)
     return FireCtlColorMsg(paint.ctl, KindOf(paint.ctl) == HBS_CHECK ? editColors : buttonColors, paint.hdc);
 }
 
-// false: the window went while the parent was asked for a brush.
+// false: the record went while the parent was asked for a brush.
 bool FillBackground(const ButtonPaint& paint)
 {
     const HBRUSH brush = BackgroundOf(paint);
-    if (!IsWindow(paint.hwnd)) {
+    if (!IsAlive(paint.ctl)) {
         return false;
     }
     const SelectedObject pen(paint.hdc, GetStockObject(NULL_PEN));
@@ -117,7 +116,7 @@ bool PaintFace(ButtonPaint& paint)
 
 // Picture and caption
 
-// Bounded: a state that has no picture shows none.
+// Bounded: a state that has no picture shows none, also one that the parent has made up when it was asked to draw.
 const Pic* PictureOf(const HButtCtl* ctl, int state)
 {
     const bool pressed = HasFlag(ctl, HBF_PRESSED);
@@ -127,7 +126,8 @@ const Pic* PictureOf(const HButtCtl* ctl, int state)
     if (HasFlag(ctl, CF_NULL)) {
         return pressed ? &gNullPictures.pressed : &gNullPictures.normal;
     }
-    const int index = pressed && HasStyle(ctl, HBS_UPDOWN) ? (state + 1) % ctl->cPics : state;
+    const unsigned wanted = static_cast<unsigned>(state);
+    const unsigned index = pressed && HasStyle(ctl, HBS_UPDOWN) ? (wanted + 1) % ctl->cPics : wanted;
     return index < ctl->cPics ? &ctl->pPics[index] : nullptr;
 }
 
@@ -217,7 +217,7 @@ void DrawFocus(const ButtonPaint& paint, const ButtonPlaces& places)
     }
 }
 
-// false: the window went.
+// false: the record went.
 bool PaintContent(ButtonPaint& paint)
 {
     if (!PaintFace(paint)) {
@@ -279,27 +279,25 @@ BOOL CALLBACK HBDrawText(HDC dc, LPARAM record, int /*length*/)
 
 bool HBPaint(HButtCtl* ctl, HDC hdc, const RECT& rect, int state, HBRUSH brush)
 {
-    const HWND hwnd = ctl->hWnd;
     int        shown = state;
     const bool done = IsDrawnByOwner(ctl, hdc, rect, &shown);
-    if (!IsWindow(hwnd)) {
+    if (!IsAlive(ctl)) {
         return false;
     }
     if (done) {
         return true;
     }
-    ButtonPaint paint{ ctl, hwnd, hdc, rect, state, brush };
+    ButtonPaint paint{ ctl, hdc, rect, shown, brush };
     return HasStyle(ctl, HBS_TRANSPARENT) ? PaintContent(paint) : PaintOffScreen(paint);
 }
 
 bool HBPaintWindow(HButtCtl* ctl, HDC hdc)
 {
-    const HWND hwnd = ctl->hWnd;
-    RECT       client{};
-    GetClientRect(hwnd, &client);
-    RECT       part = client;
+    RECT client{};
+    GetClientRect(ctl->hWnd, &client);
+    RECT       part = client; // whatever the painter makes of it, the button paints all
     const bool done = IsDrawnAsPart(ctl, hdc, &part);
-    if (!IsWindow(hwnd)) {
+    if (!IsAlive(ctl)) {
         return false;
     }
     return done || HBPaint(ctl, hdc, client, ctl->bState, nullptr);
@@ -307,8 +305,9 @@ bool HBPaintWindow(HButtCtl* ctl, HDC hdc)
 
 bool HBDrawValue(HButtCtl* ctl, HDC hdc, const RECT* rect, HBRUSH brush, const void* value)
 {
-    const bool wasNull = HasFlag(ctl, CF_NULL);
-    const int  set = value ? GetBoolValue(ctl->chLinkType, value) * StatesOfValue(ctl) : 0;
+    const RecordUse use(ctl);
+    const bool      wasNull = HasFlag(ctl, CF_NULL);
+    const int       set = value ? GetBoolValue(ctl->chLinkType, value) * StatesOfValue(ctl) : 0;
     SetFlag(ctl, CF_NULL, !value);
     if (!HBPaint(ctl, hdc, *rect, value ? set % ctl->cStates : ctl->bState, brush)) {
         return false;

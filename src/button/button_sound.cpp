@@ -28,17 +28,6 @@ bool BindPlayer()
     return pfnPlaySound != nullptr;
 }
 
-// Steps over the prefix that asks for sounds that play on.
-const char* TakePrefix(HButtCtl* ctl, const char* name)
-{
-    constexpr size_t length = sizeof asyncPrefix - 1;
-    if (std::strncmp(name, asyncPrefix, length) != 0) {
-        return name;
-    }
-    ctl->dwStyle |= HBS_ASYNCSOUND;
-    return name + length;
-}
-
 bool FindSound(HButtCtl* ctl, const char* name)
 {
     const HINSTANCE module = ModuleOf(ctl);
@@ -95,11 +84,20 @@ bool FileExists(const char* name)
 
 } // namespace
 
+const char* HBTakeSoundPrefix(HButtCtl* ctl, const char* name)
+{
+    constexpr size_t length = sizeof asyncPrefix - 1;
+    if (std::strncmp(name, asyncPrefix, length) != 0) {
+        return name;
+    }
+    ctl->dwStyle |= HBS_ASYNCSOUND;
+    return name + length;
+}
+
 int HBSetSoundFile(HButtCtl* ctl, const char* name)
 {
-    char              complete[fileNameSize];
-    const char* const plain = TakePrefix(ctl, name);
-    const bool        found = *plain && CompleteName(plain, complete) && FileExists(complete);
+    char       complete[fileNameSize];
+    const bool found = *name && CompleteName(name, complete) && FileExists(complete);
     SetFlag(ctl, HBF_SOUNDFILE, false);
     char* kept = ctl->pszSound;
     hstrdup2(&kept, found ? complete : nullptr);
@@ -117,7 +115,7 @@ int HBSetSoundFile(HButtCtl* ctl, const char* name)
 
 void HBLoadSound(HButtCtl* ctl, const char* field)
 {
-    const char* const name = TakePrefix(ctl, field);
+    const char* const name = HBTakeSoundPrefix(ctl, field);
     if (!FindSound(ctl, name)) {
         HBSetSoundFile(ctl, name);
     } else if (!BindPlayer()) {

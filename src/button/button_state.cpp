@@ -15,13 +15,14 @@ void SetTabStop(HWND hwnd, bool on)
     SetWindowLongA(hwnd, GWL_STYLE, on ? style | WS_TABSTOP : style & ~WS_TABSTOP);
 }
 
-enum class WalkEnd { AtButton, Elsewhere, WindowGone };
+enum class WalkEnd { AtButton, Elsewhere, ButtonGone };
 
 // Clears the radio buttons of the group in one direction. Bounded: a group that the button itself is no part of, being
 // hidden or disabled, would go round for ever; so would one whose windows come and go meanwhile.
-WalkEnd ClearPartners(HWND hwnd, bool backward)
+WalkEnd ClearPartners(const HButtCtl* ctl, bool backward)
 {
     constexpr int maxPartners = 4096;
+    const HWND hwnd = ctl->hWnd;
     const HWND dialog = GetParent(hwnd);
     HWND       first = nullptr;
     HWND       partner = hwnd;
@@ -36,35 +37,33 @@ WalkEnd ClearPartners(HWND hwnd, bool backward)
         first = first ? first : partner;
         SetTabStop(partner, false);
         SendMessageA(partner, BM_SETCHECK, 0, 0);
-        if (!IsWindow(hwnd)) {
-            return WalkEnd::WindowGone;
+        if (!IsAlive(ctl)) {
+            return WalkEnd::ButtonGone;
         }
         // A partner that went takes the way to the next one along.
         if (!IsWindow(partner)) {
             break;
         }
     }
-    return IsWindow(hwnd) ? WalkEnd::Elsewhere : WalkEnd::WindowGone;
+    return IsAlive(ctl) ? WalkEnd::Elsewhere : WalkEnd::ButtonGone;
 }
 
 bool ClearGroup(HButtCtl* ctl)
 {
-    const HWND hwnd = ctl->hWnd;
     if (ctl->dwStyle & WS_TABSTOP) {
-        SetTabStop(hwnd, true);
+        SetTabStop(ctl->hWnd, true);
     }
-    WalkEnd end = ClearPartners(hwnd, false);
+    WalkEnd end = ClearPartners(ctl, false);
     if (end == WalkEnd::Elsewhere) {
-        end = ClearPartners(hwnd, true);
+        end = ClearPartners(ctl, true);
     }
-    return end != WalkEnd::WindowGone;
+    return end != WalkEnd::ButtonGone;
 }
 
 bool NotifyOf(HButtCtl* ctl, int code)
 {
-    const HWND hwnd = ctl->hWnd;
     Notify(ctl, code);
-    return IsWindow(hwnd) != 0;
+    return IsAlive(ctl);
 }
 
 } // namespace
@@ -95,8 +94,7 @@ void HBSetPressed(HButtCtl* ctl, bool pressed)
 
 bool HBSetState(HButtCtl* ctl, int value, bool notify)
 {
-    const HWND hwnd = ctl->hWnd;
-    // Bounded: a value below 0 counts on from the highest one there is.
+    // Bounded: a value below 0 counts as an unsigned one of 32 bits, and so stays within the states.
     const DWORD asked = static_cast<DWORD>(value) * static_cast<DWORD>(StatesOfValue(ctl));
     const BYTE  state = static_cast<BYTE>(asked % ctl->cStates);
     SetFlag(ctl, CF_NULL, false);
@@ -115,7 +113,7 @@ bool HBSetState(HButtCtl* ctl, int value, bool notify)
     if (HasStyle(ctl, HBS_AUTO) && !ClearGroup(ctl)) {
         return false;
     }
-    return notify ? NotifyOf(ctl, HBN_CLICKED) : IsWindow(hwnd) != 0;
+    return notify ? NotifyOf(ctl, HBN_CLICKED) : IsAlive(ctl);
 }
 
 bool HBClicked(HButtCtl* ctl, bool notify)
@@ -133,14 +131,13 @@ bool HBClicked(HButtCtl* ctl, bool notify)
 
 bool HBReadValue(HButtCtl* ctl, const void* value)
 {
-    const HWND hwnd = ctl->hWnd;
     if (!value) {
         SetFlag(ctl, CF_NULL, true);
         HBRepaint(ctl);
     } else if (ValidType('b', ctl->chLinkType)) {
         HBSetState(ctl, GetBoolValue(ctl->chLinkType, value), false);
     }
-    if (!IsWindow(hwnd)) {
+    if (!IsAlive(ctl)) {
         return false;
     }
     SetFlag(ctl, CF_CHANGED, false);
@@ -149,12 +146,11 @@ bool HBReadValue(HButtCtl* ctl, const void* value)
 
 bool HBPress(HButtCtl* ctl)
 {
-    const HWND hwnd = ctl->hWnd;
     HBSetPressed(ctl, true);
-    UpdateWindow(hwnd);
-    if (!IsWindow(hwnd)) {
+    UpdateWindow(ctl->hWnd);
+    if (!IsAlive(ctl)) {
         return false;
     }
     HBPlaySound(ctl);
-    return IsWindow(hwnd) != 0;
+    return IsAlive(ctl);
 }

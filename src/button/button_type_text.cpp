@@ -12,7 +12,7 @@ constexpr int  picStep = 4; // entries by which the array of pictures grows
 constexpr int  maxPics = 255;
 constexpr char valueClass = 'b';
 constexpr char plainType = 'w';
-constexpr WORD hasKey = 2; // of ParseColorPrefix: the second group set a colour
+constexpr WORD hasKey = 2; // of ParseColorPrefix: from there on the second group set a colour, perhaps more than once
 
 bool IsPlaceDigit(char ch)
 {
@@ -56,7 +56,7 @@ void TakeColors(HButtCtl* ctl, char* fields)
 {
     COLORREF text = ctl->crText;
     COLORREF key = ctl->crPicKey;
-    if (!(ParseColorPrefix(&text, &key, fields) & hasKey)) {
+    if (ParseColorPrefix(&text, &key, fields) < hasKey) {
         key = RGB(0, 255, 0);
     }
     ctl->crText = text;
@@ -162,6 +162,8 @@ void HBFreeContent(HButtCtl* ctl)
 
 void HBCountStates(HButtCtl* ctl)
 {
+    // Bounded: a state that is no more would show a picture that isn't there. The host's variable isn't told: this is
+    // no change of the value.
     ctl->cStates = static_cast<BYTE>(std::max<int>(ctl->cPics, LeastStates(ctl)));
     ctl->bState = static_cast<BYTE>(std::min<int>(ctl->bState, ctl->cStates - 1));
 }

@@ -90,6 +90,7 @@ LRESULT CALLBACK HButtMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
     if (!ctl) {
         return AskDefault(args);
     }
+    const RecordUse use(ctl);
     if (const ButtonHandler handler = FindButtonHandler(message)) {
         return handler(ctl, args);
     }

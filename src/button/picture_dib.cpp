@@ -16,7 +16,6 @@ constexpr size_t coreColorSize = 3;   // bytes of an entry of the colour table
 constexpr size_t infoColorSize = 4;
 constexpr DWORD maxColors = 0xFFFF;   // what a palette can count
 constexpr size_t maskBytes = 12;      // three masks behind a header of 40 bytes
-constexpr WORD   fileSignature = 0x4D42; // "BM"
 
 enum Compression : DWORD { Plain, Runs8, Runs4, Masks };
 
@@ -220,7 +219,8 @@ bool IsValidHeader(const RawHeader& header, DibSource source)
     return IsDepth(header, source) && IsCompression(header, source) && IsSize(header);
 }
 
-// Fills in where the table and the pixels begin. false: they don't.
+// Fills in where the table and the pixels begin. false: they don't. Longer headers count their colours as one of 40
+// bytes does, and the masks behind one of 40 bytes stand before the pixels: so the platform reads them.
 bool PlaceTable(DibInfo* info, const RawHeader& header, size_t size)
 {
     const bool   core = info->headerSize == coreHeaderSize;
@@ -270,7 +270,7 @@ bool ReadDib(const BYTE* dib, size_t size, DibSource source, DibInfo* out)
 
 bool ReadBitmapFile(const BYTE* bytes, size_t size, DibInfo* out)
 {
-    if (!bytes || size < bitmapFileHeaderSize || LoadAs<WORD>(bytes) != fileSignature) {
+    if (!bytes || size < bitmapFileHeaderSize || LoadAs<WORD>(bytes) != bitmapFileSignature) {
         return false;
     }
     // Settled: neither the size nor the offset of the file's own header counts.

@@ -30,6 +30,7 @@ bool ReadDib(const BYTE* dib, size_t size, DibSource source, DibInfo* out);
 // Checks a bitmap file. Its DIB begins at bytes + bitmapFileHeaderSize.
 bool ReadBitmapFile(const BYTE* bytes, size_t size, DibInfo* out);
 constexpr size_t bitmapFileHeaderSize = 14;
+constexpr WORD   bitmapFileSignature = 0x4D42; // "BM", at its begin
 
 // A colour of the table, 0 to colors - 1, as a COLORREF.
 COLORREF DibColor(const BYTE* dib, const DibInfo& info, DWORD index);

@@ -17,6 +17,19 @@ constexpr UINT   pieceSize = 32767;   // of a read
 constexpr WORD   paletteVersion = 0x0300;
 constexpr DWORD  notNt = 0x80000000;  // of GetVersion
 
+// What tells a kind of file before all of it is read.
+struct FileKind {
+    const char* ending; // of names without one
+    UINT        mode;
+    size_t      headerSize;
+    size_t      signatureAt;
+    WORD        signature;
+};
+
+constexpr FileKind bitmapFile = { ".BMP", OF_READ, bitmapFileHeaderSize, 0, bitmapFileSignature };
+constexpr FileKind iconFile = { ".ICO", OF_READ | OF_SHARE_DENY_WRITE, iconFileHeaderSize, iconFileTypeAt,
+                                iconFileType };
+
 // A block of the library that goes at the end of its scope.
 struct OwnedBlock {
     BYTE*  bytes;
@@ -60,6 +73,12 @@ bool ReadBytes(HFILE file, BYTE* out, size_t count)
     return true;
 }
 
+bool IsOfKind(HFILE file, const FileKind& kind)
+{
+    BYTE header[bitmapFileHeaderSize];
+    return ReadBytes(file, header, kind.headerSize) && LoadAs<WORD>(header + kind.signatureAt) == kind.signature;
+}
+
 bool ReadWhole(HFILE file, OwnedBlock* out)
 {
     const LONG size = _llseek(file, 0, FILE_END);
@@ -69,18 +88,18 @@ bool ReadWhole(HFILE file, OwnedBlock* out)
     return out->Make(static_cast<size_t>(size)) && ReadBytes(file, out->bytes, out->size);
 }
 
-bool ReadNamed(const char* name, const char* ending, UINT mode, OwnedBlock* out)
+bool ReadNamed(const char* name, const FileKind& kind, OwnedBlock* out)
 {
     char complete[fileNameSize];
-    if (!CompleteName(name, ending, complete)) {
+    if (!CompleteName(name, kind.ending, complete)) {
         return false;
     }
     OFSTRUCT    told{};
-    const HFILE file = OpenFile(complete, &told, mode);
+    const HFILE file = OpenFile(complete, &told, kind.mode);
     if (file == HFILE_ERROR) {
         return false;
     }
-    const bool whole = ReadWhole(file, out);
+    const bool whole = IsOfKind(file, kind) && ReadWhole(file, out);
     _lclose(file);
     return whole;
 }
@@ -157,7 +176,7 @@ HICON IconOf(const BITMAP& info, HBITMAP colors, const IconEntry& entry, const B
                       static_cast<BYTE>(info.bmBitsPixel), mask, bits.bytes);
 }
 
-// image is changed, and has room behind it for a mask with rows of whole words.
+// image is changed, and has as much room as info says.
 HICON MakeIcon(BYTE* image, const IconEntry& entry, const IconImage& info)
 {
     FixIconHeader(image, entry, info);
@@ -171,11 +190,6 @@ HICON MakeIcon(BYTE* image, const IconEntry& entry, const IconImage& info)
         return nullptr;
     }
     return IconOf(bitmap, colors.h, entry, image + info.maskOffset);
-}
-
-size_t MaskRoom(const IconEntry& entry)
-{
-    return static_cast<size_t>(entry.width + 15) / 16 * 2 * static_cast<size_t>(entry.height);
 }
 
 } // namespace
@@ -202,7 +216,7 @@ void LoadPicBitmapFile(Pic* pic, const char* name)
 {
     OwnedBlock file;
     DibInfo    info{};
-    if (ReadNamed(name, ".BMP", OF_READ, &file) && ReadBitmapFile(file.bytes, file.size, &info)) {
+    if (ReadNamed(name, bitmapFile, &file) && ReadBitmapFile(file.bytes, file.size, &info)) {
         MakeDibPic(pic, file.bytes + bitmapFileHeaderSize, info, true);
     }
 }
@@ -213,14 +227,11 @@ void LoadPicIconFile(Pic* pic, const char* name)
     OwnedBlock image;
     IconEntry  entry{};
     IconImage  info{};
-    if (!ReadNamed(name, ".ICO", OF_READ | OF_SHARE_DENY_WRITE, &file) ||
-        !FindIconEntry(file.bytes, file.size, &entry) || !image.Make(entry.size + MaskRoom(entry))) {
+    if (!ReadNamed(name, iconFile, &file) || !FindIconEntry(file.bytes, file.size, &entry) ||
+        !ReadIconImage(file.bytes + entry.offset, entry, &info) || !image.Make(info.room)) {
         return;
     }
     std::memcpy(image.bytes, file.bytes + entry.offset, entry.size);
-    if (!ReadIconImage(image.bytes, entry, &info)) {
-        return;
-    }
     if (const HICON icon = MakeIcon(image.bytes, entry, info)) {
         *pic = { PIC_ICON, icon, nullptr, 0 };
     }

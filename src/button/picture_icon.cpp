@@ -8,10 +8,7 @@
 
 namespace {
 
-constexpr size_t fileHeaderSize = 6;
-constexpr size_t fileType = 2;
 constexpr size_t fileCount = 4;
-constexpr WORD   iconType = 1;
 
 constexpr size_t entrySize = 16;
 constexpr size_t entryWidth = 0;
@@ -45,9 +42,9 @@ const BYTE* FindWanted(const BYTE* bytes, size_t size)
 {
     const size_t count = LoadAs<WORD>(bytes + fileCount);
     // Bounded: a directory that counts more entries than the file has room for.
-    const size_t there = std::min(count, (size - fileHeaderSize) / entrySize);
+    const size_t there = std::min(count, (size - iconFileHeaderSize) / entrySize);
     for (size_t i = 0; i < there; ++i) {
-        const BYTE* const entry = bytes + fileHeaderSize + i * entrySize;
+        const BYTE* const entry = bytes + iconFileHeaderSize + i * entrySize;
         if (IsWanted(entry)) {
             return entry;
         }
@@ -79,11 +76,24 @@ size_t BytesOfBits(const IconEntry& entry, int bits)
     return static_cast<size_t>(entry.height * bits * entry.width / pixelsOfByte);
 }
 
+// The platform may count a row of each plane, and has the rows of the mask begin at whole words. Bounded: where the
+// image ends before such rows do, its block goes on behind it.
+size_t RoomOf(const BYTE* image, const IconEntry& entry, const IconImage& info)
+{
+    constexpr int pixelsOfWord = 2 * pixelsOfByte;
+    const WORD    allBits = static_cast<WORD>(info.bits * LoadAs<WORD>(image + headerPlanes));
+    const size_t  rows = static_cast<size_t>(entry.height);
+    const int     maskWords = (entry.width + pixelsOfWord - 1) / pixelsOfWord;
+    const size_t  maskRow = static_cast<size_t>(maskWords) * sizeof(WORD);
+    const size_t  colors = info.bitsOffset + rows * static_cast<size_t>(DibRowBytes(entry.width, allBits));
+    return std::max({ entry.size, colors, info.maskOffset + rows * maskRow });
+}
+
 } // namespace
 
 bool FindIconEntry(const BYTE* bytes, size_t size, IconEntry* out)
 {
-    if (!bytes || size < fileHeaderSize || LoadAs<WORD>(bytes + fileType) != iconType) {
+    if (!bytes || size < iconFileHeaderSize || LoadAs<WORD>(bytes + iconFileTypeAt) != iconFileType) {
         return false;
     }
     const BYTE* const entry = FindWanted(bytes, size);
@@ -122,7 +132,8 @@ bool ReadIconImage(const BYTE* image, const IconEntry& entry, IconImage* out)
     if (colorBytes + maskBytes > left || static_cast<size_t>(entry.height) * DibRowBytes(entry.width, bits) > left) {
         return false;
     }
-    *out = { bits, bitsOffset, bitsOffset + colorBytes, maskRow };
+    *out = { bits, bitsOffset, bitsOffset + colorBytes, maskRow, 0 };
+    out->room = RoomOf(image, entry, *out);
     return true;
 }
 

@@ -5,6 +5,11 @@
 
 #include <cstddef>
 
+// How an icon file begins.
+constexpr size_t iconFileHeaderSize = 6;
+constexpr size_t iconFileTypeAt = 2;
+constexpr WORD   iconFileType = 1;
+
 // Where the image of an icon file lies.
 struct IconEntry {
     int    width;  // pixels
@@ -19,6 +24,7 @@ struct IconImage {
     size_t bitsOffset; // colour bits
     size_t maskOffset; // rows of the mask behind them, the lowest first
     size_t maskRow;    // bytes of one
+    size_t room;       // bytes that the platform may read of it: as many as the image has, or more
 };
 
 // The first entry of height 32 or of width 64.

@@ -4,8 +4,6 @@
 
 #include "edit/edit_control.h"
 
-#include <algorithm>
-
 namespace {
 
 // Who keeps a key while Ctrl is up.
@@ -134,21 +132,11 @@ LRESULT ComboCellProc(int code, HWND hwnd, UINT message, WPARAM wParam, LPARAM l
     return CellProc(HCombWnd, code, hwnd, message, wParam, lParam);
 }
 
-// A side that is too short for the frame ends up empty, not turned over.
-void Shrink(LONG* low, LONG* high)
-{
-    constexpr LONG frame = 2;
-    const LONG     middle = *low + (*high - *low) / 2;
-    *low = std::min(*low + frame, std::max(*low, middle));
-    *high = std::max(*high - frame, *low);
-}
-
 LRESULT OnCheckNcCalcSize(HWND hwnd, WPARAM wParam, LPARAM lParam)
 {
     DefWindowProcA(hwnd, WM_NCCALCSIZE, wParam, lParam);
-    RECT* const rect = reinterpret_cast<RECT*>(lParam);
-    Shrink(&rect->left, &rect->right);
-    Shrink(&rect->top, &rect->bottom);
+    constexpr int frame = 2;
+    InflateRect(reinterpret_cast<RECT*>(lParam), -frame, -frame);
     return 1;
 }
 

@@ -28,6 +28,21 @@ TEST_F(ButtonInput, MouseDownPressesAndTakesFocusAndCapture)
     EXPECT_EQ(1, Clicks());
 }
 
+TEST_F(ButtonInput, EndOfAPressReleasesTheCaptureOfWhoeverHasIt)
+{
+    Make("x");
+    Down();
+    SetCapture(parent.hwnd());
+    Up();
+    EXPECT_EQ(nullptr, GetCapture());
+    EXPECT_EQ(1, Clicks());
+    Send(WM_KEYDOWN, VK_SPACE);
+    SetCapture(parent.hwnd());
+    Send(WM_KEYUP, VK_SPACE);
+    EXPECT_EQ(nullptr, GetCapture());
+    EXPECT_EQ(2, Clicks());
+}
+
 TEST_F(ButtonInput, NoFocusIsTakenByAButtonWithout)
 {
     Make("x", HBS_NOFOCUS);
@@ -154,6 +169,27 @@ TEST_F(ButtonInput, EnablingKeepsTheStyleInStep)
     EnableWindow(button, TRUE);
     EXPECT_FALSE(Ctl()->dwStyle & WS_DISABLED);
     EXPECT_TRUE(IsInvalid());
+}
+
+TEST_F(ButtonInput, EnablingLeavesThePress)
+{
+    Make("x");
+    Ctl()->wFlags |= HBF_PRESSED;
+    EnableWindow(button, FALSE);
+    EXPECT_TRUE(IsPressed());
+    Ctl()->wFlags |= HBF_PRESSED;
+    EnableWindow(button, TRUE);
+    EXPECT_TRUE(IsPressed());
+}
+
+TEST_F(ButtonInput, FocusChangesNothingOnAButtonWithout)
+{
+    Make("x", HBS_NOFOCUS);
+    Ctl()->wFlags |= HBF_PRESSED;
+    Validate();
+    Send(WM_SETFOCUS);
+    EXPECT_TRUE(IsPressed());
+    EXPECT_FALSE(IsInvalid());
 }
 
 std::vector<WPARAM> gShown; // 0: hidden

@@ -159,6 +159,16 @@ TEST(HBLayout, PairThatIsTooWideKeepsItsEnds)
     EXPECT_EQ((Span{ 10, 70 }), AcrossOf(turned.text));
 }
 
+TEST(HBLayout, PairIsTurnedOverWhereOneTakesAllOfTheFace)
+{
+    const ButtonPlaces left = HBLayout(face, { { 60, 12 }, { 100, 10 }, 3, 3, 3 });
+    EXPECT_EQ((Span{ 10, 110 }), AcrossOf(left.picture));
+    EXPECT_EQ((Span{ 115, 110 }), AcrossOf(left.text));
+    const ButtonPlaces right = HBLayout(face, { { 60, 12 }, { 100, 10 }, 5, 5, 5 });
+    EXPECT_EQ((Span{ 10, 110 }), AcrossOf(right.picture));
+    EXPECT_EQ((Span{ 10, 5 }), AcrossOf(right.text));
+}
+
 TEST(HBLayout, WithoutCaptionAndPictureBothAreEmpty)
 {
     const ButtonPlaces places = HBLayout(face, { {}, {}, 4, 4, 4 });

@@ -164,10 +164,27 @@ TEST_F(ButtonPaint, NullValueShowsTheLibrarysPicture)
     PaintPic(canvas.hdc(), &gNullPictures.normal, 0, 0, 0x00FF00);
     const Pixels wanted = canvas.Shot();
     const Pixels shot = ShotOf(button);
-    for (int i = 0; i < 13; ++i) {
-        EXPECT_EQ(wanted.At(i, i), shot.At(43 + i, 23 + i)) << i;
+    for (int y = 0; y < 13; ++y) {
+        for (int x = 0; x < 13; ++x) {
+            ASSERT_EQ(wanted.At(x, y), shot.At(43 + x, 23 + y)) << x << ", " << y;
+        }
     }
     EXPECT_EQ(1, State());
+}
+
+// Both are one picture of the library's, so the test puts others in their places.
+TEST_F(ButtonPaint, PressedButtonShowsTheSecondNullPicture)
+{
+    MakeFlat("444;;IM0:IM0", HBS_CHECK);
+    const NullPictures old = gNullPictures;
+    gNullPictures.normal = { PIC_STRIP, INVALID_HANDLE_VALUE, nullptr, 6 };
+    gNullPictures.pressed = { PIC_STRIP, INVALID_HANDLE_VALUE, nullptr, 7 };
+    Send(HBM_SETLINK);
+    EXPECT_TRUE(ShowsImage(6, 43, 23));
+    Ctl()->wFlags |= HBF_PRESSED;
+    InvalidateRect(button, nullptr, TRUE);
+    EXPECT_TRUE(ShowsImage(7, 43, 23));
+    gNullPictures = old;
 }
 
 TEST_F(ButtonPaint, StateWithoutAPictureShowsNone)
@@ -412,6 +429,7 @@ TEST_F(ButtonPaint, TransparentButtonDrawsItsFocusOnceAndTakesItAwayAgain)
     EXPECT_TRUE(SamePixels(framed, canvas.Shot())) << "it stands already";
     const WORD flags = Ctl()->wFlags;
     SetFocus(parent.hwnd());
+    EXPECT_FALSE(Ctl()->wFlags & HBF_FOCUSDRAWN) << "whoever loses the focus has it taken away";
     Ctl()->wFlags = flags;
     paint();
     const Pixels bare = canvas.Shot();
@@ -458,6 +476,31 @@ TEST_F(ButtonPaint, ParentIsAskedToDrawAnOwnersButton)
     answer = 0;
     InvalidateRect(button, nullptr, TRUE);
     EXPECT_FALSE(ShotOf(button).IsAll(black, { 0, 0, 40, 30 })) << "a parent that doesn't draw";
+}
+
+TEST_F(ButtonPaint, ParentMayChangeTheStateThatIsShown)
+{
+    int wanted = 0;
+    parent.OnMessage(WM_DRAWITEM, [&](WPARAM, LPARAM lParam) {
+        *reinterpret_cast<int*>(reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->itemData) = wanted;
+        return LRESULT{ 0 };
+    });
+    MakeFlat("444;;IM0:IM6:IM7", HBS_CHECK | HBS_OWNERDRAW);
+    const int images[] = { 0, 6, 7 };
+    for (wanted = 0; wanted < 3; ++wanted) {
+        InvalidateRect(button, nullptr, TRUE);
+        EXPECT_TRUE(ShowsImage(images[wanted], 43, 23)) << wanted;
+    }
+    EXPECT_EQ(0, State()) << "it is shown, not kept";
+    for (const DWORD style : { DWORD{ HBS_CHECK }, DWORD{ HBS_CHECK | HBS_UPDOWN } }) {
+        MakeFlat("444;;IM0:IM6:IM7", style | HBS_OWNERDRAW);
+        for (const int madeUp : { -1, 3, 1000000, 0x7FFFFFFF, static_cast<int>(0x80000000) }) {
+            wanted = madeUp;
+            Ctl()->wFlags = static_cast<WORD>(Ctl()->wFlags ^ HBF_PRESSED);
+            InvalidateRect(button, nullptr, TRUE);
+            UpdateWindow(button);
+        }
+    }
 }
 
 // Painting where and when others ask for it

@@ -1,6 +1,8 @@
 // Sounds of buttons, with a player that notes what it is asked to play.
 #include "button_window.h"
 
+#include "support/import_hook.h"
+
 #include <mmsystem.h>
 
 #include <cstdio>
@@ -166,6 +168,47 @@ TEST_F(ButtonSound, MessageSetsAResourceOrAFile)
     EXPECT_EQ(nullptr, Ctl()->pszSound);
     EXPECT_FALSE(Ctl()->wFlags & HBF_SOUNDFILE);
     EXPECT_EQ(0, SendPtr(HBM_SETSOUND, 0, "no such sound"));
+}
+
+TEST_F(ButtonSound, PrefixCountsInAMessageTooButOnce)
+{
+    Make("x");
+    EXPECT_EQ(1, SendPtr(HBM_SETSOUND, 0, "%abuttest"));
+    EXPECT_TRUE(Ctl()->dwStyle & HBS_ASYNCSOUND);
+    EXPECT_EQ("buttest.WAV", File());
+    constexpr char second[] = "%abuttest.WAV";
+    EXPECT_EQ(0, SendPtr(HBM_SETSOUND, 0, "%a%abuttest"));
+    MakeFile(second);
+    EXPECT_EQ(1, SendPtr(HBM_SETSOUND, 0, "%a%abuttest"));
+    EXPECT_EQ(second, File());
+    Make("441;x;;%a%abuttest");
+    EXPECT_EQ(second, File());
+    DeleteFileA(second);
+}
+
+HMODULE WINAPI LoadNothing(const char*)
+{
+    return nullptr;
+}
+
+TEST_F(ButtonSound, WithoutAPlayerButtonsAreSilent)
+{
+    pfnPlaySound = nullptr;
+    const ImportHook hook("LoadLibraryA", LoadNothing);
+    for (const char* const text : { "441;x;;TESTSOUND", "441;x;;%aTESTSOUND", "441;x;;buttest" }) {
+        Make(text);
+        EXPECT_EQ(nullptr, Ctl()->hSound) << text;
+        EXPECT_EQ(nullptr, Ctl()->pszSound) << text;
+        EXPECT_FALSE(Ctl()->wFlags & (HBF_SOUNDFILE | HBF_SOUNDLOADED)) << text;
+    }
+    EXPECT_EQ(0, SendPtr(HBM_SETSOUND, 0, "buttest"));
+    EXPECT_EQ(nullptr, Ctl()->pszSound);
+    const HRSRC found = FindResourceA(GetModuleHandleA(nullptr), "TESTSOUND", MAKEINTRESOURCEA(400));
+    Send(HBM_SETSOUND, reinterpret_cast<WPARAM>(found));
+    Send(HBM_CLICK);
+    EXPECT_EQ(1, Clicks());
+    EXPECT_EQ(nullptr, reinterpret_cast<void*>(pfnPlaySound));
+    EXPECT_TRUE(gPlayed.empty());
 }
 
 TEST_F(ButtonSound, NamesThatAreTooLongAreNotFound)

@@ -26,11 +26,14 @@ TEST_F(ButtonState, UpDownHasTwoStatesForAValue)
     EXPECT_EQ(0, State());
 }
 
-TEST_F(ButtonState, ValueBelowZeroStaysInside)
+TEST_F(ButtonState, ValueBelowZeroCountsAsAnUnsignedOne)
 {
     Make("333;x;IM1:IM2:IM3", HBS_THREESTATE);
+    Send(BM_SETCHECK, 1);
     Send(BM_SETCHECK, static_cast<WPARAM>(-1));
-    EXPECT_LT(State(), 3);
+    EXPECT_EQ(0, State()) << "4294967295 is a multiple of 3";
+    Send(BM_SETCHECK, static_cast<WPARAM>(-2));
+    EXPECT_EQ(2, State());
     UpdateWindow(button);
 }
 
@@ -237,6 +240,27 @@ TEST_F(ButtonGroup, SettingClearsThePartners)
     EXPECT_FALSE(HasTabStop(after));
 }
 
+WNDPROC gCountedProc;
+int     gChecksCleared;
+
+LRESULT CALLBACK CountingRadio(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    gChecksCleared += message == BM_SETCHECK && wParam == 0;
+    return CallWindowProcA(gCountedProc, hwnd, message, wParam, lParam);
+}
+
+TEST_F(ButtonGroup, WalkThatComesRoundIsTheOnlyOne)
+{
+    const HWND before = Radio("a", WS_GROUP);
+    Button(HBS_CHECK | HBS_AUTO);
+    Plain(WS_GROUP);
+    gCountedProc = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrA(before, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountingRadio)));
+    gChecksCleared = 0;
+    Send(BM_SETCHECK, 1);
+    EXPECT_EQ(1, gChecksCleared);
+}
+
 TEST_F(ButtonGroup, ClearingLeavesThePartners)
 {
     const HWND before = Radio("a", WS_GROUP);
@@ -385,6 +409,79 @@ TEST_F(ButtonState, ParentMayDestroyTheButtonInEachNotification)
             EXPECT_FALSE(IsWindow(button));
             EXPECT_EQ(live, LiveBlocks());
         }
+    }
+}
+
+// The window stays, but its record goes with this message.
+TEST_F(ButtonState, ParentMaySendTheEndInEachNotification)
+{
+    for (const DWORD style : { HBS_PUSH, HBS_CHECK | HBS_AUTO }) {
+        for (const EndRow& row : endings) {
+            SCOPED_TRACE(testing::Message() << row.what << ", style " << style);
+            const int live = LiveBlocks();
+            Make("x", static_cast<DWORD>(style));
+            int taken = 0;
+            parent.On(HBN_CLICKED, [&] { taken += Send(WM_DESTROY) == 0; });
+            parent.On(HBN_DBLCLK, [&] { taken += Send(WM_DESTROY) == 0; });
+            Send(row.message, row.wParam, row.lParam);
+            EXPECT_EQ(1, taken);
+            EXPECT_TRUE(IsWindow(button));
+            EXPECT_EQ(nullptr, Ctl());
+            EXPECT_EQ(live, LiveBlocks()) << "the block went when nobody used it any more";
+            DestroyButton();
+        }
+    }
+}
+
+TEST_F(ButtonState, ParentMaySendTheEndWhileTheButtonIsPainted)
+{
+    struct Row {
+        UINT  asked;
+        DWORD style;
+    };
+    const Row rows[] = {
+        { WM_CTLCOLORBTN, HBS_PUSH | HBS_NOFACE },
+        { WM_CTLCOLOREDIT, HBS_CHECK | HBS_NOFACE | HBS_AUTO },
+        { WM_DRAWITEM, HBS_PUSH | HBS_OWNERDRAW },
+        { WM_DRAWITEM, HBS_PUSH | HBS_OWNERDRAW | HBS_TRANSPARENT },
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.asked << ", " << row.style);
+        const int live = LiveBlocks();
+        const HDC hdc = GetDC(parent.hwnd());
+        for (const bool value : { false, true }) {
+            Make("333;x;IM1:IM2", row.style);
+            parent.OnMessage(row.asked, [this](WPARAM, LPARAM) { return Send(WM_DESTROY); });
+            InvalidateRect(button, nullptr, TRUE);
+            ASSERT_NE(nullptr, Ctl());
+            const RECT rect = { 0, 0, 20, 20 };
+            const WORD one = 1;
+            value ? LRESULT{ HBDrawValue(Ctl(), hdc, &rect, nullptr, &one) } : Send(HBM_CLICK);
+            EXPECT_EQ(nullptr, Ctl());
+            EXPECT_EQ(live, LiveBlocks());
+            EXPECT_EQ(0, Clicks());
+            parent.OnMessage(row.asked, nullptr);
+            DestroyButton();
+        }
+        ReleaseDC(parent.hwnd(), hdc);
+    }
+}
+
+TEST_F(ButtonState, ParentMaySendTheEndWhenTheMouseOrTheSpaceBarLetsGo)
+{
+    for (const DWORD style : { HBS_PUSH, HBS_CHECK | HBS_AUTO }) {
+        const int live = LiveBlocks();
+        parent.On(HBN_CLICKED, [this] { Send(WM_DESTROY); });
+        Make("x", static_cast<DWORD>(style));
+        Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        Send(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+        EXPECT_EQ(nullptr, Ctl());
+        Make("x", static_cast<DWORD>(style));
+        Send(WM_KEYDOWN, VK_SPACE);
+        Send(WM_KEYUP, VK_SPACE);
+        EXPECT_EQ(nullptr, Ctl());
+        EXPECT_EQ(live, LiveBlocks());
+        DestroyButton();
     }
 }
 

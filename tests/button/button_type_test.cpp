@@ -15,7 +15,7 @@ protected:
     LRESULT Pic(int index) const { return Send(HBM_GETPIC, static_cast<WPARAM>(index)); }
 };
 
-TEST_F(ButtonType, RegistersItsClassFirstWithTwoWords)
+TEST_F(ButtonType, RegistersItsClassWithTwoWords)
 {
     WNDCLASSA info = {};
     ASSERT_NE(0, GetClassInfoA(GetModuleHandleA(nullptr), "HButt", &info));
@@ -180,6 +180,17 @@ TEST_F(ButtonType, ColourGroupsColourTheCaptionAndTheKey)
     EXPECT_EQ(0x00FF00, Send(HBM_GETPICKEY));
 }
 
+TEST_F(ButtonType, SecondColourMayBeGivenTwice)
+{
+    for (const char* const groups : { "[red][blue]", "[red][green][blue]", "[nothing][blue]", "[blue][nothing]" }) {
+        Make((std::string("441;a;") + groups + "IM1").c_str());
+        EXPECT_EQ(0xFF0000, Send(HBM_GETPICKEY)) << groups;
+        EXPECT_EQ(1, Pictures()) << groups;
+    }
+    Make("441;a;[nothing]IM1");
+    EXPECT_EQ(0x00FF00, Send(HBM_GETPICKEY));
+}
+
 TEST_F(ButtonType, KeyIsPureGreenWithoutAGroup)
 {
     Make("x");
@@ -227,12 +238,42 @@ TEST_F(ButtonType, ArrayOfPicturesGrowsByFour)
     }
 }
 
+struct LongRow {
+    size_t length; // of the caption
+    int    pictures;
+    int    lastImage;
+};
+
+// clang-format off
+constexpr LongRow longRows[] = {
+    { 234, 4, 3 }, { 235, 4, 0 }, // the last name has lost its number
+    { 236, 3, 2 }, { 238, 3, 2 }, { 239, 3, 0 },
+    { 240, 2, 1 }, { 242, 2, 1 }, { 243, 2, 0 },
+    { 244, 1, 0 }, { 247, 1, 0 },
+    { 248, 0, 0 }, { 250, 0, 0 }, { 251, 0, 0 }, { 255, 0, 0 },
+};
+// clang-format on
+
+TEST_F(ButtonType, LongCaptionTakesTheRoomOfTheDefaultPictures)
+{
+    for (const LongRow& row : longRows) {
+        SCOPED_TRACE(row.length);
+        Make(std::string(row.length, 'c').c_str(), HBS_CHECK);
+        EXPECT_EQ(static_cast<LRESULT>(row.length), Send(WM_GETTEXTLENGTH));
+        ASSERT_EQ(row.pictures, Pictures());
+        EXPECT_EQ(row.pictures > 2 ? row.pictures : 2, States());
+        if (row.pictures > 0) {
+            EXPECT_EQ(row.lastImage, Ctl()->pPics[row.pictures - 1].nImage);
+        }
+    }
+}
+
 TEST_F(ButtonType, LongTextsAreCutNotOverrun)
 {
     const std::string caption(1000, 'c');
     Make(caption.c_str(), HBS_CHECK);
     EXPECT_EQ(255, Send(WM_GETTEXTLENGTH));
-    EXPECT_EQ(4, Pictures()) << "the pictures follow a long caption too";
+    EXPECT_EQ(0, Pictures());
     std::string many = "333;x;";
     for (int i = 0; i < 300; ++i) {
         many += "IM1:";
@@ -355,6 +396,29 @@ TEST_F(ButtonType, RecordGoesWithTheFirstMessageOfTheEnd)
     UnhookWindowsHookEx(hook);
     EXPECT_EQ(0, gAtEnd.atDestroy);
     EXPECT_EQ(live, LiveBlocks());
+}
+
+int gRecordsSeen;
+
+// Reads the record on every message that asks for none itself, as a host's procedure may.
+LRESULT CALLBACK ReadRecord(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT state = message == WWM_GETSTATE ? 0 : HButtWnd(hwnd, WWM_GETSTATE, 0, 0);
+    if (const HButtCtl* const ctl = reinterpret_cast<const HButtCtl*>(state)) {
+        EXPECT_EQ(hwnd, +ctl->hWnd) << message;
+        EXPECT_STREQ("Caption", ctl->pszCaption) << message;
+        ++gRecordsSeen;
+    }
+    return HButtWnd(hwnd, message, wParam, lParam);
+}
+
+TEST_F(ButtonType, RecordIsWholeAsLongAsItIsAttached)
+{
+    Make("441;Caption;IM1");
+    SetWindowLongPtrA(button, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ReadRecord));
+    gRecordsSeen = 0;
+    DestroyButton();
+    EXPECT_GT(gRecordsSeen, 0);
 }
 
 TEST_F(ButtonType, MessagesWithoutARecordGoToTheDefault)

@@ -216,6 +216,9 @@ TEST_F(PictureCache, IconFilesOfEachDepthLoad)
         spec.bits = bits;
         const TempFile file("icotest.ico", MakeIconFile(spec));
         EXPECT_TRUE(Exists("icotest.ico")) << bits;
+        spec.planes = 4;
+        const TempFile planes("icoplane.ico", MakeIconFile(spec));
+        EXPECT_TRUE(Exists("icoplane.ico")) << bits << " bits in four planes";
     }
     IconSpec understated;
     understated.understates = true;
@@ -247,6 +250,16 @@ TEST_F(PictureCache, DamagedFilesAreNone)
         EXPECT_FALSE(Exists("icotest.ico")) << bytes.size();
     }
     EXPECT_EQ(live, LiveBlocks());
+}
+
+TEST_F(PictureCache, FileOfAnotherKindIsRefusedBeforeItIsRead)
+{
+    const TempFile bitmap("pictest.bmp", Bytes(5000, 0xFF));
+    const TempFile icon("icotest.ico", Bytes(5000, 0xFF));
+    const int      before = AllocationCount();
+    EXPECT_FALSE(Exists("pictest"));
+    EXPECT_FALSE(Exists("icotest"));
+    EXPECT_EQ(before, AllocationCount());
 }
 
 TEST_F(PictureCache, NamesThatLeadNowhereGiveNothing)

@@ -51,9 +51,30 @@ TEST(IconFile, TakesEachDepthAndItsSizes)
     large.width = 64;
     large.height = 64;
     EXPECT_TRUE(ReadIcon(MakeIconFile(large)));
-    IconSpec planes;
-    planes.planes = 4;
-    EXPECT_TRUE(ReadIcon(MakeIconFile(planes)));
+}
+
+TEST(IconFile, RowsOfFourPlanesGetRoomBehindTheImage)
+{
+    for (const WORD bits : { WORD{ 1 }, WORD{ 4 }, WORD{ 8 } }) {
+        IconSpec spec;
+        spec.bits = bits;
+        IconImage info{};
+        ASSERT_TRUE(ReadIcon(MakeIconFile(spec), &info)) << bits;
+        EXPECT_EQ(IconBytes(spec), info.room) << bits << ", all that is read is there";
+        spec.planes = 4;
+        ASSERT_TRUE(ReadIcon(MakeIconFile(spec), &info)) << bits;
+        EXPECT_EQ(info.bitsOffset + 32u * 4u * bits * 4u, info.room) << bits;
+    }
+}
+
+TEST(IconFile, RowsOfAMaskGetRoomForWholeWords)
+{
+    IconSpec spec;
+    spec.width = 8;
+    IconImage info{};
+    ASSERT_TRUE(ReadIcon(MakeIconFile(spec), &info));
+    EXPECT_EQ(1u, info.maskRow);
+    EXPECT_EQ(info.maskOffset + 32u * 2u, info.room);
 }
 
 TEST(IconFile, OnlySmallImagesAreNone)

@@ -72,14 +72,46 @@ TEST_F(GridCheckCells, ChildHasASunkenFrameOfTwoPixels)
     GetClientRect(Editor(), &client);
     EXPECT_EQ(window.right - window.left - 4, client.right);
     EXPECT_EQ(window.bottom - window.top - 4, client.bottom);
-    RECT empty = { 5, 5, 6, 7 };
-    EXPECT_EQ(1, SendPtr(Editor(), WM_NCCALCSIZE, 0, &empty));
-    EXPECT_LE(empty.left, empty.right);
-    EXPECT_LE(empty.top, empty.bottom);
+    RECT       small = { 5, 5, 6, 7 };
+    const RECT turned = { 7, 7, 4, 5 };
+    EXPECT_EQ(1, SendPtr(Editor(), WM_NCCALCSIZE, 0, &small));
+    EXPECT_TRUE(EqualRect(&turned, &small)) << small.left << ", " << small.top << ", " << small.right << ", "
+                                            << small.bottom;
+    EXPECT_EQ(1, Send(Editor(), WM_NCPAINT, 1));
     const Pixels shot = ShotOfWindow(Editor());
     EXPECT_EQ(GetSysColor(COLOR_BTNSHADOW), shot.At(0, 3));
     EXPECT_EQ(RGB(0, 0, 0), shot.At(1, 3));
     EXPECT_EQ(RGB(255, 255, 255), shot.At(shot.width - 1, 3));
+}
+
+TEST_F(GridCheckCells, ChildBearsSizesThatItsFrameHasNoRoomIn)
+{
+    MakeColumn();
+    StandOn(0, 1);
+    const HWND child = Editor();
+    for (int side = 0; side <= 4; ++side) {
+        SCOPED_TRACE(side);
+        SetWindowPos(child, nullptr, 0, 0, side, side, SWP_NOZORDER | SWP_FRAMECHANGED | SWP_SHOWWINDOW);
+        RECT window = {};
+        GetWindowRect(child, &window);
+        EXPECT_EQ(side, window.right - window.left);
+        RedrawWindow(child, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+    }
+    SetWindowPos(child, nullptr, 0, 0, 30, 20, SWP_NOZORDER | SWP_FRAMECHANGED);
+    RECT client = {};
+    GetClientRect(child, &client);
+    EXPECT_EQ(26, client.right);
+    EXPECT_EQ(16, client.bottom);
+}
+
+TEST_F(GridCheckCells, DoubleClickIsTheGridsAndLeavesTheValue)
+{
+    MakeColumn();
+    FocusEditor(1);
+    EXPECT_EQ(1, Send(Editor(), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(3, 3)));
+    EXPECT_EQ(1, parent.Count(HGN_DBLCLK));
+    EXPECT_EQ(0, Value());
+    EXPECT_EQ(0, Send(Editor(), BM_GETSTATE));
 }
 
 TEST_F(GridCheckCells, CellsShowTheirValues)
