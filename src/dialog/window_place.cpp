@@ -90,6 +90,9 @@ int WINAPI WindowWidth(HWND hwnd)
 
 void WINAPI RStoC(HWND hwnd, RECT* rect)
 {
+    if (!rect) {
+        return;
+    }
     POINT corners[] = { { rect->left, rect->top }, { rect->right, rect->bottom } };
     ScreenToClient(hwnd, &corners[0]);
     ScreenToClient(hwnd, &corners[1]);
@@ -98,6 +101,9 @@ void WINAPI RStoC(HWND hwnd, RECT* rect)
 
 void WINAPI RCtoS(HWND hwnd, RECT* rect)
 {
+    if (!rect) {
+        return;
+    }
     POINT corners[] = { { rect->left, rect->top }, { rect->right, rect->bottom } };
     ClientToScreen(hwnd, &corners[0]);
     ClientToScreen(hwnd, &corners[1]);

@@ -158,6 +158,13 @@ TEST_F(WindowPlace, MeasuresWithTheFrame)
     EXPECT_EQ(0, WindowHeight(nullptr));
 }
 
+TEST_F(WindowPlace, NoRectangleIsConvertedToNone)
+{
+    RStoC(parent.hwnd(), nullptr);
+    RCtoS(parent.hwnd(), nullptr);
+    EXPECT_TRUE(IsWindow(parent.hwnd()));
+}
+
 TEST_F(WindowPlace, RectanglesGoToTheScreenAndBack)
 {
     const HWND child = Create("STATIC", "", WS_BORDER, 1, { 50, 50, 100, 100 });
