@@ -47,7 +47,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     Walk walk = { data, data + size, 0 };
     RequireText(walk, header.title);
     RequireText(walk, header.face);
-    Require(TemplateFontHeight(header, 96) == -(header.points * 96) / 72);
+    const int height = -TemplateFontHeight(header, 96);
+    Require(height * 72 <= header.points * 96 && header.points * 96 < (height + 1) * 72);
     ReadTemplateItems(&bytes, header, RequireItem, &walk);
     Require(walk.items <= size / smallestItem);
     Require(header.count > 255 || walk.items <= header.count);

@@ -774,17 +774,21 @@ int WINAPI SetOverwriteMode(int mode);
  * Makes the controls of a dialog template as children of a window, and sends it WM_INITDIALOG.
  *
  * The template is in the classic form, without numbers in place of menu, class and titles. Its title becomes the text
- * of the window, if it has one.
+ * of the window, if it has one. Texts are cut at 127 bytes. A control's creation data are an address inside the
+ * resource, which isn't null where there are none.
  *
  * @param instance        Whose resource the template is.
- * @param dialogTemplate  Its name.
+ * @param dialogTemplate  Its name, or its number by MAKEINTRESOURCE.
  * @param hwnd            The window.
  * @param outRect         Receives the dialog's size in pixels, left and top 0; may be null.
  * @param outFont         Receives the template's font in bold, which the controls get and the caller owns, or null if
- *                        the template names none. A null pointer: the template's font isn't made, and the dialog's
- *                        units are those of the system font.
+ *                        the template names none or it can't be made. A null pointer: the template's font isn't made,
+ *                        and the dialog's units are those of the system font.
  * @return The first child with WS_TABSTOP, else the first child; null if the template isn't found or has no controls.
- * @note A template that is cut off gives the controls in front of the cut. Host code runs inside.
+ * @note A template that isn't found, or is cut off in front of its items, changes neither the window nor what outRect
+ *       and outFont point to. One that is cut off later gives the controls in front of the cut, and one that tells of
+ *       more than 255 items all that there are. Host code runs inside; it may destroy the window or the controls, and
+ *       the result may be a control that is gone.
  */
 HWND WINAPI CreateDialogInWin(HINSTANCE instance, const char* dialogTemplate, HWND hwnd, RECT* outRect, HFONT* outFont);
 /**
@@ -792,7 +796,8 @@ HWND WINAPI CreateDialogInWin(HINSTANCE instance, const char* dialogTemplate, HW
  *
  * @param block  The block, which FreeDlgInfo can free if it is one of GlobalAlloc with GMEM_FIXED; null: a new one.
  * @param size   Bytes of a new block, which reads as zero.
- * @return The block; null if the window has one already, if both block and size are 0, or without memory.
+ * @return The block; null if the window has one already, if block is null and size 0 or less, if hwnd isn't a window,
+ *         or without memory.
  */
 void* WINAPI CreateDlgInfo(HWND hwnd, void* block, int size);
 /** @return The block that CreateDlgInfo has hung on the window, or null. */
@@ -804,26 +809,40 @@ void* WINAPI GetDlgInfo(HWND hwnd);
  * @return The block, which is the caller's now; null if it was freed or there was none.
  */
 void* WINAPI FreeDlgInfo(HWND hwnd, int free);
-/** Destroys all children of a window and repaints it. Host code runs inside. @return As EnumChildWindows. */
+/**
+ * Destroys all children of a window and repaints it. Host code runs inside.
+ *
+ * @return As EnumChildWindows; 0 if hwnd isn't a window.
+ */
 BOOL WINAPI ClearDialog(HWND hwnd);
 /**
  * Takes messages for a dialog with a page, before they are dispatched: Tab leaves the page at its ends and enters it
  * from the control that it belongs to, and mnemonics are those of the dialog and the page. It stands in the place of
  * IsDialogMessageA in a host's message loop. Host code runs inside.
  *
+ * Tab on the control to which the page belongs goes to the page's first tab stop, and Shift+Tab to its last one, so
+ * Shift+Tab doesn't reach the dialog's controls in front of that control from the page.
+ *
  * @param hDlg   The dialog.
- * @param hPage  The window with the controls of the page, a dialog too; null: there is no page.
+ * @param hPage  The window with the controls of the page, a dialog too; null: there is no page, and this is
+ *               IsDialogMessageA for the dialog, without the library's mnemonics.
  * @param idTab  Id of the dialog's control to which the page belongs, usually a tab control.
- * @param msg    The message.
- * @return Non-zero if the message was used and isn't to be dispatched.
+ * @param msg    The message. The window with the focus is taken from it.
+ * @return Non-zero if the message was used and isn't to be dispatched; 0 if msg is null.
  */
 BOOL WINAPI IsTabDlgMessage(HWND hDlg, HWND hPage, int idTab, MSG* msg);
 /**
- * EnumChildWindows callback that looks for the control with a mnemonic: one with DLGC_BUTTON gets HBM_CLICK, and all
- * but push buttons get the focus. A walk looks at what stands behind the window of the message, the next at the rest.
+ * EnumChildWindows callback that looks for the control with a mnemonic: one with DLGC_BUTTON gets HBM_CLICK, and for
+ * all but push buttons the parent is sent WM_NEXTDLGCTL, by which a dialog gives them the focus. A walk looks at what
+ * stands behind the window of the message, the next at the rest.
  *
- * @param msg  A pointer to the MSG of the key.
+ * The mnemonic is the character behind the first & among the first 63 characters of the text. Hidden windows have none.
+ *
+ * @param hwnd  The window that the walk has come to.
+ * @param msg   A pointer to the MSG of the key; null: the walk goes on.
  * @return 0 if the mnemonic was found, 1 to go on.
+ * @note How far the walk has come is kept between calls, and IsTabDlgMessage alone begins anew: after a walk that found
+ *       its control, the next one may look at all windows from its start. Host code runs inside.
  */
 BOOL CALLBACK IsMnemonic(HWND hwnd, LPARAM msg);
 /**
@@ -831,7 +850,8 @@ BOOL CALLBACK IsMnemonic(HWND hwnd, LPARAM msg);
  *
  * @param yOffset  Pixels to add to y.
  * @return Non-zero, or 0 if hwnd isn't a window.
- * @note The corner never lies beyond the left or the upper edge of the screen.
+ * @note The corner of a pop-up never lies beyond the left or the upper edge of the screen. A child is moved to the same
+ *       numbers in its parent's client area.
  */
 BOOL WINAPI CenterWindow(HWND hwnd, int yOffset);
 /** Centres a top-level window on the mouse pointer, held to the screen. @return Non-zero, or 0 on failure. */
@@ -840,9 +860,17 @@ BOOL WINAPI CenterAboutCursor(HWND hwnd);
 int WINAPI WindowHeight(HWND hwnd);
 /** @return The width of a window with its frame in pixels; 0 if hwnd isn't a window. */
 int WINAPI WindowWidth(HWND hwnd);
-/** Converts both corners of a rectangle from the screen to the client coordinates of a window, in place. */
+/**
+ * Converts both corners of a rectangle from the screen to the client coordinates of a window, in place.
+ *
+ * @param rect  Null: nothing happens.
+ */
 void WINAPI RStoC(HWND hwnd, RECT* rect);
-/** Converts both corners of a rectangle from the client coordinates of a window to the screen, in place. */
+/**
+ * Converts both corners of a rectangle from the client coordinates of a window to the screen, in place.
+ *
+ * @param rect  Null: nothing happens.
+ */
 void WINAPI RCtoS(HWND hwnd, RECT* rect);
 
 /* Drawing */

@@ -33,7 +33,7 @@ bool LoadTemplate(HINSTANCE instance, const char* name, TemplateBytes* out)
     return first != nullptr;
 }
 
-// Bounded: what doesn't fit is cut between two characters.
+// Bounded: what doesn't fit is cut between two characters of the template, which may be the halves of a surrogate pair.
 AnsiText Convert(const TemplateText& text)
 {
     WCHAR wide[textSize - 1];
@@ -107,6 +107,10 @@ void AddItem(const TemplateItem& item, void* context)
 
 void AddItems(DialogBeingMade* dialog, TemplateBytes* bytes, const TemplateHeader& header)
 {
+    // Without a window, the whole screen would be painted again.
+    if (!IsWindow(dialog->hwnd)) {
+        return;
+    }
     SendMessageA(dialog->hwnd, WM_SETREDRAW, FALSE, 0);
     ReadTemplateItems(bytes, header, AddItem, dialog);
     SendMessageA(dialog->hwnd, WM_INITDIALOG, reinterpret_cast<WPARAM>(dialog->firstTabStop), 0);

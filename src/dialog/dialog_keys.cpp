@@ -40,6 +40,8 @@ bool HasMnemonic(HWND hwnd, WPARAM key)
 }
 
 // Clicks or focuses the control whose mnemonic was pressed.
+// Settled: any kind of button gets the library's click, and a push button of the system's, to which it means nothing,
+// only uses the key up.
 void Choose(HWND hwnd)
 {
     const int code = DlgCode(hwnd);
@@ -129,6 +131,9 @@ bool TakeKey(HWND hDlg, HWND hPage, int idTab, MSG* msg)
 
 BOOL WINAPI IsTabDlgMessage(HWND hDlg, HWND hPage, int idTab, MSG* msg)
 {
+    if (!msg) {
+        return FALSE;
+    }
     if (!hPage) {
         return IsDialogMessageA(hDlg, msg);
     }
@@ -137,6 +142,9 @@ BOOL WINAPI IsTabDlgMessage(HWND hDlg, HWND hPage, int idTab, MSG* msg)
 
 BOOL CALLBACK IsMnemonic(HWND hwnd, LPARAM msg)
 {
+    if (!msg) {
+        return TRUE;
+    }
     const MSG key = *reinterpret_cast<const MSG*>(msg);
     if (!fPastFocus) {
         fPastFocus = hwnd == key.hwnd;

@@ -111,7 +111,7 @@ bool TakeFont(TemplateBytes* bytes, TemplateHeader* out)
 {
     out->points = 0;
     out->face = {};
-    return !NamesFont(*out) || (TakeNumber(bytes, &out->points) && TakeText(bytes, &out->face));
+    return !NamesFont(*out) || (Take(bytes, &out->points) && TakeText(bytes, &out->face));
 }
 
 bool TakeSize(TemplateBytes* bytes, TemplateHeader* out)

@@ -20,7 +20,7 @@ struct TemplateHeader {
     int          cx;    // dialog units
     int          cy;
     TemplateText title;
-    int          points; // of the font; 0, and an empty face, where the template names none
+    WORD         points; // of the font; 0, and an empty face, where the template names none
     TemplateText face;
 };
 

@@ -1,7 +1,11 @@
 // Sizes of windows, their places on the screen, and rectangles between screen and client.
 #include <widgets/widgets.h>
 
+#include <algorithm>
+
 namespace {
+
+constexpr LONG64 farthest = 0x3FFFFFFF; // no screen reaches this far, and a sum of two still is a number
 
 RECT OutsideOf(HWND hwnd)
 {
@@ -23,6 +27,13 @@ SIZE RoomFor(HWND parent)
     RECT client = {};
     GetClientRect(parent, &client);
     return { client.right, client.bottom };
+}
+
+// Bounded: an offset that leads out of the numbers leads as far as they go.
+LONG CentredY(int room, int height, int yOffset)
+{
+    const LONG64 y = (room - height) / 2 + LONG64{ yOffset };
+    return static_cast<LONG>(std::clamp(y, -farthest, farthest));
 }
 
 // How far a side that begins and ends here has to move to lie on the screen.
@@ -58,7 +69,7 @@ BOOL WINAPI CenterWindow(HWND hwnd, int yOffset)
     const int  height = WindowHeight(hwnd);
     const HWND parent = GetParent(hwnd);
     const SIZE room = RoomFor(parent);
-    POINT      place = { (room.cx - width) / 2, (room.cy - height) / 2 + yOffset };
+    POINT      place = { (room.cx - width) / 2, CentredY(room.cy, height, yOffset) };
     if (parent) {
         ClientToScreen(parent, &place);
     }
@@ -90,6 +101,9 @@ int WINAPI WindowWidth(HWND hwnd)
 
 void WINAPI RStoC(HWND hwnd, RECT* rect)
 {
+    if (!rect) {
+        return;
+    }
     POINT corners[] = { { rect->left, rect->top }, { rect->right, rect->bottom } };
     ScreenToClient(hwnd, &corners[0]);
     ScreenToClient(hwnd, &corners[1]);
@@ -98,6 +112,9 @@ void WINAPI RStoC(HWND hwnd, RECT* rect)
 
 void WINAPI RCtoS(HWND hwnd, RECT* rect)
 {
+    if (!rect) {
+        return;
+    }
     POINT corners[] = { { rect->left, rect->top }, { rect->right, rect->bottom } };
     ClientToScreen(hwnd, &corners[0]);
     ClientToScreen(hwnd, &corners[1]);

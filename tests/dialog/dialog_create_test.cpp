@@ -114,6 +114,62 @@ TEST_F(DialogInWin, ConvertsTextsToTheAnsiCodePage)
     EXPECT_EQ(text, TextOf(Child(1)));
 }
 
+// As a code page in which each character takes two bytes.
+int WINAPI ConvertToPairs(UINT, DWORD, LPCWCH wide, int count, LPSTR out, int room, LPCCH, LPBOOL)
+{
+    if (count * 2 > room) {
+        return 0;
+    }
+    for (int i = 0; i < count; ++i) {
+        out[2 * i] = static_cast<char>(wide[i]);
+        out[2 * i + 1] = '+';
+    }
+    return count * 2;
+}
+
+std::string Repeated(const char* text, int count)
+{
+    std::string result;
+    for (int i = 0; i < count; ++i) {
+        result += text;
+    }
+    return result;
+}
+
+TEST_F(DialogInWin, CutsTextsBetweenCharactersOfTwoBytes)
+{
+    TestTemplate from;
+    from.title = Wide(std::string(200, 't'));
+    from.items = { Static(1, std::string(63, 'a').c_str()), Static(2, std::string(64, 'b').c_str()) };
+    for (TestItem& item : from.items) {
+        item.className = { 0xFFFF, 0x82 };
+    }
+    {
+        const ImportHook hook("WideCharToMultiByte", ConvertToPairs);
+        Make(from);
+    }
+    EXPECT_EQ(Repeated("t+", 63), TextOf(parent.hwnd()));
+    EXPECT_EQ(Repeated("a+", 63), TextOf(Child(1)));
+    EXPECT_EQ(Repeated("b+", 63), TextOf(Child(2)));
+}
+
+TEST_F(DialogInWin, CutsNamesOfClassesAndFontsAt127Characters)
+{
+    const std::string name(127, 'n');
+    RegisterControl(0, DefWindowProcA, 0, 0, GetModuleHandleA(nullptr), nullptr, nullptr, nullptr, nullptr,
+                    name.c_str());
+    TestTemplate from = WithFont();
+    from.face = Wide(std::string(200, 'f'));
+    from.items[0].className = Wide(name);
+    from.items[1].className = Wide(name + "and more");
+    HFONT font = nullptr;
+    Make(from, nullptr, &font);
+    EXPECT_EQ(2, ChildCount());
+    ClearDialog(parent.hwnd());
+    UnregisterClassA(name.c_str(), GetModuleHandleA(nullptr));
+    DeleteObject(font);
+}
+
 TEST_F(DialogInWin, MakesEachControlWithItsStyleIdAndClass)
 {
     TestTemplate from;
@@ -268,10 +324,18 @@ struct NotedChild {
 NotedChild gNoted;
 HWND       gVictim; // goes when a child is made
 
+std::vector<std::string> gOrder; // what the window and its children are told
+
+void NoteChild(const char* what, int id)
+{
+    gOrder.push_back(what + std::to_string(id));
+}
+
 LRESULT CALLBACK NotingProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_CREATE) {
         const auto* const create = reinterpret_cast<const CREATESTRUCTA*>(lParam);
+        NoteChild("create ", static_cast<int>(reinterpret_cast<INT_PTR>(create->hMenu)));
         gNoted.data = create->lpCreateParams;
         gNoted.ex = static_cast<int>(create->dwExStyle);
         if (gVictim) {
@@ -280,6 +344,7 @@ LRESULT CALLBACK NotingProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPara
         }
     }
     if (message == WM_SETFONT) {
+        NoteChild("font ", GetDlgCtrlID(hwnd));
         gNoted.font = wParam;
         gNoted.redraw = lParam;
     }
@@ -292,12 +357,29 @@ protected:
     {
         gNoted = {};
         gVictim = nullptr;
+        gOrder.clear();
         RegisterControl(0, NotingProc, 0, 0, GetModuleHandleA(nullptr), nullptr, nullptr, nullptr, nullptr, "Noting");
     }
     ~NotingChild() override
     {
         ClearDialog(parent.hwnd());
         UnregisterClassA("Noting", GetModuleHandleA(nullptr));
+    }
+
+    void NoteParent()
+    {
+        parent.OnMessage(WM_SETTEXT, [this](WPARAM wParam, LPARAM lParam) {
+            gOrder.push_back("title");
+            return DefWindowProcA(parent.hwnd(), WM_SETTEXT, wParam, lParam);
+        });
+        parent.OnMessage(WM_SETREDRAW, [](WPARAM redraw, LPARAM) {
+            gOrder.push_back(redraw ? "redraw on" : "redraw off");
+            return 0;
+        });
+        parent.OnMessage(WM_INITDIALOG, [](WPARAM, LPARAM) {
+            gOrder.push_back("init");
+            return 0;
+        });
     }
 
     static TestTemplate WithNoting(const Bytes& data)
@@ -335,28 +417,33 @@ TEST_F(NotingChild, MayDestroyTheWindow)
     gVictim = nullptr;
 }
 
-TEST_F(DialogInWin, SendsInitDialogBetweenRedrawOffAndOn)
+TEST_F(NotingChild, IsMadeBetweenRedrawOffAndInitDialogAndGetsItsFontBeforeTheNext)
 {
-    std::vector<UINT> order;
-    HWND              told = nullptr;
-    LPARAM            lParam = 1;
-    int               children = 0;
-    parent.OnMessage(WM_SETREDRAW, [&](WPARAM redraw, LPARAM) {
-        order.push_back(redraw ? 1 : 0);
-        return 0;
-    });
+    NoteParent();
+    TestTemplate from = WithNoting({});
+    from.title = Wide("Address");
+    from.items[1].className = Wide("Noting");
+    HFONT font = nullptr;
+    Make(from, nullptr, &font);
+    EXPECT_EQ((std::vector<std::string>{ "title", "redraw off", "create 1", "font 1", "create 2", "font 2", "init",
+                                         "redraw on" }),
+              gOrder);
+    DeleteObject(font);
+}
+
+TEST_F(DialogInWin, TellsInitDialogOfTheFirstTabStop)
+{
+    HWND   told = nullptr;
+    LPARAM lParam = 1;
     parent.OnMessage(WM_INITDIALOG, [&](WPARAM focus, LPARAM data) {
-        order.push_back(WM_INITDIALOG);
         told = reinterpret_cast<HWND>(focus);
         lParam = data;
-        children = ChildCount();
         return 0;
     });
     Make(TwoControls());
-    EXPECT_EQ((std::vector<UINT>{ 0, WM_INITDIALOG, 1 }), order);
+    EXPECT_NE(nullptr, told);
     EXPECT_EQ(Child(2), told);
     EXPECT_EQ(0, lParam);
-    EXPECT_EQ(2, children);
 }
 
 TEST_F(DialogInWin, TellsInitDialogOfNoControlWithoutATabStop)
@@ -372,12 +459,31 @@ TEST_F(DialogInWin, TellsInitDialogOfNoControlWithoutATabStop)
     EXPECT_EQ(0u, told);
 }
 
-TEST_F(DialogInWin, IsPaintedAgain)
+TEST_F(DialogInWin, IsPaintedAgainWithoutBeingErased)
 {
+    int erased = 0;
+    parent.OnMessage(WM_SETREDRAW, [](WPARAM, LPARAM) { return 0; });
+    parent.OnMessage(WM_ERASEBKGND, [&](WPARAM, LPARAM) {
+        ++erased;
+        return 1;
+    });
     UpdateWindow(parent.hwnd());
     EXPECT_FALSE(GetUpdateRect(parent.hwnd(), nullptr, FALSE));
     Make(TwoControls());
     EXPECT_TRUE(GetUpdateRect(parent.hwnd(), nullptr, FALSE));
+    erased = 0;
+    UpdateWindow(parent.hwnd());
+    EXPECT_EQ(0, erased);
+}
+
+TEST_F(DialogInWin, InNoWindowHasItsSizeAndNoControls)
+{
+    UpdateWindow(parent.hwnd());
+    const TemplateResource resource(TwoControls());
+    RECT                   rect = {};
+    EXPECT_EQ(nullptr, CreateDialogInWin(GetModuleHandleA(nullptr), "ANY", nullptr, &rect, nullptr));
+    EXPECT_EQ(100 * UnitsOfSystem().x / 4, rect.right);
+    EXPECT_FALSE(GetUpdateRect(parent.hwnd(), nullptr, FALSE)) << "the screen isn't painted again";
 }
 
 TEST_F(DialogInWin, IsPaintedWithItsControlsUnlessTheWindowClipsThem)

@@ -86,6 +86,15 @@ TEST_F(DlgInfo, FreeFreesTheBlock)
     EXPECT_EQ(nullptr, FreeDlgInfo(parent.hwnd(), 1)) << "there is none";
 }
 
+TEST_F(DlgInfo, FreeFreesABlockOfTheCallerToo)
+{
+    void* const block = HBlockAlloc(16);
+    EXPECT_EQ(block, CreateDlgInfo(parent.hwnd(), block, 0));
+    const int live = LiveBlocks();
+    EXPECT_EQ(nullptr, FreeDlgInfo(parent.hwnd(), 1));
+    EXPECT_EQ(live - 1, LiveBlocks());
+}
+
 TEST_F(DlgInfo, FreeTakesTheSecondPropertyAlong)
 {
     SetPropA(parent.hwnd(), "H", reinterpret_cast<HANDLE>(INT_PTR{ 3 }));

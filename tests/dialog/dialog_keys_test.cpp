@@ -12,37 +12,72 @@ INT_PTR CALLBACK PlainDialog(HWND, UINT, WPARAM, LPARAM)
     return FALSE;
 }
 
-// A control that counts its clicks and tells a code of the test's.
+// A control that counts its clicks and keys and tells a code of the test's.
 struct Codes {
     LRESULT code;
     int     clicks;
-    HWND    destroyed; // by a click
+    HWND    destroyed; // by a click, or by the message below
+    UINT    at;
+    int     tabs;
+    int     altKeys;
 };
 Codes gCodes;
 
+// Destroys what a test wants destroyed, once, when its message comes.
+void DestroyAt(UINT message)
+{
+    if (gCodes.destroyed && message == (gCodes.at ? gCodes.at : HBM_CLICK)) {
+        const HWND victim = gCodes.destroyed;
+        gCodes.destroyed = nullptr;
+        DestroyWindow(victim);
+    }
+}
+
 LRESULT CALLBACK CodedProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    gCodes.clicks += message == HBM_CLICK;
+    gCodes.tabs += message == WM_KEYDOWN && wParam == VK_TAB;
+    gCodes.altKeys += message == WM_SYSKEYDOWN;
+    DestroyAt(message);
     switch (message) {
     case WM_GETDLGCODE: return gCodes.code;
-    case HBM_CLICK:
-        ++gCodes.clicks;
-        if (gCodes.destroyed) {
-            DestroyWindow(gCodes.destroyed);
-        }
-        return 1;
+    case HBM_CLICK: return 1;
     default: return DefWindowProcA(hwnd, message, wParam, lParam);
     }
 }
 
-// A page that counts the moves that it is asked for, and notes the last one.
-LRESULT CALLBACK NotingPage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+// What dialogs are told of moves, of the focus and of their buttons.
+struct Note {
+    HWND   hwnd;
+    UINT   message;
+    WPARAM wParam;
+    LPARAM lParam;
+
+    bool operator==(const Note&) const = default;
+};
+std::vector<Note> gNotes;
+WPARAM            gShift; // the high byte of Shift's state during the last move
+
+bool IsNoted(UINT message, WPARAM wParam)
 {
-    if (message != WM_NEXTDLGCTL) {
-        return DefDlgProcA(hwnd, message, wParam, lParam);
+    return message == WM_NEXTDLGCTL || (message == WM_COMMAND && (wParam == IDOK || wParam == IDCANCEL));
+}
+
+LRESULT CALLBACK NotingDialog(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (IsNoted(message, wParam)) {
+        gNotes.push_back({ hwnd, message, wParam, message == WM_NEXTDLGCTL ? lParam : 0 });
+        gShift = HIBYTE(GetKeyState(VK_SHIFT));
     }
-    gCodes.code = MAKELONG(wParam != 0, lParam);
-    ++gCodes.clicks;
-    return 0;
+    if (message == WM_SETFOCUS) {
+        gNotes.push_back({ hwnd, message, 0, 0 });
+    }
+    return DefDlgProcA(hwnd, message, wParam, lParam);
+}
+
+WPARAM ToControl(HWND control)
+{
+    return reinterpret_cast<WPARAM>(control);
 }
 
 // A dialog with a button before its tab control and one behind, and a page with controls of a test's choice.
@@ -51,6 +86,7 @@ protected:
     TabDialog()
     {
         gCodes = {};
+        gNotes.clear();
         RegisterControl(0, CodedProc, 0, 0, GetModuleHandleA(nullptr), nullptr, nullptr, nullptr, nullptr, "Coded");
         dialog = MakeDialog(parent.hwnd(), WS_POPUP | WS_VISIBLE, 300, 200);
         Add(dialog, "BUTTON", "&Before", idBefore, WS_TABSTOP);
@@ -96,6 +132,13 @@ protected:
             Add(page, "EDIT", "", id, WS_TABSTOP);
             Add(page, "STATIC", "label", id + 10);
         }
+    }
+
+    // From here on. The dialogs' own procedure goes on to see everything.
+    void NoteDialogs()
+    {
+        SubclassWW(dialog, NotingDialog);
+        SubclassWW(page, NotingDialog);
     }
 
     HWND OnPage(int id) const { return GetDlgItem(page, id); }
@@ -215,9 +258,11 @@ TEST_F(TabDialog, TabOfAControlThatWantsItIsTheControls)
         gCodes.code = code;
         const HWND wanting = Add(page, "Coded", "", 101, WS_TABSTOP);
         Add(page, "EDIT", "", 102, WS_TABSTOP);
+        gCodes.tabs = 0;
         SetFocus(wanting);
         TypeKey(VK_TAB);
         EXPECT_EQ(wanting, GetFocus()) << code;
+        EXPECT_EQ(1, gCodes.tabs) << code;
         ClearDialog(page);
     }
 }
@@ -226,13 +271,36 @@ TEST_F(TabDialog, MoveInsideThePageIsAskedForByItsDirection)
 {
     FillPage();
     SetFocus(OnPage(102));
-    const WNDPROC old = SubclassWW(page, NotingPage);
+    NoteDialogs();
     TypeKey(VK_TAB);
-    EXPECT_EQ(MAKELONG(0, 0), gCodes.code);
+    EXPECT_EQ((std::vector<Note>{ { page, WM_NEXTDLGCTL, 0, 0 } }), gNotes);
+    gNotes.clear();
     TypeKey(VK_TAB, withShift);
-    EXPECT_EQ(MAKELONG(1, 0), gCodes.code);
-    EXPECT_EQ(2, gCodes.clicks);
-    SubclassWW(page, old);
+    EXPECT_NE(0u, gShift);
+    EXPECT_EQ((std::vector<Note>{ { page, WM_NEXTDLGCTL, gShift, 0 } }), gNotes);
+}
+
+TEST_F(TabDialog, MoveOutOfThePageIsAskedOfTheDialog)
+{
+    FillPage();
+    SetFocus(OnPage(103));
+    NoteDialogs();
+    TypeKey(VK_TAB);
+    EXPECT_EQ((std::vector<Note>{ { dialog, WM_NEXTDLGCTL, ToControl(OnDialog(idAfter)), 1 } }), gNotes);
+    SetFocus(OnPage(101));
+    gNotes.clear();
+    TypeKey(VK_TAB, withShift);
+    EXPECT_EQ((std::vector<Note>{ { dialog, WM_NEXTDLGCTL, ToControl(tab), 1 } }), gNotes);
+}
+
+TEST_F(TabDialog, MoveIntoThePageGivesThePageTheFocusFirst)
+{
+    FillPage();
+    SetFocus(tab);
+    NoteDialogs();
+    TypeKey(VK_TAB);
+    EXPECT_EQ((std::vector<Note>{ { page, WM_SETFOCUS, 0, 0 }, { page, WM_NEXTDLGCTL, ToControl(OnPage(101)), 1 } }),
+              gNotes);
 }
 
 TEST_F(TabDialog, WithoutAPageIsAnOrdinaryDialog)
@@ -251,7 +319,7 @@ TEST_F(TabDialog, EmptyPageKeepsTheKeyAndFaultsNowhere)
 {
     SetFocus(tab);
     EXPECT_EQ(1, Pass(tab, WM_KEYDOWN, VK_TAB));
-    EXPECT_TRUE(IsWindow(page));
+    EXPECT_EQ(page, GetFocus());
 }
 
 TEST_F(TabDialog, LeavesMessagesOfOtherWindowsAlone)
@@ -261,6 +329,12 @@ TEST_F(TabDialog, LeavesMessagesOfOtherWindowsAlone)
     EXPECT_EQ(0, Pass(nullptr, WM_KEYDOWN, VK_TAB));
 }
 
+TEST_F(TabDialog, WithoutAMessageUsesNothing)
+{
+    EXPECT_EQ(FALSE, IsTabDlgMessage(dialog, page, idTab, nullptr));
+    EXPECT_EQ(FALSE, IsTabDlgMessage(dialog, nullptr, idTab, nullptr));
+}
+
 TEST_F(TabDialog, KeysThatAreNobodysGoToThePageThenToTheDialog)
 {
     FillPage();
@@ -268,6 +342,26 @@ TEST_F(TabDialog, KeysThatAreNobodysGoToThePageThenToTheDialog)
     EXPECT_EQ(1, Pass(OnPage(101), WM_CHAR, 'x')) << "the page's";
     EXPECT_EQ("x", TextOf(OnPage(101)));
     EXPECT_EQ(1, Pass(OnDialog(idAfter), WM_NULL, 0)) << "the dialog's";
+}
+
+TEST_F(TabDialog, EnterAndEscapeAreThePagesOnThePageAndElseTheDialogs)
+{
+    constexpr struct {
+        WPARAM key;
+        WPARAM id;
+    } rows[] = { { VK_RETURN, IDOK }, { VK_ESCAPE, IDCANCEL } };
+    FillPage();
+    Add(dialog, "EDIT", "", idSave, WS_TABSTOP);
+    NoteDialogs();
+    for (const auto& row : rows) {
+        for (const HWND hwnd : { page, dialog }) {
+            const HWND focus = hwnd == page ? OnPage(101) : OnDialog(idSave);
+            SetFocus(focus);
+            gNotes.clear();
+            EXPECT_EQ(1, Pass(focus, WM_KEYDOWN, row.key)) << row.id;
+            EXPECT_EQ((std::vector<Note>{ { hwnd, WM_COMMAND, row.id, 0 } }), gNotes) << row.id;
+        }
+    }
 }
 
 // Mnemonics
@@ -308,11 +402,12 @@ TEST_F(TabDialog, MnemonicOfTheFocusItselfIsTheLastOfTheCircle)
 
 TEST_F(TabDialog, WithoutAMatchTheFocusStays)
 {
-    FillPage();
+    const HWND focus = Add(page, "Coded", "", 101, WS_TABSTOP);
     Add(page, "HButt", "&Keep", 120, WS_TABSTOP);
-    SetFocus(OnPage(102));
+    SetFocus(focus);
     PassAlt('Q');
-    EXPECT_EQ(102, FocusId());
+    EXPECT_EQ(focus, GetFocus());
+    EXPECT_EQ(1, gCodes.altKeys) << "the key is the control's";
 }
 
 struct CodeRow {
@@ -335,7 +430,7 @@ TEST_F(TabDialog, MnemonicClicksButtonsAndFocusesWhatIsNoPushButton)
     FillPage();
     const HWND coded = Add(page, "Coded", "A&ction", 120);
     for (const CodeRow& row : rows) {
-        gCodes = { row.code, 0, nullptr };
+        gCodes = { row.code, 0, nullptr, 0, 0, 0 };
         SetFocus(OnPage(101));
         EXPECT_EQ(1, PassAlt('C')) << row.what;
         EXPECT_EQ(row.clicks, gCodes.clicks) << row.what;
@@ -359,17 +454,30 @@ TEST_F(TabDialog, MnemonicIsTheCharacterBehindTheFirstMark)
         { "Go",     'G', false }, { "Go&",         'G', false }, { "&Let &go",    'G', false },
         { "&7 days", '7', true }, { "&&G",         'G', false }, { "",            'G', false },
         { "&",      '0', false }, { late.c_str(),  'Z', false }, { last.c_str(),  'Z', true },
+        { "&0 items", '0', true },
     };
     // clang-format on
     FillPage();
     const HWND coded = Add(page, "Coded", "", 120);
     for (const TextRow& row : rows) {
-        gCodes = { DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON, 0, nullptr };
+        gCodes = { DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON, 0, nullptr, 0, 0, 0 };
         SetWindowTextA(coded, row.text);
         SetFocus(OnPage(101));
         PassAlt(row.key);
         EXPECT_EQ(row.matches ? 1 : 0, gCodes.clicks) << row.text << " by " << static_cast<char>(row.key);
     }
+}
+
+TEST_F(TabDialog, MnemonicOfAButtonOfTheSystemUsesTheKeyUpAndDoesNothing)
+{
+    FillPage();
+    SetFocus(OnPage(101));
+    seen.Watch(dialog);
+    for (const int key : { 'B', 'A' }) {
+        EXPECT_EQ(1, PassAlt(key)) << static_cast<char>(key);
+        EXPECT_EQ(101, FocusId()) << static_cast<char>(key);
+    }
+    EXPECT_NOTHING_SEEN() << "no button tells of a click";
 }
 
 TEST_F(TabDialog, MnemonicOfAHiddenControlIsNobodys)
@@ -396,16 +504,64 @@ TEST_F(TabDialog, ClickMayDestroyTheControlOrTheDialog)
 {
     FillPage();
     const HWND coded = Add(page, "Coded", "&Go", 120);
-    gCodes = { DLGC_BUTTON, 0, coded };
+    gCodes = { DLGC_BUTTON, 0, coded, 0, 0, 0 };
     SetFocus(OnPage(101));
     EXPECT_EQ(1, PassAlt('G'));
     EXPECT_FALSE(IsWindow(coded));
 
     Add(page, "Coded", "&Go", 121);
-    gCodes = { DLGC_BUTTON, 0, dialog };
+    gCodes = { DLGC_BUTTON, 0, dialog, 0, 0, 0 };
     SetFocus(OnPage(101));
     EXPECT_EQ(1, PassAlt('G'));
     EXPECT_FALSE(IsWindow(dialog));
+}
+
+struct DestroyRow {
+    const char* what;
+    UINT        at;
+    UINT        message;
+    WPARAM      key;
+    bool        wholeDialog;
+};
+
+TEST_F(TabDialog, ControlMayDestroyThePageOrTheDialogInAnyMessage)
+{
+    constexpr DestroyRow rows[] = {
+        { "the page when asked for its code", WM_GETDLGCODE, WM_KEYDOWN, VK_TAB, false },
+        { "the page when it loses the focus", WM_KILLFOCUS, WM_KEYDOWN, VK_TAB, false },
+        { "the page when asked for its text", WM_GETTEXT, WM_SYSKEYDOWN, 'Q', false },
+        { "the page when asked what it is", WM_GETDLGCODE, WM_SYSKEYDOWN, 'G', false },
+        { "the dialog when asked for its code", WM_GETDLGCODE, WM_KEYDOWN, VK_TAB, true },
+    };
+    for (const DestroyRow& row : rows) {
+        gCodes = {};
+        const HWND coded = Add(page, "Coded", "&Go", 101, WS_TABSTOP);
+        SetFocus(coded);
+        gCodes = { 0, 0, row.wholeDialog ? dialog : page, row.at, 0, 0 };
+        const HWND victim = gCodes.destroyed;
+        Pass(coded, row.message, row.key);
+        EXPECT_EQ(nullptr, gCodes.destroyed) << row.what << ": the message has come";
+        EXPECT_FALSE(IsWindow(victim)) << row.what;
+        page = MakeDialog(dialog, WS_CHILD | WS_VISIBLE, 200, 100);
+    }
+}
+
+TEST_F(TabDialog, TabMayLoseThePageByItsFocus)
+{
+    gCodes = {};
+    DestroyWindow(tab);
+    tab = Add(dialog, "Coded", "", idTab, WS_TABSTOP);
+    Add(page, "EDIT", "", 101, WS_TABSTOP);
+    SetFocus(tab);
+    gCodes = { 0, 0, page, WM_KILLFOCUS, 0, 0 };
+    EXPECT_EQ(1, Pass(tab, WM_KEYDOWN, VK_TAB));
+    EXPECT_FALSE(IsWindow(page));
+}
+
+TEST_F(TabDialog, CallbackWithoutAMessageWalksOn)
+{
+    EXPECT_EQ(TRUE, IsMnemonic(tab, 0));
+    EXPECT_EQ(TRUE, EnumChildWindows(dialog, IsMnemonic, 0));
 }
 
 TEST_F(TabDialog, CallbackWalksAnyChildren)

@@ -111,6 +111,16 @@ TEST(DialogTemplate, TellsTitleAndFont)
     EXPECT_EQ(Wide("Arial"), read.face);
 }
 
+TEST(DialogTemplate, PointSizeHasNoSign)
+{
+    TestTemplate from;
+    from.hasFont = true;
+    from.points = 0xFFF7;
+    const Template read(from);
+    ASSERT_TRUE(read.read);
+    EXPECT_EQ(0xFFF7, read.header.points);
+}
+
 TEST(DialogTemplate, WithoutAFontGoesOnWithItsItems)
 {
     TestTemplate from = Several();
@@ -290,7 +300,7 @@ public:
         from.menu = Text();
         from.className = Text();
         from.hasFont = Pick(2) != 0;
-        from.points = static_cast<SHORT>(Pick(40));
+        from.points = static_cast<WORD>(Pick(40));
         from.face = Text();
         from.items.resize(static_cast<size_t>(Pick(9)));
         for (TestItem& item : from.items) {
@@ -356,16 +366,16 @@ TEST(DialogTemplate, IsReadAsItWasWritten)
 }
 
 struct HeightRow {
-    int points;
-    int dpi;
-    int height;
+    WORD points;
+    int  dpi;
+    int  height;
 };
 
 TEST(DialogTemplate, FontHeightIsCutTowardsZero)
 {
     constexpr HeightRow rows[] = {
-        { 8, 96, -10 }, { 8, 144, -16 }, { 9, 96, -12 }, { 9, 144, -18 }, { 10, 96, -13 },
-        { 7, 96, -9 },  { 7, 120, -11 }, { 0, 96, 0 },   { -9, 96, 12 },
+        { 8, 96, -10 }, { 8, 144, -16 }, { 9, 96, -12 }, { 9, 144, -18 },        { 10, 96, -13 },
+        { 7, 96, -9 },  { 7, 120, -11 }, { 0, 96, 0 },   { 0xFFF7, 96, -87369 },
     };
     for (const HeightRow& row : rows) {
         TemplateHeader header = {};

@@ -37,7 +37,7 @@ struct TestTemplate {
     Words                 className;
     Words                 title;
     bool                  hasFont = false;
-    SHORT                 points = 8;
+    WORD                  points = 8;
     Words                 face = Wide("Arial");
     std::vector<TestItem> items;
     int                   count = -1; // what the template says; -1: the number of items

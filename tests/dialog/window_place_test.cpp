@@ -84,6 +84,19 @@ TEST_F(WindowPlace, NeverCentresBeyondTheLeftOrUpperEdge)
     ExpectAt(0, 0, 100, 100, small, "with an owner beyond the edges");
 }
 
+TEST_F(WindowPlace, HoldsOffsetsThatLeadOutOfTheNumbers)
+{
+    // Both ways: the sum with half of the room, and with half of what a high window lacks.
+    const PopUp low(parent.hwnd(), { 5, 5, 100, 100 });
+    const PopUp high(nullptr, { 5, 5, 100, screen.cy + 60 });
+    for (const PopUp* window : { &low, &high }) {
+        EXPECT_NE(0, CenterWindow(window->hwnd, INT_MIN));
+        EXPECT_EQ(0, window->Place().top);
+        EXPECT_NE(0, CenterWindow(window->hwnd, INT_MAX));
+        EXPECT_GT(window->Place().top, screen.cy);
+    }
+}
+
 TEST_F(WindowPlace, MovesAChildToThePointOfTheScreen)
 {
     const HWND child = Create("STATIC", "", 0, 1, { 0, 0, 100, 60 });
@@ -156,6 +169,13 @@ TEST_F(WindowPlace, MeasuresWithTheFrame)
     EXPECT_EQ(90, WindowHeight(framed));
     EXPECT_EQ(0, WindowWidth(nullptr));
     EXPECT_EQ(0, WindowHeight(nullptr));
+}
+
+TEST_F(WindowPlace, NoRectangleIsConvertedToNone)
+{
+    RStoC(parent.hwnd(), nullptr);
+    RCtoS(parent.hwnd(), nullptr);
+    EXPECT_TRUE(IsWindow(parent.hwnd()));
 }
 
 TEST_F(WindowPlace, RectanglesGoToTheScreenAndBack)

@@ -12,7 +12,7 @@ protected:
     HWND Child(int id) const { return GetDlgItem(parent.hwnd(), id); }
 };
 
-TEST_F(DllDialog, HasEveryClassOfTheLibrary)
+TEST_F(DllDialog, HasEveryClassThatAHostNames)
 {
     constexpr struct {
         int         id;
@@ -46,10 +46,11 @@ TEST_F(DllDialog, BlocksHangOnWindows)
     EXPECT_EQ(nullptr, GetDlgInfo(parent.hwnd()));
 }
 
-TEST_F(DllDialog, BlockOfTheHostIsFreedByTheLibrary)
+TEST_F(DllDialog, BlockOfTheHostIsTheLibrarysToFree)
 {
     void* const block = GlobalAlloc(GMEM_FIXED, 16);
     EXPECT_EQ(block, CreateDlgInfo(parent.hwnd(), block, 0));
+    EXPECT_EQ(block, GetDlgInfo(parent.hwnd()));
     EXPECT_EQ(nullptr, FreeDlgInfo(parent.hwnd(), 1));
 }
 
@@ -82,11 +83,25 @@ TEST_F(DllDialog, WindowsAreMeasuredAndCentred)
     EXPECT_EQ((GetSystemMetrics(SM_CXSCREEN) - 720) / 2, rect.left);
     SetCursorPos(0, 0);
     EXPECT_NE(0, CenterAboutCursor(parent.hwnd()));
-    RECT origin = { 0, 0, 0, 0 };
-    RStoC(parent.hwnd(), &origin);
-    EXPECT_EQ(0, origin.left) << "the corner of the screen is that of the window";
-    RCtoS(parent.hwnd(), &origin);
-    EXPECT_EQ(0, origin.top);
+    GetWindowRect(parent.hwnd(), &rect);
+    EXPECT_EQ(0, rect.left);
+    EXPECT_EQ(0, rect.top);
+}
+
+TEST_F(DllDialog, RectanglesGoToTheScreenAndBack)
+{
+    POINT origin = {};
+    ClientToScreen(parent.hwnd(), &origin);
+    EXPECT_NE(0, origin.x);
+    EXPECT_NE(0, origin.y);
+    const RECT inside = { 1, 2, 30, 40 };
+    RECT       rect = inside;
+    RECT       expected = inside;
+    OffsetRect(&expected, origin.x, origin.y);
+    RCtoS(parent.hwnd(), &rect);
+    EXPECT_TRUE(EqualRect(&expected, &rect));
+    RStoC(parent.hwnd(), &rect);
+    EXPECT_TRUE(EqualRect(&inside, &rect));
 }
 
 } // namespace
