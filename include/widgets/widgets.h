@@ -1124,7 +1124,10 @@ LRESULT CALLBACK HButtMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 #define HGS_STRIPED 0x0008
 /** The last row is the blank new-record row. Style bit. */
 #define HGS_NEWROW 0x0010
-/** Row height and header height can be dragged. Style bit. */
+/**
+ * Row height and header height can be dragged: under HGS_ROWHEADERS in their strip only. With HGS_COLSIZE, so can the
+ * width of that strip. Style bit.
+ */
 #define HGS_ROWSIZE 0x0020
 /** Column widths can be dragged. Style bit. */
 #define HGS_COLSIZE 0x0040
@@ -1138,7 +1141,7 @@ LRESULT CALLBACK HButtMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 #define HGS_NOTAB 0x0400
 /** Selection and editor stay up without the focus. Style bit. */
 #define HGS_KEEPSEL 0x0800
-/** The grid has a column order map; columns can be moved by their header. Style bit. */
+/** The grid has a column order map; Shift on the header of a selected column drags. Style bit. */
 #define HGS_COLMAP 0x1000
 /** Selection by whole rows. Style bit. */
 #define HGS_ROWSELECT 0x2000
@@ -1147,8 +1150,9 @@ LRESULT CALLBACK HButtMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 /**
  * Without WS_VSCROLL, a navigator stands at the right: a scroll bar and buttons that act as Ctrl+Home, Ctrl+End and,
  * under HGS_NEWROW, Insert, after HGN_NAVIGATE. For the text of a button's tip the grid's window gets message 40 with
- * the id in wParam (4188 to 4191) and a buffer of 81 bytes in lParam; a host's subclass fills it and answers 1. Style
- * bit.
+ * the id in wParam (4188 to 4191) and a buffer of 81 bytes in lParam; a host's subclass fills it and answers 1.
+ * The grid sets WS_VSCROLL in the record that it is made with; one that is attached later needs both bits for the bar
+ * to follow. Style bit.
  */
 #define HGS_NAVIGATOR 0x8000
 
@@ -1399,9 +1403,9 @@ typedef int(CALLBACK* HGROWSOURCE)(HWND hwnd, int operation, int record, void* b
  * Paints a part of the library's buttons.
  *
  * @param part      1 to 4: buttons of a combo. 5, 6, 7, 9: the navigator's to the first, last and new record, and the
- *                  fourth one.
+ *                  fourth one. 8: the border of a combo with WS_EX_CLIENTEDGE, whose answer isn't looked at.
  * @param enabled, pressed  The state, 0 or non-zero.
- * @param reserved  0.
+ * @param reserved  Non-zero while the mouse is over a combo's button, and for part 8; 0 for the navigator's buttons.
  * @return Non-zero if it has painted; 0 leaves the button to paint itself.
  */
 typedef int(CALLBACK* HGDRAWPART)(int part, HDC hdc, RECT* rect, int enabled, int pressed, int reserved);

@@ -127,6 +127,9 @@ int WriteRead(HGridCtl* ctl, HWND editor, const char* value)
     const HWND hwnd = ctl->hWnd;
     const Cell cell = CurrentCell(ctl);
     SendMessageA(editor, WWM_SETCHANGED, 0, 0);
+    if (!IsWindow(hwnd)) {
+        return 0;
+    }
     const int written = HGWriteCell(ctl, cell.col, cell.row, value);
     if (!written && IsWindow(hwnd) && cell == CurrentCell(ctl) && StillHolds(ctl, editor, value)) {
         SendMessageA(editor, WWM_SETCHANGED, 1, 0);
@@ -142,6 +145,20 @@ bool IsPlaced(const HGridCtl* ctl, HWND editor, const RECT& rect)
     GetWindowRect(editor, &now);
     MapWindowPoints(nullptr, ctl->hWnd, reinterpret_cast<POINT*>(&now), 2);
     return EqualRect(&now, &rect) != 0;
+}
+
+// A host's procedure over the child may end the child or the grid while it is placed: false then.
+bool PlaceEditor(HGridCtl* ctl, const RECT& rect)
+{
+    const HWND hwnd = ctl->hWnd;
+    const HWND editor = ctl->hEditor;
+    const int  width = rect.right - rect.left;
+    const int  height = rect.bottom - rect.top;
+    if (!IsPlaced(ctl, editor, rect)) {
+        MoveWindow(editor, rect.left, rect.top, width, height, TRUE);
+    }
+    SendMessageA(editor, WM_SIZE, SIZE_RESTORED, MAKELPARAM(width, height));
+    return IsWindow(hwnd) && IsWindow(editor) && ctl->hEditor == editor;
 }
 
 } // namespace
@@ -215,7 +232,11 @@ int HGReadEditor(HGridCtl* ctl)
     const Cell cell = CurrentCell(ctl);
     const HGField* const field = EditedField(ctl);
     const HWND focus = GetFocus();
-    if (!field || !SendMessageA(editor, WWM_GETCHANGED, 0, 0) || field->cbSize < 1) {
+    if (!field || field->cbSize < 1 || !SendMessageA(editor, WWM_GETCHANGED, 0, 0)) {
+        return 1;
+    }
+    // The host may have put a procedure over the child, which can end the grid or the column with any message.
+    if (!IsWindow(hwnd) || EditedField(ctl) != field) {
         return 1;
     }
     char* const buffer = static_cast<char*>(HBlockAlloc(static_cast<size_t>(field->cbSize) + 1));
@@ -226,7 +247,7 @@ int HGReadEditor(HGridCtl* ctl)
     // A control that takes the focus back has a validator that refuses the value.
     const bool refused = !HoldsFocus(editor, focus) && HoldsFocus(editor, GetFocus());
     int written = IsWindow(hwnd) && !refused;
-    if (written && IsStillToStore(ctl, editor, cell, focus)) {
+    if (written && IsStillToStore(ctl, editor, cell, focus) && IsWindow(hwnd)) {
         written = WriteRead(ctl, editor, hasValue ? buffer : nullptr);
     }
     HBlockFree(buffer);
@@ -245,15 +266,11 @@ int HGShowEditor(HGridCtl* ctl)
     HGScrollRect(ctl, &zone);
     // Settled: bounded by the scrolling zone, an editor in a fixed column gets no width and isn't seen.
     HGBoundRect(&rect, &rect, &zone);
-    const int width = rect.right - rect.left;
-    const int height = rect.bottom - rect.top;
-    const HWND editor = ctl->hEditor;
-    if (!IsPlaced(ctl, editor, rect)) {
-        MoveWindow(editor, rect.left, rect.top, width, height, TRUE);
+    if (!PlaceEditor(ctl, rect)) {
+        return 0;
     }
-    SendMessageA(editor, WM_SIZE, SIZE_RESTORED, MAKELPARAM(width, height));
     ctl->wFlags |= HGC_EDITORSHOWN;
-    ShowWindow(editor, SW_SHOWNA);
+    ShowWindow(ctl->hEditor, SW_SHOWNA);
     return 1;
 }
 

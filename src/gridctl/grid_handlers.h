@@ -27,10 +27,10 @@ LRESULT HGOnSetFont(HGridCtl* ctl, const MsgArgs& args);
 LRESULT HGOnSetText(HGridCtl* ctl, const MsgArgs& args);
 LRESULT HGOnGetText(HGridCtl* ctl, const MsgArgs& args);
 
-// The navigator and its tips
-void    HGMakeNavigator(HGridCtl* ctl);
+// The navigator and its tips. False if the window went while they were made.
+bool    HGMakeNavigator(HGridCtl* ctl);
 void    HGDestroyNavigator(HGridCtl* ctl);
-void    HGAddTips(HGridCtl* ctl, HINSTANCE instance);
+bool    HGAddTips(HGridCtl* ctl, HINSTANCE instance);
 void    HGAddTool(HWND hTips, HWND tool, HWND owner, HINSTANCE instance);
 LRESULT HGOnNotify(HGridCtl* ctl, const MsgArgs& args);
 

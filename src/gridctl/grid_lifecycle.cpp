@@ -106,6 +106,15 @@ void ClearChildLinks(HGridData* grid)
     }
 }
 
+// A size drag that ends with its grid would keep the mouse within a window that is no longer there.
+void EndSizeDrag(const HGridCtl* ctl)
+{
+    if (gSizeZone != 0 && HasFlag(ctl, HGC_MOUSEDOWN | HGC_XORLINE)) {
+        ClipCursor(nullptr);
+        gSizeZone = 0;
+    }
+}
+
 void DeletePaintObjects(HGridCtl* ctl)
 {
     DeleteBoldFont(ctl);
@@ -145,8 +154,13 @@ LRESULT HGOnNcCreate(const MsgArgs& args)
 
 LRESULT HGOnCreate(HGridCtl* ctl)
 {
-    const WindowDC screen(ctl->hWnd);
+    constexpr LRESULT failed = -1;
+    const HWND     hwnd = ctl->hWnd;
+    const WindowDC screen(hwnd);
     const LRESULT parentFont = ctl->hParent ? SendMessageA(ctl->hParent, WM_GETFONT, 0, 0) : 0;
+    if (!IsWindow(hwnd)) {
+        return failed;
+    }
     const HFONT font = reinterpret_cast<HFONT>(parentFont);
     HGridScale(ctl->pData, ctl->hFont, font);
     ctl->hFont = font;
@@ -155,8 +169,8 @@ LRESULT HGOnCreate(HGridCtl* ctl)
         // Cells look as their headers do, also when nobody sends the font to the grid itself.
         HGSendToChildren(ctl, WM_SETFONT, reinterpret_cast<WPARAM>(font), 0);
     }
-    if (HasStyle(ctl, HGS_NAVIGATOR) && !HasStyle(ctl, WS_VSCROLL)) {
-        HGMakeNavigator(ctl);
+    if (HasStyle(ctl, HGS_NAVIGATOR) && !HasStyle(ctl, WS_VSCROLL) && !HGMakeNavigator(ctl)) {
+        return failed;
     }
     MakeNoEditBrush(ctl, screen.hdc);
     return 0;
@@ -189,6 +203,7 @@ LRESULT HGOnSetFont(HGridCtl* ctl, const MsgArgs& args)
 void HGOnDestroy(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
+    EndSizeDrag(ctl);
     if (HasStyle(ctl, WS_POPUP)) {
         EnableWindow(ctl->hParent, TRUE);
     }

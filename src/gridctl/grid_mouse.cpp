@@ -82,18 +82,32 @@ void ConfineCursor(HGridCtl* ctl)
 }
 
 // Shift on the header of a selected column takes the selected columns along.
-bool StartsColumnDrag(const HGridCtl* ctl, Cell hit)
+bool StartsColumnDrag(const HGridCtl* ctl, Cell hit, bool shift)
 {
-    return HasStyle(ctl, HGS_COLMAP) && CurrentCell(ctl).row < 0 && hit.row < 0 && HGIsKeyDown(VK_SHIFT) &&
+    return HasStyle(ctl, HGS_COLMAP) && CurrentCell(ctl).row < 0 && hit.row < 0 && shift &&
            IsInside(SelectedColumns(ctl), hit.col);
 }
 
-// The loop that moves a drag on while the mouse stands still. It ends when the button comes up.
+// Nothing is dropped where the button came up over another window, which has taken the mouse meanwhile.
+void ForgetDrag(HGridCtl* ctl)
+{
+    if (HasFlag(ctl, HGC_XORLINE)) {
+        InvalidateRect(ctl->hWnd, nullptr, TRUE);
+    }
+    SetFlag(ctl, HGC_MOUSEDOWN | HGC_COLDRAG | HGC_XORLINE, false);
+}
+
+// The loop that moves a drag on while the mouse stands still. It ends when the button comes up: the grid hears of that,
+// after a cancelled loop later on.
 void ScrollByTime(HGridCtl* ctl)
 {
-    gTimedScroll = ctl->hWnd;
+    const HWND hwnd = ctl->hWnd;
+    gTimedScroll = hwnd;
     TimedScroll(ctl, 1);
     gTimedScroll = nullptr;
+    if (IsWindow(hwnd) && !HasFlag(ctl, CF_CANCEL) && GetCapture() != hwnd) {
+        ForgetDrag(ctl);
+    }
 }
 
 void DragColumns(HGridCtl* ctl)
@@ -143,7 +157,8 @@ int ColumnBeforeZone(HGridCtl* ctl)
     return col;
 }
 
-// Scrolls while the drop point lies at an edge. False if the window went.
+// Scrolls while the drop point lies at an edge. False if the window went, or if a host that was told of it has let the
+// button come up in a loop of its own.
 bool ScrollAtEdge(HGridCtl* ctl, const RECT& column, const RECT& zone)
 {
     constexpr int step = 20; // design units
@@ -153,7 +168,7 @@ bool ScrollAtEdge(HGridCtl* ctl, const RECT& column, const RECT& zone)
     } else if (column.left <= zone.left) {
         HGScrollBy(ctl, -ScaleX(step), 0, true);
     }
-    return IsWindow(hwnd) != 0;
+    return IsWindow(hwnd) && HasFlag(ctl, HGC_COLDRAG);
 }
 
 void ShowDropPoint(HGridCtl* ctl, LPARAM lParam)
@@ -413,7 +428,7 @@ void Press(HGridCtl* ctl, LPARAM lParam, bool shift)
     }
     if (!stored) {
         RefusePress(ctl);
-    } else if (StartsColumnDrag(ctl, hit)) {
+    } else if (StartsColumnDrag(ctl, hit, shift)) {
         DragColumns(ctl);
     } else if (HasStyle(ctl, HGS_ROWSELECT) && !HasStyle(ctl, HGS_NOEXTEND)) {
         HGSelectRow(ctl, hit.col, hit.row, shift, HGIsKeyDown(VK_CONTROL));
@@ -427,9 +442,12 @@ void Press(HGridCtl* ctl, LPARAM lParam, bool shift)
 void HGMouseDown(HGridCtl* ctl, LPARAM lParam)
 {
     const bool shift = HGIsKeyDown(VK_SHIFT);
+    const HWND hwnd = ctl->hWnd;
+    if (GetCapture() != hwnd) {
+        ForgetDrag(ctl);
+    }
     SetFlag(ctl, CF_CANCEL, false);
     ctl->wFlags |= HGC_MOUSEDOWN;
-    const HWND hwnd = ctl->hWnd;
     SetCapture(hwnd);
     if (!IsWindow(hwnd)) {
         return;

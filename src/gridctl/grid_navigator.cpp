@@ -43,21 +43,41 @@ void StoreButton(HGridCtl* ctl, NavSlot slot, HWND button)
     }
 }
 
+// The system tells the windows around the grid of each child, and one of them may end the grid.
 HWND MakeChild(HGridCtl* ctl, const char* className, DWORD style, INT_PTR id)
 {
     return CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE | style, 0, 0, 1, 1, ctl->hWnd,
                            reinterpret_cast<HMENU>(id), InstanceOf(ctl), nullptr);
 }
 
-void MakeButton(HGridCtl* ctl, const NavButton& button)
+// False if the window went.
+bool MakeScrollBar(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    const HWND child = MakeChild(ctl, "SCROLLBAR", SBS_VERT, scrollId);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    ctl->hNavScroll = child;
+    ctl->pData->dwStyle |= WS_VSCROLL;
+    return true;
+}
+
+// False if the window went.
+bool MakeButton(HGridCtl* ctl, const NavButton& button)
 {
     constexpr DWORD style = HBS_NOFOCUS | 0x4000;
+    const HWND      hwnd = ctl->hWnd;
     const HWND      child = MakeChild(ctl, "HButt", style, button.id);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
     StoreButton(ctl, button.slot, child);
     const LRESULT record = child ? SendMessageA(child, WWM_GETSTATE, 0, 0) : 0;
     if (record) {
         reinterpret_cast<HButtCtl*>(record)->nGlyph = button.glyph;
     }
+    return true;
 }
 
 const NavButton* FindButton(int id)
@@ -81,16 +101,18 @@ void PressButton(HGridCtl* ctl, const NavButton& button)
 
 } // namespace
 
-void HGMakeNavigator(HGridCtl* ctl)
+bool HGMakeNavigator(HGridCtl* ctl)
 {
-    ctl->hNavScroll = MakeChild(ctl, "SCROLLBAR", SBS_VERT, scrollId);
-    ctl->pData->dwStyle |= WS_VSCROLL;
+    if (!MakeScrollBar(ctl)) {
+        return false;
+    }
     for (const NavButton& button : navButtons) {
-        if (button.slot != NavSlot::Extra || (ctl->pData->dwStyle2 & HGX_EXTRABUTTON)) {
-            MakeButton(ctl, button);
+        const bool wanted = button.slot != NavSlot::Extra || (ctl->pData->dwStyle2 & HGX_EXTRABUTTON);
+        if (wanted && !MakeButton(ctl, button)) {
+            return false;
         }
     }
-    HGAddTips(ctl, InstanceOf(ctl));
+    return HGAddTips(ctl, InstanceOf(ctl));
 }
 
 void HGDestroyNavigator(HGridCtl* ctl)

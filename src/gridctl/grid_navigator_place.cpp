@@ -30,20 +30,26 @@ void HGPlaceNavigator(HGridCtl* ctl)
     const int width = GetSystemMetrics(SM_CXVSCROLL);
     const Strip strip = { static_cast<int>(client.right) - width, width };
     int bottom = static_cast<int>(client.bottom);
+    // A host's procedure over one of them may end the grid while they are placed.
+    const HWND first = ctl->hNavFirst;
+    const HWND added = ctl->hNavNew;
+    const HWND fourth = ctl->hNavExtra;
+    const HWND last = ctl->hNavLast;
+    const HWND bar = ctl->hNavScroll;
     const int button = std::min(GetSystemMetrics(SM_CYVSCROLL), bottom / parts);
 
-    Place(ctl->hNavFirst, strip, 0, button);
+    Place(first, strip, 0, button);
     if (newRow) {
         bottom -= button;
-        Place(ctl->hNavNew, strip, bottom, button);
-    } else if (ctl->hNavNew) {
-        ShowWindow(ctl->hNavNew, SW_HIDE);
+        Place(added, strip, bottom, button);
+    } else if (added) {
+        ShowWindow(added, SW_HIDE);
     }
     int y = bottom - button;
     if (extra) {
-        Place(ctl->hNavExtra, strip, y, button);
+        Place(fourth, strip, y, button);
         y = bottom - 2 * button;
     }
-    Place(ctl->hNavLast, strip, y, button);
-    Place(ctl->hNavScroll, strip, button, y - button);
+    Place(last, strip, y, button);
+    Place(bar, strip, button, y - button);
 }

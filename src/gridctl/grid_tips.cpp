@@ -43,20 +43,26 @@ void HGAddTool(HWND hTips, HWND tool, HWND owner, HINSTANCE instance)
     SendMessageA(hTips, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&info));
 }
 
-void HGAddTips(HGridCtl* ctl, HINSTANCE instance)
+bool HGAddTips(HGridCtl* ctl, HINSTANCE instance)
 {
+    const HWND hwnd = ctl->hWnd;
     const HWND buttons[] = { ctl->hNavExtra, ctl->hNavFirst, ctl->hNavNew, ctl->hNavLast };
     const auto exists = [](HWND button) { return button != nullptr; };
     if (std::none_of(std::begin(buttons), std::end(buttons), exists)) {
-        return;
+        return true;
     }
-    ctl->hTips = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
-                                 CW_USEDEFAULT, CW_USEDEFAULT, ctl->hWnd, nullptr, instance, nullptr);
+    const HWND tips = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                                      CW_USEDEFAULT, CW_USEDEFAULT, hwnd, nullptr, instance, nullptr);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    ctl->hTips = tips;
     for (const HWND button : buttons) {
-        if (button && ctl->hTips) {
-            HGAddTool(ctl->hTips, button, ctl->hWnd, instance);
+        if (button && tips) {
+            HGAddTool(tips, button, hwnd, instance);
         }
     }
+    return IsWindow(hwnd) != 0;
 }
 
 LRESULT HGOnNotify(HGridCtl* ctl, const MsgArgs& args)

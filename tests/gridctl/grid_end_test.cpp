@@ -103,6 +103,12 @@ constexpr Deed deeds[] = {
                                    SendMessageA(g, WM_LBUTTONUP, 0, MAKELPARAM(150, 90)); } },
     { "column drag",  [](HWND g) { HGridCtl* const c = HGFromWindow(g); c->wFlags |= HGC_MOUSEDOWN | HGC_COLDRAG;
                                    SendMessageA(g, WM_LBUTTONUP, 0, MAKELPARAM(150, 9)); } },
+    { "column drag across", [](HWND g) { HGridCtl* const c = HGFromWindow(g); c->wFlags |= HGC_MOUSEDOWN | HGC_COLDRAG;
+                                         SendMessageA(g, WM_MOUSEMOVE, 0, MAKELPARAM(395, 9)); } },
+    { "to the last",  [](HWND g) { SendMessageA(g, WM_COMMAND, 4189, 0); } },
+    { "to the new",   [](HWND g) { SendMessageA(g, WM_COMMAND, 4190, 0); } },
+    { "fourth button", [](HWND g) { SendMessageA(g, WM_COMMAND, 4191, 0); } },
+    { "enter, last",    [](HWND g) { During(g, WM_COMMAND, 4189); } },
     { "enter, tab",     [](HWND g) { During(g, WM_KEYDOWN, VK_TAB); } },
     { "enter, press",   [](HWND g) { During(g, WM_LBUTTONDOWN, 0, MAKELPARAM(150, 130)); } },
     { "enter, double",  [](HWND g) { During(g, WM_LBUTTONDBLCLK, 0, MAKELPARAM(150, 130)); } },
@@ -124,7 +130,7 @@ constexpr int codes[] = {
     HGN_SETFOCUS, HGN_MOVED, HGN_DBLCLK, HGN_RBUTTONDOWN, HGN_ABOVETOP, HGN_BELOWEND, HGN_NEWROW, HGN_ROWCHANGED,
     HGN_CELLCHANGED, HGN_ROWDELETING, HGN_COLSMOVED, HGN_HEIGHTCHANGED, HGN_WIDTHCHANGED, HGN_MOVING, HGN_EXTENDING,
     HGN_HSCROLLED, HGN_VSCROLLED, HGN_HRANGE, HGN_LAYOUT, HGN_EDITDONE, HGN_EDITFOCUS, HGN_NAVIGATE, HGN_EDITBLUR,
-    HGN_CHILDCHANGE,
+    HGN_CHILDCHANGE, HGN_NAVEXTRA,
 };
 // clang-format on
 

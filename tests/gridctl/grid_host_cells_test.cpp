@@ -16,6 +16,21 @@ LRESULT CALLBACK TellingChild(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPa
     return CallWindowProcA(gChildProc, hwnd, message, wParam, lParam);
 }
 
+HWND gDoomed;     // what goes next
+UINT gDoomMessage; // when the child gets this
+
+// A host whose child ends itself or its grid.
+LRESULT CALLBACK DoomingChild(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == gDoomMessage && gDoomed) {
+        const HWND doomed = gDoomed;
+        gDoomed = nullptr;
+        DestroyWindow(doomed);
+        return 0;
+    }
+    return TellingChild(hwnd, message, wParam, lParam);
+}
+
 // A host that draws a bar as long as the text.
 LRESULT CALLBACK BarHost(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -47,10 +62,17 @@ protected:
         SetText(0, 1, "one");
         StandOn(0, 1);
     }
-    void TellOfFocus()
+    void SubclassChild(WNDPROC proc)
     {
         gChildProc = reinterpret_cast<WNDPROC>(
-            SetWindowLongPtrA(ChildOf(0), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(TellingChild)));
+            SetWindowLongPtrA(ChildOf(0), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(proc)));
+    }
+    void TellOfFocus() { SubclassChild(TellingChild); }
+    // The window goes when the child, which is a DoomingChild, gets the message.
+    static void Doom(HWND window, UINT message)
+    {
+        gDoomed = window;
+        gDoomMessage = message;
     }
     int DrawnBar(int row)
     {
@@ -245,6 +267,48 @@ TEST_F(GridHostCells, OtherChildrenThatGoLeaveTheColumnAlone)
     DestroyWindow(other);
     EXPECT_TRUE(IsWindow(ChildOf(0)));
     EXPECT_EQ(ChildOf(0), Editor());
+}
+
+// A procedure of the host that ends a window
+
+TEST_F(GridHostCells, ChildThatEndsItselfWhileItIsPlacedIsNotShown)
+{
+    for (const UINT message : { UINT{ WM_WINDOWPOSCHANGED }, UINT{ WM_SIZE } }) {
+        MakeCells();
+        SubclassChild(DoomingChild);
+        Doom(ChildOf(0), message);
+        MoveTo(0, 2);
+        EXPECT_EQ(nullptr, gDoomed) << message;
+        EXPECT_EQ(nullptr, Editor()) << message;
+        EXPECT_FALSE(IsFlag(HGC_EDITORSHOWN)) << message;
+        EXPECT_EQ((Cell{ 0, 2 }), Current()) << message;
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(GridHostCells, ChildMayEndTheGridWithAnyOfItsMessages)
+{
+    struct Moment {
+        const char* what;
+        UINT        message;
+    };
+    constexpr Moment moments[] = {
+        { "placed", WM_WINDOWPOSCHANGED },
+        { "sized", WM_SIZE },
+        { "asked for a change", WWM_GETCHANGED },
+        { "read", HEM_GETDATA },
+        { "told that it is stored", WWM_SETCHANGED },
+        { "loaded", HEM_SETDATA },
+    };
+    for (const Moment& moment : moments) {
+        MakeCells();
+        SubclassChild(DoomingChild);
+        TypeText("new");
+        Doom(grid, moment.message);
+        MoveTo(0, 2);
+        EXPECT_EQ(nullptr, gDoomed) << moment.what;
+        EXPECT_FALSE(IsWindow(grid)) << moment.what;
+    }
 }
 
 } // namespace

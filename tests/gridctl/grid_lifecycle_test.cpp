@@ -18,7 +18,34 @@ protected:
         ctl = RecordOf<HGridCtl>(grid);
         return grid;
     }
+    // A grid whose class has a procedure of the host's from the start.
+    HWND Superclass(WNDPROC proc, DWORD style, DWORD exStyle)
+    {
+        constexpr char name[] = "HostsOwnGrid";
+        WNDCLASSA      host = {};
+        GetClassInfoA(GetModuleHandleA(nullptr), "HGrid", &host);
+        host.lpfnWndProc = proc;
+        host.lpszClassName = name;
+        host.hInstance = GetModuleHandleA(nullptr);
+        RegisterClassA(&host);
+        const HWND window = CreateWindowExA(exStyle, name, "", WS_CHILD | style, 0, 0, 300, 200, parent.hwnd(), nullptr,
+                                            host.hInstance, nullptr);
+        UnregisterClassA(name, host.hInstance);
+        return window;
+    }
 };
+
+int gChildrenToEnd; // so many children later the grid goes
+
+// A host whose procedure hears of the grid's children as the system tells of them.
+LRESULT CALLBACK EndingHost(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE && --gChildrenToEnd == 0) {
+        DestroyWindow(hwnd);
+        return 0;
+    }
+    return HGridWnd(hwnd, message, wParam, lParam);
+}
 
 // A definition file in the current folder for as long as a test runs.
 class DefinitionFile {
@@ -136,6 +163,31 @@ TEST_F(GridLifecycle, EachFailedAllocationFailsCleanlyOrLeavesAUsableWindow)
             DestroyWindow(window);
         }
         EXPECT_EQ(before, LiveBlocks()) << "allocation " << each.Number();
+    }
+}
+
+TEST_F(GridLifecycle, ParentMayEndTheGridWhenAskedForItsFont)
+{
+    const int before = LiveBlocks();
+    parent.OnMessage(WM_GETFONT, [&](WPARAM, LPARAM) {
+        DestroyWindow(GetWindow(parent.hwnd(), GW_CHILD));
+        return 0;
+    });
+    EXPECT_EQ(nullptr, Make("", WS_CHILD | HGS_NAVIGATOR));
+    EXPECT_EQ(nullptr, GetWindow(parent.hwnd(), GW_CHILD));
+    EXPECT_EQ(before, LiveBlocks());
+}
+
+TEST_F(GridLifecycle, HostMayEndTheGridWhenToldOfAnyOfItsChildren)
+{
+    constexpr int children = 5;
+    const int     before = LiveBlocks();
+    for (int last = 1; last <= children; ++last) {
+        gChildrenToEnd = last;
+        grid = Superclass(EndingHost, HGS_NAVIGATOR, HGX_EXTRABUTTON);
+        EXPECT_EQ(nullptr, grid) << last;
+        EXPECT_EQ(0, gChildrenToEnd) << last;
+        EXPECT_EQ(before, LiveBlocks()) << last;
     }
 }
 

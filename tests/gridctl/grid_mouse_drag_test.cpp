@@ -35,6 +35,7 @@ void ReleaseShift()
 
 constexpr UINT_PTR takeFocus = 1;
 constexpr UINT_PTR liftButton = 2;
+constexpr UINT_PTR takeMouse = 3;
 bool gWasDragging; // when the button came up
 
 void CALLBACK OnTimer(HWND grid, UINT, UINT_PTR id, DWORD)
@@ -43,6 +44,9 @@ void CALLBACK OnTimer(HWND grid, UINT, UINT_PTR id, DWORD)
     if (id == takeFocus) {
         SetFocus(GetParent(grid));
         return;
+    }
+    if (id == takeMouse) {
+        SetCapture(GetParent(grid));
     }
     gWasDragging = (SendMessageA(grid, HGM_GETFLAGS, 0, 0) & HGC_COLDRAG) != 0;
     LiftButton();
@@ -290,6 +294,81 @@ TEST_F(GridMouseDrag, ColumnDragGoesOnWithoutTheFocus)
     ReleaseShift();
     EXPECT_TRUE(gWasDragging);
     ExpectDragIsOver();
+}
+
+// Another window that takes the mouse meanwhile gets the button's end.
+TEST_F(GridMouseDrag, ColumnDragIsOverWhenTheButtonComesUpForAnotherWindow)
+{
+    MakeCells(HGS_ROWHEADERS | HGS_COLHEADERS | HGS_COLMAP);
+    ClickAt(grid, 60, 10);
+    Forget();
+    gWasDragging = false;
+    SetTimer(grid, takeMouse, 700, OnTimer);
+    HoldShift();
+    PressButton(grid, 60, 10);
+    ReleaseShift();
+    ReleaseCapture();
+    EXPECT_TRUE(gWasDragging);
+    EXPECT_FALSE(IsFlag(HGC_COLDRAG | HGC_XORLINE));
+    EXPECT_EQ(0, parent.Count(HGN_COLSMOVED));
+    ExpectDragIsOver();
+}
+
+TEST_F(GridMouseDrag, SelectionDragIsOverWhenTheButtonComesUpForAnotherWindow)
+{
+    MakeCells();
+    PressButton(grid, 150, 90);
+    When(HGN_MOVED, [&] { return Current().row >= 20; }, [&] {
+        SetCapture(parent.hwnd());
+        LiftButton();
+    });
+    MoveMouse(grid, 150, 200 + outside);
+    ReleaseCapture();
+    ExpectDragIsOver();
+}
+
+// A source's rows above those that are loaded
+
+class GridSourceDrag : public GridEditing {
+protected:
+    ~GridSourceDrag() override { ReleaseCapture(); }
+    void PressFarDown()
+    {
+        MakeSourceGrid();
+        Send(grid, HGM_SETTOPRECORD, 500);
+        Send(grid, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(60, 90));
+        top = TopRecord();
+        ASSERT_EQ(500, top);
+        ASSERT_EQ(503, CurrentRecord());
+        ASSERT_GT(+ctl->lRowBase, 0);
+        Forget();
+    }
+    void DragAbove() { Send(grid, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(60, 5)); }
+
+    LONG top = 0;
+};
+
+TEST_F(GridSourceDrag, AboveThePageTheSelectionGoesBackThroughTheRecords)
+{
+    PressFarDown();
+    for (int i = 0; i < 30; ++i) {
+        const LONG before = TopRecord();
+        DragAbove();
+        ASSERT_LT(CurrentRecord(), before);
+        ASSERT_GE(CurrentRecord(), before - 2);
+        ASSERT_EQ(CurrentRecord(), TopRecord());
+        ASSERT_EQ(0, Current().col) << "no whole column is selected";
+    }
+    ExpectRowsAreRecords();
+}
+
+TEST_F(GridSourceDrag, HostMayEndTheGridWhenTheViewGoesBack)
+{
+    PressFarDown();
+    parent.On(HGN_VSCROLLED, [&] { DestroyWindow(grid); });
+    DragAbove();
+    parent.On(HGN_VSCROLLED, nullptr);
+    EXPECT_FALSE(IsWindow(grid));
 }
 
 } // namespace

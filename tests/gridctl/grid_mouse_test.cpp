@@ -286,6 +286,27 @@ TEST_F(GridMouse, ShiftOnASelectedColumnStartsADragWhereColumnsCanBeMoved)
     }
 }
 
+TEST_F(GridMouse, ShiftCountsAsItWasWhenTheButtonWentDown)
+{
+    MakeCells(plainStyle | HGS_COLMAP);
+    ClickCell(150, 10);
+    SetFocus(parent.hwnd());
+    parent.ClearCounts();
+    SetKeys(pressed, 0);
+    parent.On(HGN_SETFOCUS, [&] { SetKeys(0, 0); });
+    bool dragged = false;
+    parent.OnMessage(WM_APP, [&](WPARAM, LPARAM) {
+        dragged = (ctl->wFlags & HGC_COLDRAG) != 0;
+        return 0;
+    });
+    PostMessageA(parent.hwnd(), WM_APP, 0, 0);
+    PostMessageA(grid, WM_LBUTTONUP, 0, MAKELPARAM(150, 10));
+    Down(150, 10);
+    PumpPending();
+    EXPECT_EQ(1, parent.Count(HGN_SETFOCUS));
+    EXPECT_TRUE(dragged);
+}
+
 TEST_F(GridMouse, ShiftOnAColumnThatIsNotSelectedStartsNoDrag)
 {
     MakeCells(plainStyle | HGS_COLMAP);
@@ -367,6 +388,25 @@ TEST_F(GridMouse, DroppedColumnTakesTheBandOfItsTarget)
     EXPECT_EQ(1, HGGetField(ctl->pData, 3)->nBand);
 }
 
+TEST_F(GridMouse, ColumnDroppedOnTheRowHeadersTakesTheBandByTheHeightOfTheMouse)
+{
+    struct Case {
+        int y;
+        int band;
+    };
+    for (const Case& c : { Case{ 10, 0 }, Case{ 30, 1 }, Case{ 90, 0 }, Case{ -30, 0 } }) {
+        MakeCells(plainStyle | HGS_COLMAP);
+        Send(grid, HGM_SETBANDS, 0, 2);
+        HGGetField(ctl->pData, 3)->nBand = 1;
+        HGGetField(ctl->pData, 4)->nBand = 1;
+        StartColumnDrag(2, 2);
+        Up(20, c.y);
+        EXPECT_EQ("CABDE", Titles()) << "at " << c.y;
+        EXPECT_EQ(c.band, HGGetField(ctl->pData, 0)->nBand) << "at " << c.y;
+        DestroyWindow(grid);
+    }
+}
+
 TEST_F(GridMouse, DropPointIsShownAsAGuideAtTheColumnsEdge)
 {
     MakeCells(plainStyle | HGS_COLMAP);
@@ -390,6 +430,82 @@ TEST_F(GridMouse, ColumnDragScrollsAtTheEdges)
     Drag(45, 10);
     EXPECT_EQ(0, +ctl->nHScrollPos);
     Up(150, 10);
+}
+
+TEST_F(GridMouse, DragOfAFixedColumnShowsTheFixedOneItIsOver)
+{
+    MakeCells(plainStyle | HGS_COLMAP, 3, 2);
+    StartColumnDrag(0, 0);
+    Drag(130, 10);
+    EXPECT_TRUE(ctl->wFlags & HGC_XORLINE);
+    EXPECT_EQ(200, gGuideLine);
+    Up(60, 10);
+}
+
+TEST_F(GridMouse, ColumnDragScrollsByTheResolutionOfTheScreenAlone)
+{
+    const int kept = nDpiX;
+    for (const int scaling : { 0, 1 }) {
+        MakeGrid(GridOf({ Text(), Text(), Text(), Text(), Text(), Text(), Text(), Text() }, plainStyle | HGS_COLMAP), 3);
+        StartColumnDrag(1, 1);
+        SetGridAppDPIScaling(scaling);
+        nDpiX = 144;
+        Drag(390, 10);
+        nDpiX = kept;
+        EXPECT_EQ(30, +ctl->nHScrollPos) << scaling;
+        Up(150, 10);
+        DestroyWindow(grid);
+    }
+    SetGridAppDPIScaling(1);
+}
+
+TEST_F(GridMouse, ColumnDragThatEndedWhileItScrolledShowsNoGuide)
+{
+    MakeGrid(GridOf({ Text(), Text(), Text(), Text(), Text(), Text(), Text(), Text() }, plainStyle | HGS_COLMAP), 3);
+    StartColumnDrag(1, 1);
+    gGuideLine = -1;
+    parent.On(HGN_HSCROLLED, [&] { Up(150, 10); });
+    Drag(390, 10);
+    parent.On(HGN_HSCROLLED, nullptr);
+    EXPECT_EQ(1, parent.Count(HGN_HSCROLLED));
+    EXPECT_FALSE(ctl->wFlags & (HGC_MOUSEDOWN | HGC_COLDRAG | HGC_XORLINE));
+    EXPECT_EQ(-1, gGuideLine);
+}
+
+// The button came up over a window that had taken the mouse.
+TEST_F(GridMouse, PressAfterALostColumnDragMovesNoColumn)
+{
+    MakeCells(plainStyle | HGS_COLMAP);
+    StartColumnDrag(0, 0);
+    Down(310, 10);
+    EXPECT_FALSE(ctl->wFlags & HGC_COLDRAG);
+    Up(230, 10);
+    EXPECT_EQ("ABCDE", Titles());
+    EXPECT_EQ(0, parent.Count(HGN_COLSMOVED));
+    EXPECT_CELL(3, -1);
+}
+
+TEST_F(GridMouse, PressAfterALostDragRemovesItsGuide)
+{
+    MakeCells();
+    StartSizeDrag(3);
+    Drag(222, 50);
+    ReleaseCapture();
+    UpdateWindow(grid);
+    StartSizeDrag(3);
+    EXPECT_FALSE(ctl->wFlags & HGC_XORLINE);
+    EXPECT_TRUE(IsInvalid());
+    Up(222, 50);
+}
+
+TEST_F(GridMouse, SecondButtonLeavesTheGuideOfADrag)
+{
+    MakeCells();
+    StartSizeDrag(3);
+    Drag(222, 50);
+    Send(grid, WM_RBUTTONDOWN, MK_LBUTTON | MK_RBUTTON, MAKELPARAM(222, 50));
+    EXPECT_TRUE(ctl->wFlags & HGC_XORLINE);
+    Up(222, 50);
 }
 
 // Sizes
@@ -532,6 +648,40 @@ TEST_F(GridMouse, SizeDragShowsAGuideAndConfinesTheMouse)
     Drag(222, 77);
     EXPECT_EQ(77, gGuideLine);
     Up(222, 77);
+}
+
+TEST_F(GridMouse, MouseIsConfinedToWhatTheDraggedSizeAllows)
+{
+    struct Zone {
+        int  zone;
+        int  bands;
+        RECT limits; // in the client area; -1: as far as the window reaches
+    };
+    // Rows are at least 12 high. Column headers begin at the top, cells below two header bands at 40.
+    constexpr Zone zones[] = {
+        { -1, 1, { 0, 12 - 3, 400, 200 } },
+        { -1, 2, { 0, 2 * (12 - 3), 400, 200 } },
+        { -2, 1, { 0, 20 + 12, 400, 200 } },
+        { -3, 2, { 0, 40 + 40 + 2 * 12, 400, 200 } },
+        { 1, 1, { 0 + 15, 0, 400, 200 } },
+        { 2, 1, { 40 + 15, 0, 400, 200 } },
+        { 4, 1, { 200 + 15, 0, 400, 200 } },
+    };
+    for (const Zone& row : zones) {
+        MakeCells();
+        Send(grid, HGM_SETBANDS, 0, row.bands);
+        Send(grid, HGM_REFRESH, 1);
+        ctl->pData->nMinRowHeight = 12;
+        StartSizeDrag(row.zone);
+        RECT clip = {};
+        GetClipCursor(&clip);
+        MapWindowPoints(nullptr, grid, reinterpret_cast<POINT*>(&clip), 2);
+        EXPECT_TRUE(EqualRect(&row.limits, &clip))
+            << "zone " << row.zone << ", bands " << row.bands << ": " << clip.left << ", " << clip.top << ", "
+            << clip.right << ", " << clip.bottom;
+        Up(300, 150);
+        DestroyWindow(grid);
+    }
 }
 
 TEST_F(GridMouse, SizeDragLeavesTheCurrentCell)

@@ -34,6 +34,14 @@ int CALLBACK PaintPart(int part, HDC dc, RECT* rect, int enabled, int pressed, i
     return gPartAnswer;
 }
 
+std::vector<int> gOtherParts;
+
+int CALLBACK PaintOtherPart(int part, HDC, RECT*, int, int, int)
+{
+    gOtherParts.push_back(part);
+    return 0;
+}
+
 WNDPROC gParentProc;
 
 LRESULT CALLBACK RefusingParent(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
@@ -187,6 +195,15 @@ TEST_F(GridNavigator, FourthButtonStandsBelowTheOneToTheLast)
     EXPECT_EQ(Range(200 - 3 * Step(), 200 - 2 * Step()), StripPlace(ctl->hNavLast));
     EXPECT_EQ(Range(200 - 2 * Step(), 200 - Step()), StripPlace(ctl->hNavExtra));
     EXPECT_EQ(Range(200 - Step(), 200), StripPlace(ctl->hNavNew));
+}
+
+TEST_F(GridNavigator, FourthButtonStandsAtTheBottomWithoutTheNewRecords)
+{
+    Make(0, HGX_EXTRABUTTON);
+    EXPECT_EQ(Range(Step(), 200 - 2 * Step()), StripPlace(ctl->hNavScroll));
+    EXPECT_EQ(Range(200 - 2 * Step(), 200 - Step()), StripPlace(ctl->hNavLast));
+    EXPECT_EQ(Range(200 - Step(), 200), StripPlace(ctl->hNavExtra));
+    EXPECT_FALSE(IsWindowVisible(ctl->hNavNew));
 }
 
 TEST_F(GridNavigator, LowWindowSharesItsHeight)
@@ -481,6 +498,23 @@ TEST_F(GridNavigatorParts, PainterThatPaintsNothingLeavesTheButtonToItself)
     SetGridDrawPartFnc(PaintPart);
     EXPECT_EQ(1u, PaintedBy(firstId).size());
     EXPECT_TRUE(SamePixels(own, ShotOf(ctl->hNavFirst)));
+}
+
+TEST_F(GridNavigatorParts, LastPainterIsThatOfAllGridsAndCombos)
+{
+    Make();
+    const HWND combo = Create("HComb", "%100%ss", HCS_DROPDOWN | HCS_EDIT, 101, { 10, 230, 120, 24 });
+    PumpPending();
+    gPartAnswer = 0;
+    SetGridDrawPartFnc(PaintPart);
+    SetGridDrawPartFnc(PaintOtherPart);
+    gOtherParts.clear();
+    EXPECT_TRUE(PaintedBy(firstId).empty());
+    EXPECT_EQ(std::vector<int>{ 5 }, gOtherParts);
+    gOtherParts.clear();
+    RedrawWindow(combo, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    EXPECT_FALSE(gOtherParts.empty());
+    EXPECT_TRUE(gParts.empty());
 }
 
 } // namespace

@@ -41,6 +41,7 @@ protected:
     void ExpectZoneAndPointer(int zone, int cursor, const char* what)
     {
         EXPECT_EQ(zone, gSizeZone) << what;
+        ASSERT_NE(nullptr, CursorOf(cursor)) << what;
         EXPECT_EQ(CursorOf(cursor), GetCursor()) << what;
     }
     int     WidthOf(int col) { return HGGetField(ctl->pData, col)->nWidth; }
@@ -66,6 +67,18 @@ TEST_F(GridSizeDrag, PointerShowsWhatWouldBeDragged)
     for (const Place& place : places) {
         MoveMouse(grid, place.x, place.y);
         ExpectZoneAndPointer(place.zone, place.cursor, place.what);
+    }
+}
+
+TEST_F(GridSizeDrag, PointersDiffer)
+{
+    constexpr int first = 4301;
+    constexpr int last = 4304;
+    for (int id = first; id <= last; ++id) {
+        EXPECT_NE(nullptr, CursorOf(id)) << id;
+        for (int other = first; other < id; ++other) {
+            EXPECT_NE(CursorOf(other), CursorOf(id)) << id;
+        }
     }
 }
 
@@ -219,6 +232,29 @@ TEST_F(GridSizeDrag, HostThatDestroysTheGridWhenToldEndsTheDrag)
         ReleaseButton(grid, 230, 8);
         parent.On(code, nullptr);
         EXPECT_FALSE(IsWindow(grid)) << code;
+    }
+}
+
+TEST_F(GridSizeDrag, GridThatGoesInTheMiddleOfADragFreesTheMouse)
+{
+    RECT before = {};
+    GetClipCursor(&before);
+    for (const bool moved : { false, true }) {
+        MakeCells();
+        MoveMouse(grid, 200, 8);
+        PressButton(grid, 200, 8);
+        if (moved) {
+            MoveMouse(grid, 230, 8);
+        }
+        RECT confined = {};
+        GetClipCursor(&confined);
+        ASSERT_FALSE(EqualRect(&before, &confined)) << moved;
+        DestroyWindow(grid);
+        RECT after = {};
+        GetClipCursor(&after);
+        EXPECT_TRUE(EqualRect(&before, &after)) << moved;
+        EXPECT_EQ(0, gSizeZone) << moved;
+        ReleaseButton(parent.hwnd(), 5, 5);
     }
 }
 

@@ -30,6 +30,11 @@ LRESULT CALLBACK HostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
     return 1;
 }
 
+LRESULT CALLBACK SilentHost(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return message == askTipText ? 1 : CallWindowProcA(gGridProc, hwnd, message, wParam, lParam);
+}
+
 LRESULT CALLBACK DestroyingHost(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == askTipText) {
@@ -86,6 +91,7 @@ TEST_F(GridTips, WindowHasItsStyleAndTheButtonsInOrder)
         EXPECT_EQ(IdOf(expected[i]), info.uId) << i;
         EXPECT_EQ(grid, info.hwnd) << i;
         EXPECT_EQ(static_cast<UINT>(TTF_IDISHWND | TTF_SUBCLASS), info.uFlags) << i;
+        EXPECT_EQ(reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(grid, GWLP_HINSTANCE)), info.hinst) << i;
         EXPECT_TRUE(IsRectEmpty(&info.rect)) << i;
     }
 }
@@ -121,6 +127,13 @@ TEST_F(GridTips, WithoutAnAnswerTheTextStays)
     Subclass(HostProc);
     EXPECT_EQ("old", Request(IdOf(ctl->hNavLast), TTF_IDISHWND));
     EXPECT_EQ(1, gAsked);
+}
+
+TEST_F(GridTips, AnswerWithoutATextIsAnEmptyOne)
+{
+    Make();
+    Subclass(SilentHost);
+    EXPECT_EQ("", Request(4188, 0));
 }
 
 TEST_F(GridTips, TextIsCutToWhatARequestHolds)
