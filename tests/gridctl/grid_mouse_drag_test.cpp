@@ -13,26 +13,6 @@ void LiftButton()
     SendInput(1, &input, sizeof input);
 }
 
-void SendShift(DWORD flags)
-{
-    INPUT input = {};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = VK_SHIFT;
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-    PumpPending();
-}
-
-void HoldShift()
-{
-    SendShift(0);
-}
-
-void ReleaseShift()
-{
-    SendShift(KEYEVENTF_KEYUP);
-}
-
 constexpr UINT_PTR takeFocus = 1;
 constexpr UINT_PTR liftButton = 2;
 constexpr UINT_PTR takeMouse = 3;
@@ -82,7 +62,6 @@ protected:
         EXPECT_FALSE(IsFlag(HGC_MOUSEDOWN));
         EXPECT_EQ(nullptr, GetCapture());
     }
-    Cell Anchor() { return UnpackCell(static_cast<DWORD>(Send(grid, HGM_GETANCHOR))); }
 };
 
 TEST_F(GridMouseDrag, SelectionDraggedBelowTheWindowScrollsWhileTheMouseStandsStill)
@@ -289,9 +268,8 @@ TEST_F(GridMouseDrag, ColumnDragGoesOnWithoutTheFocus)
     gWasDragging = false;
     SetTimer(grid, takeFocus, 50, OnTimer);
     SetTimer(grid, liftButton, 700, OnTimer);
-    HoldShift();
-    PressButton(grid, 60, 10);
-    ReleaseShift();
+    PressButton(grid, 60, 10, withShift);
+    ReleaseKey(VK_SHIFT);
     EXPECT_TRUE(gWasDragging);
     ExpectDragIsOver();
 }
@@ -304,9 +282,8 @@ TEST_F(GridMouseDrag, ColumnDragIsOverWhenTheButtonComesUpForAnotherWindow)
     Forget();
     gWasDragging = false;
     SetTimer(grid, takeMouse, 700, OnTimer);
-    HoldShift();
-    PressButton(grid, 60, 10);
-    ReleaseShift();
+    PressButton(grid, 60, 10, withShift);
+    ReleaseKey(VK_SHIFT);
     ReleaseCapture();
     EXPECT_TRUE(gWasDragging);
     EXPECT_FALSE(IsFlag(HGC_COLDRAG | HGC_XORLINE));

@@ -89,6 +89,48 @@ void PutCursor(POINT at)
     SendAll(inputs);
 }
 
+// What the screen's server has to tell of a moved pointer has arrived at the window's thread by then: the server answers
+// a question in turn, and a thread takes in what the server told before it takes in a message.
+void LetPointerSettle(HWND hwnd)
+{
+    const HDC screen = GetDC(nullptr);
+    GetPixel(screen, 0, 0);
+    ReleaseDC(nullptr, screen);
+    PumpPending();
+    constexpr int turns = 3; // a busy thread may take in the first message before it looks at the server
+    constexpr int wait = 5000; // ms
+    for (int i = 0; i < turns; ++i) {
+        DWORD_PTR result = 0;
+        SendMessageTimeoutA(hwnd, WM_NULL, 0, 0, SMTO_NORMAL, wait, &result);
+    }
+}
+
+bool AreDown(unsigned modifiers)
+{
+    for (const ModifierKey& key : modifierKeys) {
+        if ((modifiers & key.modifier) && GetAsyncKeyState(key.vk) >= 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Holds the modifiers for a button that follows over the window: down again if a pointer that moved let go of them.
+void HoldModifiers(HWND hwnd, unsigned modifiers)
+{
+    if (modifiers == withNone) {
+        return;
+    }
+    LetPointerSettle(hwnd);
+    EXPECT_TRUE(PumpUntil([&] {
+        Inputs inputs;
+        AddModifiers(&inputs, modifiers, false);
+        SendAll(inputs);
+        LetPointerSettle(hwnd);
+        return AreDown(modifiers);
+    })) << "the modifiers don't stay down";
+}
+
 // A click near the last one in space and time would count as its double.
 void LetDoubleClickPass(POINT at)
 {
@@ -162,8 +204,8 @@ void PressButton(HWND hwnd, int x, int y, unsigned modifiers)
     const POINT at = OnScreen(hwnd, x, y);
     LetDoubleClickPass(at);
     PutCursor(at);
+    HoldModifiers(hwnd, modifiers);
     Inputs inputs;
-    AddModifiers(&inputs, modifiers, false);
     AddMouse(&inputs, at, MOUSEEVENTF_LEFTDOWN);
     SendAll(inputs);
     NoteClick(at);
@@ -184,8 +226,8 @@ void ClickAt(HWND hwnd, int x, int y, unsigned modifiers)
     const POINT at = OnScreen(hwnd, x, y);
     LetDoubleClickPass(at);
     PutCursor(at);
+    HoldModifiers(hwnd, modifiers);
     Inputs inputs;
-    AddModifiers(&inputs, modifiers, false);
     AddMouse(&inputs, at, MOUSEEVENTF_LEFTDOWN);
     AddMouse(&inputs, at, MOUSEEVENTF_LEFTUP);
     AddModifiers(&inputs, modifiers, true);

@@ -1,6 +1,6 @@
 // Real keyboard and mouse input for window tests, through SendInput. Each call pumps until its input has arrived.
-// Positions are client coordinates of the window. Modifiers go down with their key or button: where the screen is an X
-// server's, a pointer that moves lets go of all that are held.
+// Positions are client coordinates of the window. Modifiers go down with their key, or before their button once the
+// pointer stands there: where the screen is an X server's, a pointer that moves lets go of all that are held.
 #pragma once
 
 #include <windows.h>
