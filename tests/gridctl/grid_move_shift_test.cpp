@@ -24,7 +24,6 @@ protected:
             deed();
         });
     }
-    Cell Anchor() { return UnpackCell(static_cast<DWORD>(Send(grid, HGM_GETANCHOR))); }
 };
 
 constexpr int toldCodes[] = { HGN_MOVED, HGN_ROWCHANGED };

@@ -17,7 +17,6 @@ protected:
     }
     void Extend(int col, int row) { Send(grid, HGM_SETCURSOR, 1, static_cast<LPARAM>(PackCell(col, row))); }
     void Key(UINT vk, bool shift = false, bool ctrl = false) { EXPECT_EQ(1, HGKeyNavigate(ctl, vk, shift, ctrl)); }
-    Cell Anchor() { return UnpackCell(static_cast<DWORD>(Send(grid, HGM_GETANCHOR))); }
     bool IsRange() { return (ctl->wFlags & HGC_RANGE) != 0; }
     void HideColumns(std::initializer_list<int> cols)
     {
@@ -26,8 +25,6 @@ protected:
         }
     }
 };
-
-#define EXPECT_CELL(c, r) EXPECT_EQ((Cell{ c, r }), Current())
 
 TEST_F(GridMove, MoveToAnotherRowIsToldInItsOrder)
 {

@@ -78,9 +78,12 @@ protected:
     WORD RowFlags(int row) { return HGNodeFlags(HGRowNode(ctl->pData, row)); }
     WORD CellFlags(int col, int row) { return LoadAs<WORD>(HGCellFlagsPtr(ctl->pData, col, row)); }
     Cell Current() { return UnpackCell(static_cast<DWORD>(Send(grid, HGM_GETCURSOR))); }
+    Cell Anchor() { return UnpackCell(static_cast<DWORD>(Send(grid, HGM_GETANCHOR))); }
     void MoveTo(int col, int row) { Send(grid, HGM_SETCURSOR, 0, static_cast<LPARAM>(PackCell(col, row))); }
     bool IsInvalid() { return GetUpdateRect(grid, nullptr, FALSE) != 0; }
 
     HWND      grid = nullptr;
     HGridCtl* ctl = nullptr;
 };
+
+#define EXPECT_CELL(c, r) EXPECT_EQ((Cell{ c, r }), Current())
