@@ -4,6 +4,7 @@
 #include "button/button_control.h"
 #include "button/button_layout.h"
 #include "dialog/message_table.h"
+#include "dialog/record_bits.h"
 
 #include <windows.h>
 
@@ -23,18 +24,6 @@ struct MemoryDC {
 
 // Questions about a button's record
 
-inline bool HasStyle(const HButtCtl* ctl, DWORD bits)
-{
-    return (ctl->dwStyle & bits) != 0;
-}
-inline bool HasFlag(const HButtCtl* ctl, WORD bits)
-{
-    return (ctl->wFlags & bits) != 0;
-}
-inline void SetFlag(HButtCtl* ctl, WORD bits, bool on)
-{
-    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
-}
 inline DWORD KindOf(const HButtCtl* ctl)
 {
     return ctl->dwStyle & HBS_KINDMASK;

@@ -3,22 +3,11 @@
 
 #include "combo/combo_control.h"
 #include "dialog/message_table.h"
+#include "dialog/record_bits.h"
 
 // A bit of wFlags beside the ones that grids know.
 constexpr WORD HCF_ENDING = 0x0010; // the window is being destroyed
 
-inline bool HasStyle(const HCombCtl* ctl, DWORD bits)
-{
-    return (ctl->dwStyle & bits) != 0;
-}
-inline bool HasFlag(const HCombCtl* ctl, WORD bits)
-{
-    return (ctl->wFlags & bits) != 0;
-}
-inline void SetFlag(HCombCtl* ctl, WORD bits, bool on)
-{
-    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
-}
 inline LRESULT ToChild(const HCombCtl* ctl, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
 {
     return SendMessageA(ctl->hChild, message, wParam, lParam);

@@ -58,6 +58,17 @@ RECT HoldTo(SIZE screen, RECT rect)
     return rect;
 }
 
+void MapCorners(HWND hwnd, RECT* rect, BOOL(WINAPI* map)(HWND, POINT*))
+{
+    if (!rect) {
+        return;
+    }
+    POINT corners[] = { { rect->left, rect->top }, { rect->right, rect->bottom } };
+    map(hwnd, &corners[0]);
+    map(hwnd, &corners[1]);
+    *rect = { corners[0].x, corners[0].y, corners[1].x, corners[1].y };
+}
+
 } // namespace
 
 BOOL WINAPI CenterWindow(HWND hwnd, int yOffset)
@@ -101,22 +112,10 @@ int WINAPI WindowWidth(HWND hwnd)
 
 void WINAPI RStoC(HWND hwnd, RECT* rect)
 {
-    if (!rect) {
-        return;
-    }
-    POINT corners[] = { { rect->left, rect->top }, { rect->right, rect->bottom } };
-    ScreenToClient(hwnd, &corners[0]);
-    ScreenToClient(hwnd, &corners[1]);
-    *rect = { corners[0].x, corners[0].y, corners[1].x, corners[1].y };
+    MapCorners(hwnd, rect, ScreenToClient);
 }
 
 void WINAPI RCtoS(HWND hwnd, RECT* rect)
 {
-    if (!rect) {
-        return;
-    }
-    POINT corners[] = { { rect->left, rect->top }, { rect->right, rect->bottom } };
-    ClientToScreen(hwnd, &corners[0]);
-    ClientToScreen(hwnd, &corners[1]);
-    *rect = { corners[0].x, corners[0].y, corners[1].x, corners[1].y };
+    MapCorners(hwnd, rect, ClientToScreen);
 }

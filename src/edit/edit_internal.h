@@ -2,24 +2,13 @@
 #pragma once
 
 #include "dialog/message_table.h"
+#include "dialog/record_bits.h"
 #include "edit/edit_control.h"
 #include "edit/edit_math.h"
 #include "foundation/gdi_guards.h"
 
 #include <cstring>
 
-inline bool HasStyle(const HEditCtl* ctl, DWORD bits)
-{
-    return (ctl->dwStyle & bits) != 0;
-}
-inline bool HasFlag(const HEditCtl* ctl, WORD bits)
-{
-    return (ctl->wFlags & bits) != 0;
-}
-inline void SetFlag(HEditCtl* ctl, WORD bits, bool on)
-{
-    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
-}
 inline bool IsFocused(const HEditCtl* ctl)
 {
     return HasFlag(ctl, HEF_FOCUS);

@@ -2,6 +2,7 @@
 // Records, messages and exports are in widgets.h; the row model is in griddata.
 #pragma once
 
+#include "dialog/record_bits.h"
 #include "griddata/cell_access.h"
 #include "griddata/grid_model.h"
 #include "griddata/grid_services.h"
@@ -54,14 +55,6 @@ inline Cell AnchorCell(const HGridCtl* ctl)
 inline bool HasStyle(const HGridCtl* ctl, DWORD bits)
 {
     return (ctl->pData->dwStyle & bits) != 0;
-}
-inline bool HasFlag(const HGridCtl* ctl, WORD bits)
-{
-    return (ctl->wFlags & bits) != 0;
-}
-inline void SetFlag(HGridCtl* ctl, WORD bits, bool on)
-{
-    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
 }
 inline int PartialRow(const HGridCtl* ctl)
 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/message_table.h"
+#include "dialog/record_bits.h"
 #include "foundation/item_list.h"
 #include "list/list_control.h"
 
@@ -16,18 +17,6 @@ struct ListBlock {
 inline bool& HadFocus(HListCtl* ctl)
 {
     return reinterpret_cast<ListBlock*>(ctl)->hadFocus;
-}
-inline bool HasStyle(const HListCtl* ctl, DWORD bits)
-{
-    return (ctl->dwStyle & bits) != 0;
-}
-inline bool HasFlag(const HListCtl* ctl, WORD bits)
-{
-    return (ctl->wFlags & bits) != 0;
-}
-inline void SetFlag(HListCtl* ctl, WORD bits, bool on)
-{
-    ctl->wFlags = static_cast<WORD>(on ? ctl->wFlags | bits : ctl->wFlags & ~bits);
 }
 // The last item, or -1.
 inline int LastItem(const HListCtl* ctl)

@@ -1,31 +1,23 @@
 // Buttons of the navigator's ids, which the host may paint.
 #include "button_window.h"
 
+#include "support/part_calls.h"
 #include "support/pixels.h"
 
 namespace {
 
 constexpr COLORREF black = RGB(0, 0, 0);
 
-struct PartCall {
-    int  part;
-    RECT rect;
-    int  enabled;
-    int  pressed;
-    int  reserved;
-};
-std::vector<PartCall> gParts;
-int                   gPartAnswer;
-HWND                  gPartVictim;
+HWND gPartVictim;
 
-int CALLBACK NotePart(int part, HDC hdc, RECT* rect, int enabled, int pressed, int reserved)
+int CALLBACK PaintPart(int part, HDC hdc, RECT* rect, int enabled, int pressed, int reserved)
 {
-    gParts.push_back({ part, *rect, enabled, pressed, reserved });
+    const int answer = NotePart(part, rect, enabled, pressed, reserved);
     FillRect(hdc, rect, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
     if (gPartVictim) {
         DestroyWindow(gPartVictim);
     }
-    return gPartAnswer;
+    return answer;
 }
 
 class ButtonParts : public ButtonWindow {
@@ -35,7 +27,7 @@ protected:
         gParts.clear();
         gPartAnswer = 1;
         gPartVictim = nullptr;
-        SetGridDrawPartFnc(NotePart);
+        SetGridDrawPartFnc(PaintPart);
     }
     ~ButtonParts() override { SetGridDrawPartFnc(nullptr); }
     void MakePart(int id)

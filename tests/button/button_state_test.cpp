@@ -433,25 +433,27 @@ TEST_F(ButtonState, ParentMaySendTheEndInEachNotification)
     }
 }
 
+// What the parent is asked while a button paints.
+struct PaintQuestion {
+    UINT  message;
+    DWORD style;
+};
+constexpr PaintQuestion paintQuestions[] = {
+    { WM_CTLCOLORBTN, HBS_PUSH | HBS_NOFACE },
+    { WM_CTLCOLOREDIT, HBS_CHECK | HBS_NOFACE | HBS_AUTO },
+    { WM_DRAWITEM, HBS_PUSH | HBS_OWNERDRAW },
+    { WM_DRAWITEM, HBS_PUSH | HBS_OWNERDRAW | HBS_TRANSPARENT },
+};
+
 TEST_F(ButtonState, ParentMaySendTheEndWhileTheButtonIsPainted)
 {
-    struct Row {
-        UINT  asked;
-        DWORD style;
-    };
-    const Row rows[] = {
-        { WM_CTLCOLORBTN, HBS_PUSH | HBS_NOFACE },
-        { WM_CTLCOLOREDIT, HBS_CHECK | HBS_NOFACE | HBS_AUTO },
-        { WM_DRAWITEM, HBS_PUSH | HBS_OWNERDRAW },
-        { WM_DRAWITEM, HBS_PUSH | HBS_OWNERDRAW | HBS_TRANSPARENT },
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.asked << ", " << row.style);
+    for (const PaintQuestion& row : paintQuestions) {
+        SCOPED_TRACE(testing::Message() << row.message << ", " << row.style);
         const int live = LiveBlocks();
         const HDC hdc = GetDC(parent.hwnd());
         for (const bool value : { false, true }) {
             Make("333;x;IM1:IM2", row.style);
-            parent.OnMessage(row.asked, [this](WPARAM, LPARAM) { return Send(WM_DESTROY); });
+            parent.OnMessage(row.message, [this](WPARAM, LPARAM) { return Send(WM_DESTROY); });
             InvalidateRect(button, nullptr, TRUE);
             ASSERT_NE(nullptr, Ctl());
             const RECT rect = { 0, 0, 20, 20 };
@@ -460,7 +462,7 @@ TEST_F(ButtonState, ParentMaySendTheEndWhileTheButtonIsPainted)
             EXPECT_EQ(nullptr, Ctl());
             EXPECT_EQ(live, LiveBlocks());
             EXPECT_EQ(0, Clicks());
-            parent.OnMessage(row.asked, nullptr);
+            parent.OnMessage(row.message, nullptr);
             DestroyButton();
         }
         ReleaseDC(parent.hwnd(), hdc);
@@ -500,33 +502,22 @@ TEST_F(ButtonState, ParentMayDestroyTheButtonWhenTheMouseOrTheSpaceBarLetsGo)
     }
 }
 
-// What may go wrong while a button paints: the message with which the parent is asked.
 TEST_F(ButtonState, ParentMayDestroyTheButtonWhileItIsPainted)
 {
-    struct Row {
-        UINT  asked;
-        DWORD style;
-    };
-    const Row rows[] = {
-        { WM_CTLCOLORBTN, HBS_PUSH | HBS_NOFACE },
-        { WM_CTLCOLOREDIT, HBS_CHECK | HBS_NOFACE | HBS_AUTO },
-        { WM_DRAWITEM, HBS_PUSH | HBS_OWNERDRAW },
-        { WM_DRAWITEM, HBS_PUSH | HBS_OWNERDRAW | HBS_TRANSPARENT },
-    };
     const UINT messages[] = { HBM_CLICK, BM_CLICK, BM_SETSTATE, WM_PAINT };
-    for (const Row& row : rows) {
+    for (const PaintQuestion& row : paintQuestions) {
         for (const UINT message : messages) {
-            SCOPED_TRACE(testing::Message() << row.asked << ", " << row.style << ", " << message);
+            SCOPED_TRACE(testing::Message() << row.message << ", " << row.style << ", " << message);
             Make("x", row.style);
             const HDC hdc = GetDC(parent.hwnd());
-            parent.OnMessage(row.asked, [this](WPARAM, LPARAM) {
+            parent.OnMessage(row.message, [this](WPARAM, LPARAM) {
                 DestroyButton();
                 return LRESULT{ 0 };
             });
             InvalidateRect(button, nullptr, TRUE);
             Send(message, message == WM_PAINT ? reinterpret_cast<WPARAM>(hdc) : 1);
             EXPECT_FALSE(IsWindow(button));
-            parent.OnMessage(row.asked, nullptr);
+            parent.OnMessage(row.message, nullptr);
             ReleaseDC(parent.hwnd(), hdc);
         }
     }

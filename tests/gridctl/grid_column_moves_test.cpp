@@ -13,6 +13,20 @@ protected:
         }
         return text;
     }
+    // Whether a press drags columns; the button comes up inside its loop.
+    bool DragsWhilePressed(int x, int y)
+    {
+        bool dragged = false;
+        parent.OnMessage(WM_APP, [&](WPARAM, LPARAM) {
+            dragged = (ctl->wFlags & HGC_COLDRAG) != 0;
+            return 0;
+        });
+        PostMessageA(parent.hwnd(), WM_APP, 0, 0);
+        PostMessageA(grid, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+        Down(x, y);
+        PumpPending();
+        return dragged;
+    }
     // A drag of columns without its modal loop: as TimedScroll would find it.
     void StartColumnDrag(int lo, int hi)
     {
@@ -28,15 +42,7 @@ TEST_F(GridColumnMoves, ShiftOnASelectedColumnStartsADragWhereColumnsCanBeMoved)
         MakeCells(movable ? plainStyle | HGS_COLMAP : plainStyle);
         ClickCell(150, 10);
         SetKeys(pressed, 0);
-        bool dragged = false;
-        parent.OnMessage(WM_APP, [&](WPARAM, LPARAM) {
-            dragged = (ctl->wFlags & HGC_COLDRAG) != 0;
-            return 0;
-        });
-        PostMessageA(parent.hwnd(), WM_APP, 0, 0);
-        PostMessageA(grid, WM_LBUTTONUP, 0, MAKELPARAM(150, 10));
-        Down(150, 10);
-        PumpPending();
+        const bool dragged = DragsWhilePressed(150, 10);
         EXPECT_EQ(movable, dragged);
         EXPECT_FALSE(ctl->wFlags & (HGC_COLDRAG | HGC_MOUSEDOWN)) << "the drag is over";
         SetKeys(0, 0);
@@ -52,15 +58,7 @@ TEST_F(GridColumnMoves, ShiftCountsAsItWasWhenTheButtonWentDown)
     parent.ClearCounts();
     SetKeys(pressed, 0);
     parent.On(HGN_SETFOCUS, [&] { SetKeys(0, 0); });
-    bool dragged = false;
-    parent.OnMessage(WM_APP, [&](WPARAM, LPARAM) {
-        dragged = (ctl->wFlags & HGC_COLDRAG) != 0;
-        return 0;
-    });
-    PostMessageA(parent.hwnd(), WM_APP, 0, 0);
-    PostMessageA(grid, WM_LBUTTONUP, 0, MAKELPARAM(150, 10));
-    Down(150, 10);
-    PumpPending();
+    const bool dragged = DragsWhilePressed(150, 10);
     EXPECT_EQ(1, parent.Count(HGN_SETFOCUS));
     EXPECT_TRUE(dragged);
 }

@@ -2,6 +2,7 @@
 #include "gridctl/record_source.h"
 
 #include "button/button_control.h"
+#include "support/part_calls.h"
 #include "support/pixels.h"
 
 #include <string>
@@ -14,24 +15,13 @@ constexpr int   lastId = 4189;
 constexpr int   newId = 4190;
 constexpr int   extraId = 4191;
 
-// What the part painter was asked for.
-struct PartCall {
-    int  part;
-    RECT rect;
-    int  enabled;
-    int  pressed;
-    int  reserved;
-};
-std::vector<PartCall> gParts;
-int                   gPartAnswer;
-
 int CALLBACK PaintPart(int part, HDC dc, RECT* rect, int enabled, int pressed, int reserved)
 {
-    gParts.push_back({ part, *rect, enabled, pressed, reserved });
-    if (gPartAnswer) {
+    const int answer = NotePart(part, rect, enabled, pressed, reserved);
+    if (answer) {
         SetPixel(dc, 3, 3, RGB(1, 2, 3));
     }
-    return gPartAnswer;
+    return answer;
 }
 
 std::vector<int> gOtherParts;
