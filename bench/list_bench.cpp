@@ -9,10 +9,11 @@ constexpr int listHeight = 400;
 constexpr int listRounds = 8;
 constexpr int loadRounds = 3;
 constexpr int findCount = 10;
-constexpr int paintTurns = 5;
+constexpr int paintTurns = 60;
 constexpr int paintsATurn = 10;
 constexpr int lineTurns = 10;
 constexpr int linesATurn = 40;
+constexpr int pagePasses = 3;
 constexpr int pageTurns = 10;
 constexpr int pagesATurn = 29; // with all turns nearly all items, and never the last page
 constexpr int textSize = 32;
@@ -127,19 +128,6 @@ double FindLast(const ListKind& kind, HWND list)
     return found == listItemCount - 1 ? (Milliseconds() - start) / findCount : 0;
 }
 
-double PaintOnce(HWND list)
-{
-    double best = 0;
-    for (int turn = 0; turn < paintTurns; ++turn) {
-        const double start = Milliseconds();
-        for (int i = 0; i < paintsATurn; ++i) {
-            Repaint(list);
-        }
-        best = BetterOf(best, (Milliseconds() - start) / paintsATurn);
-    }
-    return best;
-}
-
 unsigned Checksum(const ListKind& kind, HWND list)
 {
     unsigned checksum = 0;
@@ -159,22 +147,20 @@ ListTimings RunList(HWND parent, const ListKind& kind, bool sorted, const Texts&
     const HWND list = MakeList(parent, kind, sorted);
     timings.add = Add(list, kind.add, texts);
     timings.find = FindLast(kind, list);
-    timings.paint = PaintOnce(list);
     timings.checksum = Checksum(kind, list);
     DestroyWindow(list);
     return timings;
 }
 
-// Milliseconds of a step of the scroll bar, with what it paints. The list is shown for some of them.
-double ScrollOn(HWND list, int step, int count)
+// Milliseconds of a step with what it paints. The list is shown for some of them.
+double TimeShown(HWND list, int count, void (*step)(HWND list))
 {
     ShowWindow(list, SW_SHOW);
     PumpMessages();
     UpdateWindow(list);
     const double start = Milliseconds();
     for (int i = 0; i < count; ++i) {
-        SendMessageA(list, WM_VSCROLL, static_cast<WPARAM>(step), 0);
-        UpdateWindow(list);
+        step(list);
     }
     GdiFlush();
     const double time = (Milliseconds() - start) / count;
@@ -182,7 +168,19 @@ double ScrollOn(HWND list, int step, int count)
     return time;
 }
 
-HWND MakeScrolledList(HWND parent, const ListKind& kind, bool sorted, const Texts& texts)
+void ScrollPage(HWND list)
+{
+    SendMessageA(list, WM_VSCROLL, SB_PAGEDOWN, 0);
+    UpdateWindow(list);
+}
+
+void ScrollLine(HWND list)
+{
+    SendMessageA(list, WM_VSCROLL, SB_LINEDOWN, 0);
+    UpdateWindow(list);
+}
+
+HWND MakeHiddenList(HWND parent, const ListKind& kind, bool sorted, const Texts& texts)
 {
     const HWND list = MakeList(parent, kind, sorted);
     kind.add(list, texts);
@@ -198,27 +196,45 @@ bool ReturnsFrom(const ListKind& kind, HWND list, LRESULT rows)
     return cameDown && SendMessageA(list, kind.getTop, 0, 0) == 0;
 }
 
-// Both in turns, of which the best counts: by pages through nearly all items, and the first ones by rows. false if a
-// list didn't come as far as it was sent.
-bool Scroll(HWND parent, bool sorted, const Texts& texts, ListTimings* oursTime, ListTimings* platformTime)
+// The two lists that are shown in turns.
+struct ListPair {
+    HWND ours;
+    HWND platform;
+};
+
+// The best of some turns of both.
+void TakeTurns(const ListPair& lists, int turns, int stepsATurn, void (*step)(HWND list), double* oursTime,
+               double* platformTime)
 {
-    const HWND ours = MakeScrolledList(parent, oursKind, sorted, texts);
-    const HWND platform = MakeScrolledList(parent, platformKind, sorted, texts);
-    for (int turn = 0; turn < pageTurns; ++turn) {
-        platformTime->scrollPage = BetterOf(platformTime->scrollPage, ScrollOn(platform, SB_PAGEDOWN, pagesATurn));
-        oursTime->scrollPage = BetterOf(oursTime->scrollPage, ScrollOn(ours, SB_PAGEDOWN, pagesATurn));
+    for (int turn = 0; turn < turns; ++turn) {
+        *platformTime = BetterOf(*platformTime, TimeShown(lists.platform, stepsATurn, step));
+        *oursTime = BetterOf(*oursTime, TimeShown(lists.ours, stepsATurn, step));
     }
+}
+
+bool ReturnFrom(const ListPair& lists, LRESULT rows)
+{
+    return ReturnsFrom(oursKind, lists.ours, rows) && ReturnsFrom(platformKind, lists.platform, rows);
+}
+
+// Repaints, and steps by pages through nearly all items and through the first ones by rows. false if a list didn't come
+// as far as it was sent.
+bool PaintAndScroll(HWND parent, bool sorted, const Texts& texts, ListTimings* ours, ListTimings* platform)
+{
+    const ListPair lists = { MakeHiddenList(parent, oursKind, sorted, texts),
+                             MakeHiddenList(parent, platformKind, sorted, texts) };
+    TakeTurns(lists, paintTurns, paintsATurn, Repaint, &ours->paint, &platform->paint);
     constexpr LRESULT nearlyAll = listItemCount * 3 / 4;
-    const bool        byPages =
-        ReturnsFrom(oursKind, ours, nearlyAll) && ReturnsFrom(platformKind, platform, nearlyAll);
-    for (int turn = 0; turn < lineTurns; ++turn) {
-        platformTime->scrollLine = BetterOf(platformTime->scrollLine, ScrollOn(platform, SB_LINEDOWN, linesATurn));
-        oursTime->scrollLine = BetterOf(oursTime->scrollLine, ScrollOn(ours, SB_LINEDOWN, linesATurn));
+    bool              byPages = true;
+    for (int pass = 0; pass < pagePasses; ++pass) {
+        TakeTurns(lists, pageTurns, pagesATurn, ScrollPage, &ours->scrollPage, &platform->scrollPage);
+        byPages = ReturnFrom(lists, nearlyAll) && byPages;
     }
+    TakeTurns(lists, lineTurns, linesATurn, ScrollLine, &ours->scrollLine, &platform->scrollLine);
     constexpr LRESULT lines = lineTurns * linesATurn;
-    const bool        byLines = ReturnsFrom(oursKind, ours, lines) && ReturnsFrom(platformKind, platform, lines);
-    DestroyWindow(ours);
-    DestroyWindow(platform);
+    const bool        byLines = ReturnFrom(lists, lines);
+    DestroyWindow(lists.ours);
+    DestroyWindow(lists.platform);
     return byPages && byLines;
 }
 
@@ -229,7 +245,6 @@ void ListTimings::TakeBetter(const ListTimings& other)
     add = BetterOf(add, other.add);
     addSingly = BetterOf(addSingly, other.addSingly);
     find = BetterOf(find, other.find);
-    paint = BetterOf(paint, other.paint);
     checksum = other.checksum;
 }
 
@@ -246,7 +261,7 @@ bool RunLists(HWND parent, bool sorted, const std::vector<std::string>& texts, L
             return false;
         }
     }
-    return Scroll(parent, sorted, items, ours, platform);
+    return PaintAndScroll(parent, sorted, items, ours, platform);
 }
 
 std::vector<LoadTiming> RunLoads(HWND parent, const std::vector<std::string>& texts)

@@ -73,6 +73,13 @@ bool EnsureTabStop(HListCtl* ctl)
     return true;
 }
 
+void PutText(HDC hdc, const RECT& rect, UINT options, const char* text, int length, const AsciiGlyphs* glyphs)
+{
+    if (!glyphs || !DrawAsciiGlyphs(hdc, rect, options, *glyphs, text, length)) {
+        ExtTextOutA(hdc, rect.left, rect.top, options, &rect, text, static_cast<UINT>(length), nullptr);
+    }
+}
+
 // Each part between tabs has its own rectangle, up to the next stop. There is one part more than stops.
 void DrawTabbed(HListCtl* ctl, HDC hdc, const RECT& rect, const char* text)
 {
@@ -90,7 +97,7 @@ void DrawTabbed(HListCtl* ctl, HDC hdc, const RECT& rect, const char* text)
         if (i < ctl->cTabs && !last) {
             place.right = rect.left + HGScaleX(ctl->pTabs[i] - tabGap);
         }
-        ExtTextOutA(hdc, place.left, place.top, ETO_CLIPPED, &place, part, static_cast<UINT>(length), nullptr);
+        PutText(hdc, place, ETO_CLIPPED, part, length, nullptr);
         if (last) {
             return;
         }
@@ -105,14 +112,16 @@ struct ShownItem {
     bool tabbed; // in parts, to the tab stops
 };
 
-ShownItem ShowItem(HListCtl* ctl, HDC hdc, const RECT& rect, int index, bool highlighted, COLORREF color, bool opaque)
+ShownItem ShowItem(HListCtl* ctl, HDC hdc, const RECT& rect, int index, const TextLook& look)
 {
     ShownItem item;
     item.length = FormatItem(ctl, index, item.text, itemTextSize);
-    if (highlighted && !opaque) {
+    if (look.highlighted && !look.opaque) {
         FillRectangle(hdc, rect, GetSysColorBrush(COLOR_HIGHLIGHT));
     }
-    SetTextColor(hdc, TextColor(ctl, highlighted, color));
+    if (const COLORREF textColor = TextColor(ctl, look.highlighted, look.color); GetTextColor(hdc) != textColor) {
+        SetTextColor(hdc, textColor);
+    }
     const bool hasTabs = HasStyle(ctl, HLS_TABS);
     item.tabbed = hasTabs && !HasStyle(ctl, HLS_FIELD);
     if (item.tabbed) {
@@ -122,8 +131,7 @@ ShownItem ShowItem(HListCtl* ctl, HDC hdc, const RECT& rect, int index, bool hig
     if (hasTabs) {
         item.length = static_cast<int>(std::strcspn(item.text, "\t"));
     }
-    const UINT options = ETO_CLIPPED | (opaque ? ETO_OPAQUE : 0);
-    ExtTextOutA(hdc, rect.left, rect.top, options, &rect, item.text, static_cast<UINT>(item.length), nullptr);
+    PutText(hdc, rect, ETO_CLIPPED | (look.opaque ? ETO_OPAQUE : 0), item.text, item.length, look.glyphs);
     return item;
 }
 
@@ -205,13 +213,13 @@ bool HLDrawItem(HListCtl* ctl, HDC hdc, const RECT* rect, int index, RECT* outRe
     if (index < 0) {
         return true;
     }
-    const ShownItem item = ShowItem(ctl, hdc, *rect, index, highlighted, color, false);
+    const ShownItem item = ShowItem(ctl, hdc, *rect, index, { highlighted, color, false, nullptr });
     return item.tabbed || FitsIn(hdc, *rect, item.text, item.length);
 }
 
-void HLDrawItemText(HListCtl* ctl, HDC hdc, const RECT& rect, int index, bool highlighted, COLORREF color, bool opaque)
+void HLDrawItemText(HListCtl* ctl, HDC hdc, const RECT& rect, int index, const TextLook& look)
 {
-    ShowItem(ctl, hdc, rect, index, highlighted, color, opaque);
+    ShowItem(ctl, hdc, rect, index, look);
 }
 
 int HLDrawValue(HListCtl* ctl, HDC hdc, RECT* rect, HBRUSH brush, const void* value, int kind, COLORREF color)

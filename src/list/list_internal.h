@@ -4,6 +4,7 @@
 #include "dialog/message_table.h"
 #include "dialog/record_bits.h"
 #include "foundation/item_list.h"
+#include "list/ascii_glyphs.h"
 #include "list/list_control.h"
 
 #include <algorithm>
@@ -45,9 +46,16 @@ void SetSelectedAt(const HListCtl* ctl, int place, int index);
 int  PlaceInSelection(const HListCtl* ctl, int index);
 bool IsInSelection(const HListCtl* ctl, int index);
 
-// HLDrawItem without the answer whether the text fits, for which it has to be measured. opaque: over the background
-// colour of hdc, and not for a list with tab stops.
-void HLDrawItemText(HListCtl* ctl, HDC hdc, const RECT& rect, int index, bool highlighted, COLORREF color, bool opaque);
+// How the text of an item is drawn.
+struct TextLook {
+    bool               highlighted;
+    COLORREF           color;  // 0: the list's own
+    bool               opaque; // over the background colour of the context; not for a list with tab stops
+    const AsciiGlyphs* glyphs; // of the context's font, or null
+};
+
+// HLDrawItem without the answer whether the text fits, for which it has to be measured.
+void HLDrawItemText(HListCtl* ctl, HDC hdc, const RECT& rect, int index, const TextLook& look);
 
 // Drawing by the owner: WM_DRAWITEM.
 void HLDrawOwned(HListCtl* ctl, HDC hdc, const RECT& rect, int index, UINT action, UINT state);

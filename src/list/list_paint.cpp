@@ -9,11 +9,13 @@ constexpr int  listKind = 2; // what FireCtlColorMsg asks for
 constexpr int  staticKind = 6;
 constexpr WORD comboListId = 2;
 constexpr UINT stateFocused = ODS_FOCUS;
+constexpr int  glyphsPayFrom = 8; // items
 
 // The list whose background was filled last, and with what: in a repaint that begins with it, items need no filling of
 // their own.
 const HListCtl* gFilled;
 HBRUSH          gFilledWith;
+HBRUSH          gAnswer; // what WM_CTLCOLORLISTBOX gave for it: the repaint need not ask again at once
 
 // The question to the system costs as much as some rows of text; a list that knows the answer doesn't ask.
 bool IsFocused(HListCtl* ctl)
@@ -49,7 +51,8 @@ HBRUSH AskForBrush(HListCtl* ctl, HDC hdc)
     if (hFocusBrush && LOWORD(ctl->wId) == comboListId && GetFocus() == ctl->hParent) {
         return hFocusBrush;
     }
-    return FireCtlColorMsg(ctl, listKind, hdc);
+    gAnswer = FireCtlColorMsg(ctl, listKind, hdc);
+    return gAnswer;
 }
 
 void Fill(HDC hdc, const RECT& rect, HBRUSH brush)
@@ -75,6 +78,8 @@ struct ListPaint {
     bool      hasBackColor;
     bool      isFilled; // with brush
     COLORREF  highlight;
+
+    const AsciiGlyphs* glyphs; // null where the items are too few for a search of them
 };
 
 bool GetColor(HBRUSH brush, COLORREF* color)
@@ -138,7 +143,7 @@ void PaintItemItself(const ListPaint& paint, const RECT& rect, int index, const 
         Fill(paint.hdc, rect, look.highlighted ? GetSysColorBrush(COLOR_HIGHLIGHT) : paint.brush);
     }
     if (look.marked || !paint.isField) {
-        HLDrawItemText(paint.ctl, paint.hdc, rect, index, look.highlighted, paint.color, atOnce);
+        HLDrawItemText(paint.ctl, paint.hdc, rect, index, { look.highlighted, paint.color, atOnce, paint.glyphs });
     }
 }
 
@@ -166,12 +171,17 @@ bool PaintItem(const ListPaint& paint, int index)
     return true;
 }
 
-void PaintItems(const ListPaint& paint, const RECT& area)
+void PaintItems(ListPaint paint, const RECT& area)
 {
     HListCtl* const ctl = paint.ctl;
     const int       first = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.left + 1, area.top + 1);
     const int       last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.right - 1, area.bottom - 1);
-    int             index = first;
+    AsciiGlyphs     glyphs;
+    if (last - first >= glyphsPayFrom && !HasStyle(ctl, HLS_OWNERDRAW)) {
+        glyphs = FindAsciiGlyphs(paint.hdc);
+        paint.glyphs = &glyphs;
+    }
+    int index = first;
     while (index <= last && PaintItem(paint, index)) {
         ++index;
     }
@@ -209,14 +219,16 @@ void HLPaint(HListCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
     gFilled = nullptr;
+    gAnswer = nullptr;
     const PaintDC dc(hwnd); // asks for the background first, if that is to be filled
+    const HBRUSH  answer = gFilled == ctl ? gAnswer : nullptr;
     const HBRUSH  filledWith = gFilled == ctl && IsOwnProcedure(hwnd) ? gFilledWith : nullptr;
     if (!dc.hdc || !IsWindow(hwnd) || HLCount(ctl) == 0) {
         return;
     }
     HBRUSH brush = OwnBrush(ctl);
     if (!brush) {
-        brush = FireCtlColorMsg(ctl, listKind, dc.hdc);
+        brush = answer ? answer : FireCtlColorMsg(ctl, listKind, dc.hdc);
     }
     if (!IsWindow(hwnd)) {
         return;
@@ -231,7 +243,8 @@ void HLPaint(HListCtl* ctl)
     const int            current = HLCurIndex(ctl);
     const bool           isFilled = brush && brush == filledWith;
     const ListPaint      paint = { ctl,   dc.hdc, hwnd,      focused,      isField,  current,
-                                   brush, color,  backColor, hasBackColor, isFilled, highlight };
+                                   brush, color,  backColor, hasBackColor, isFilled, highlight,
+                                   nullptr };
     PaintItems(paint, dc.ps.rcPaint);
 }
 
