@@ -7,7 +7,7 @@
 namespace {
 
 constexpr UINT measureFlags = DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX;
-constexpr int  firstProbe = 64; // characters: most fields are narrower, whatever the length of their text
+constexpr int  narrowChar = 2; // pixels; on average characters are wider
 
 // The width of a run, measured with its neighbour so that the overhang of slanted letters counts right.
 int RunWidth(const HEditCtl* ctl, HDC hdc, const char* text, int start, int count)
@@ -74,10 +74,18 @@ int FitLast(HDC hdc, const char* text, int count, int width)
     return fits;
 }
 
+// Characters that are wider than a field of that width, as a rule: one measure of them tells, whatever the length of
+// the text, and a text that isn't longer takes one too.
+int FirstProbe(int count, int width)
+{
+    constexpr int fewest = 64;
+    return std::min(count, std::max(fewest, width / narrowChar));
+}
+
 // How many of the first characters fit. A text that is far longer than the field isn't measured to its end.
 int FitFirst(HDC hdc, const char* text, int count, int width)
 {
-    int probe = std::min(count, firstProbe);
+    int probe = FirstProbe(count, width);
     for (;;) {
         int  fits = 0;
         SIZE size = {};
@@ -156,7 +164,7 @@ bool ReachesWidth(HEditCtl* ctl, const char* text, int width)
 {
     const int     length = static_cast<int>(std::strlen(text));
     const FieldDC dc(ctl);
-    for (int count = std::min(length, firstProbe); count < length; count = std::min(length, 2 * count)) {
+    for (int count = FirstProbe(length, width); count < length; count = std::min(length, 2 * count)) {
         if (MeasureText(dc.hdc(), text, count) >= width) {
             return true;
         }

@@ -239,7 +239,7 @@ TEST_F(EditLayout, FitCharsMeasuresNoMoreThanShows)
     gMeasured = 0;
     const int fits = FitChars(dc.hdc(), text.c_str(), 1000, 200, false);
     EXPECT_LT(0, fits);
-    EXPECT_GE(64, gMeasured);
+    EXPECT_GE(100, gMeasured);
 }
 
 } // namespace
