@@ -175,8 +175,8 @@ TEST(GridSave, DoesNotLookAtTheResultOfALength)
 
 TEST(GridSave, WritesOfAVeryLongTextWhatItsLengthHoldsOfIt)
 {
-    const std::string title = std::string(65536, 't') + "end";
-    const GridPtr     grid = EmptyGrid(0, title.c_str());
+    const std::string longTitle = std::string(65536, 't') + "end";
+    const GridPtr     grid = EmptyGrid(0, longTitle.c_str());
     const Bytes       bytes = SavedBytes(grid.get(), 0x484A);
     const GridPtr     loaded(LoadBytes(bytes));
     ASSERT_NE(nullptr, loaded);
