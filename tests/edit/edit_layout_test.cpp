@@ -221,13 +221,29 @@ TEST_F(EditLayout, ReachesWidthComparesTheWidthOfTheWholeText)
     }
 }
 
-int  gMeasured; // characters that were handed to be measured
+int gMeasured; // characters that were handed to be measured
+
+template <typename Function>
+Function* RealOf(const char* library, Function*, const char* name)
+{
+    const FARPROC address = GetProcAddress(GetModuleHandleA(library), name);
+    Function*     function = nullptr;
+    std::memcpy(&function, &address, sizeof function);
+    return function;
+}
+
 BOOL WINAPI CountExtentEx(HDC hdc, LPCSTR text, int count, int width, int* fits, int* each, SIZE* size)
 {
     gMeasured += count;
-    WCHAR wide[1024];
-    MultiByteToWideChar(CP_ACP, 0, text, count, wide, 1024);
-    return GetTextExtentExPointW(hdc, wide, count, width, fits, each, size);
+    static const auto real = RealOf("gdi32", &CountExtentEx, "GetTextExtentExPointA");
+    return real(hdc, text, count, width, fits, each, size);
+}
+
+int WINAPI CountDrawText(HDC hdc, LPCSTR text, int count, RECT* rect, UINT flags)
+{
+    gMeasured += count;
+    static const auto real = RealOf("user32", &CountDrawText, "DrawTextA");
+    return real(hdc, text, count, rect, flags);
 }
 
 TEST_F(EditLayout, FitCharsMeasuresNoMoreThanShows)
@@ -240,6 +256,25 @@ TEST_F(EditLayout, FitCharsMeasuresNoMoreThanShows)
     const int fits = FitChars(dc.hdc(), text.c_str(), 1000, 200, false);
     EXPECT_LT(0, fits);
     EXPECT_GE(100, gMeasured);
+}
+
+TEST_F(EditLayout, PasteIntoALongTextMeasuresNoMoreThanShowsForEachCharacter)
+{
+    Make("", HES_AUTOHSCROLL);
+    SetFocus(edit);
+    constexpr int     pasted = 1000;
+    const ImportHook  extents("GetTextExtentExPointA", CountExtentEx);
+    const ImportHook  texts("DrawTextA", CountDrawText);
+    const std::string text(pasted, 'x');
+    gMeasured = 0;
+    SendText(EM_REPLACESEL, 0, text.c_str());
+    EXPECT_EQ(text, FieldText(Ctl()));
+    EXPECT_GE(pasted * 400, gMeasured);
+    Send(EM_SETSEL, 0, pasted / 2);
+    gMeasured = 0;
+    SendText(EM_REPLACESEL, 0, "");
+    EXPECT_EQ(pasted / 2, TextLength(Ctl()));
+    EXPECT_GE(pasted / 2 * 400, gMeasured);
 }
 
 } // namespace
