@@ -378,7 +378,10 @@ char* WINAPI GetDataTypes(const char* text, char* outClass, char* outType, char*
 int WINAPI ValidClass(char dataClass);
 /** @return 1 if the pair is valid, else 0. */
 int WINAPI ValidType(char dataClass, char dataType);
-/** @return Bytes of a stored value; -1 for the text classes m and s; 0 for an unknown pair. */
+/**
+ * @return Bytes of a stored value; -1 for the text classes m and s; 0 where the class has no such type. Whether the
+ *         pair is valid isn't checked.
+ */
 int WINAPI GetDataSize(char dataClass, char dataType);
 /**
  * Writes the text of a stored value.
@@ -405,7 +408,9 @@ int WINAPI FormatData(const void* data, char dataClass, char dataType, const cha
  * @param text     The text; null stores nothing and gives 0.
  * @param noCheck  Non-zero: dates and times aren't checked against calendar and clock.
  * @return 0 on success. Non-zero for a date or time that had to be repaired (the repaired value is stored), for a
- *         value that the type cannot hold, and for an unknown class.
+ *         clock value that its type cannot hold, and for an unknown class. A number that its type cannot hold is stored
+ *         as 0 or loses its high bits, and a year is brought into 1900 to 2099 (two digits by the current century):
+ *         neither is a failure.
  */
 int WINAPI ParseData(void* data, char dataClass, char dataType, const char* format, const char* text, int noCheck);
 
@@ -416,8 +421,9 @@ int WINAPI DateTimeToData(const DateTimeRec* rec, void* data, char dataType);
 /**
  * Checks a date.
  *
- * @param rec     The record.
- * @param repair  Non-zero: a failing field is mended, and two-digit years get their century.
+ * @param rec     The record; null doesn't pass.
+ * @param repair  Non-zero: a failing field is mended, and years are brought into 1900 to 2099, two digits by the
+ *                current century; that alone is no failure.
  * @param checkYear, checkMonth, checkDay  Which fields count. Without the day but with year and month, the day
  *                becomes 1 whatever repair says.
  * @return 1 if it passes as it stood, else 0.
@@ -433,7 +439,12 @@ int WINAPI ValidDate(DateTimeRec* rec, int repair, int checkYear, int checkMonth
  */
 int WINAPI ValidTime(DateTimeRec* rec, int repair, int twelveHour, int checkHour, int checkMinute, int checkSecond);
 
-/** Stores a number as a type, cut towards zero; out of the 32-bit range stores 0. @return 1, or 0 for no such type. */
+/**
+ * Stores a number as a type. Types of whole numbers: cut towards zero, 0 out of the 32-bit range, and the low bits
+ * where the type is smaller. d keeps the number, f rounds it.
+ *
+ * @return 1, or 0 for no such type.
+ */
 int WINAPI DoubleToNum(void* data, char dataType, double value);
 /** @return The stored number as a double; 0.0 for null or a type that is no number. */
 double WINAPI NumToDouble(const void* data, char dataType);
@@ -456,13 +467,14 @@ double WINAPI StringToDouble(const char* text);
  * Lays a text out over a mask, or takes it out of one.
  *
  * @param text     The bare text, or the masked text with strip.
- * @param mask     '@' letter, '#' digit, '!' punctuation, '&' letter or digit, '*' any; others are literals.
+ * @param mask     '@' letter, '#' digit, '!' punctuation, '&' letter or digit, '*' any printable character. A
+ *                 backslash makes the next character a literal, a group in brackets is skipped; others are literals.
  * @param outSize  Bytes of out, at least 1.
  * @param strip    Non-zero: keep only what the placeholders hold.
  * @return Length of the result; 0 for null arguments or no room.
  */
 int WINAPI MaskToString(const char* text, const char* mask, char* out, int outSize, int strip);
-/** Writes the true or false text of a picture "true;false" ("TRUE;FALSE" for null). @return Its length. */
+/** Writes the true or false text of a picture "true;false" ("TRUE;FALSE" for null or empty). @return Its length. */
 int WINAPI BoolToString(int value, const char* format, char* out, int outSize);
 /** Reads a colour word or up to three decimal numbers, '[' before them allowed. @return 1 if stored, else 0. */
 int WINAPI StringToColor(const char* text, COLORREF* outColor);
@@ -500,7 +512,10 @@ typedef struct IntlSettings {
     char  szCurrency[16];   /**< Currency text. */
 } IntlSettings;
 
-/** Fills the settings from the locale and the start values. The library calls it once at start. */
+/**
+ * Fills the settings from the locale and the start values, and sets the C runtime's locale to the user's (LC_ALL),
+ * which a host that shares the runtime feels. The library calls it once at start.
+ */
 void WINAPI GetIntlSettings(void);
 /** @return The settings, alive as long as the library; a host may read and write them. */
 IntlSettings* WINAPI WWGetIntlInfo(void);
@@ -1234,7 +1249,8 @@ typedef struct HGStash {
  * @param style       WS_ and HGS_ bits.
  * @param style2      HGX_ bits.
  * @param fixedCols   Leading columns that do not scroll.
- * @param rowHeight, hdrWidth, hdrHeight  Pixels, or dialog units under HGX_DLGUNITS; negative: the defaults 20, 45, 20.
+ * @param rowHeight, hdrWidth, hdrHeight  Pixels; negative: the defaults 20, 45, 20. Under HGX_DLGUNITS dialog units, and
+ *                    the defaults are 160 divided by the height of the system's font, 22, and the first one again.
  * @param minRows     Rows that the grid has at least when it is attached to a window.
  * @return The definition, or null without memory.
  */
@@ -1290,7 +1306,12 @@ HGField* WINAPI HGFldDup(HGField* field);
 int WINAPI HGInsertFld(HGridData* grid, HGField* field, short position);
 /** Computes the offsets of all columns and the row size anew. */
 void WINAPI HGFixOffsets(HGridData* grid);
-/** Gives a grid a column order map. @return 1; 0 if it has one. */
+/**
+ * Gives a grid a column order map. Without HGS_COLMAP lookups go by the map from then on, but adding, inserting,
+ * removing and moving columns don't keep it up.
+ *
+ * @return 1; 0 if it has one.
+ */
 int WINAPI HGCreateFldMap(HGridData* grid);
 
 /*
@@ -1304,7 +1325,8 @@ typedef struct HGridCtl HGridCtl;
 /**
  * Copies a cell's value.
  *
- * @param out  Receives the value: the column's cbSize bytes, zeros for a null cell.
+ * @param out  Receives the column's cbSize bytes as they are, also of a null cell. These are zeros where the library
+ *             made it null, but not after HGSRC_CELL refused it, or where the host set the bit itself.
  * @return 1 if the cell holds a value; 0 if it is null or doesn't exist.
  */
 int WINAPI HGGetCellData(HWND hwnd, int col, int row, void* out);
@@ -1312,12 +1334,19 @@ int WINAPI HGGetCellData(HWND hwnd, int col, int row, void* out);
  * Writes a cell as a user's entry would, and shows it if the cell is current. Host code runs inside.
  *
  * @param value  The value, cbSize bytes or a text; null makes the cell null.
- * @return 1 if the write went through; 0 if it was refused or the cell doesn't exist.
+ * @return 1 if the write went through; 0 if it was refused or the cell doesn't exist. After a veto of HGN_CELLCHANGED
+ *         the value stays written and its row marked as changed, and it isn't repainted. After a refusal by HGSRC_CELL
+ *         the value is the old one, but whether the cell is null is what was asked for.
  */
 int WINAPI HGSetCellData(HWND hwnd, int col, int row, const void* value);
 /** Writes the text of a cell. @return Its length; 0 for a cell that doesn't exist. */
 int WINAPI HGGetCellText(HWND hwnd, int col, int row, char* out, int outSize);
-/** Parses a text by the column's type and writes it. Host code runs inside. @return As HGSetCellData. */
+/**
+ * Parses a text by the column's type and writes it. In a column of lists or fields that stores codes, a text that the
+ * list doesn't know is stored as the code of its last item: a host looks it up first. Host code runs inside.
+ *
+ * @return As HGSetCellData.
+ */
 int WINAPI HGSetCellText(HWND hwnd, int col, int row, const char* text);
 /** As HGSetCellData, without showing the value in the editor of the current cell. */
 int WINAPI HGSetCellString(HWND hwnd, int col, int row, const void* value);
@@ -1341,7 +1370,7 @@ HLList* WINAPI HGGetStash(void);
  *
  * @param key, name  The key; the first 12 characters of name count, without case.
  * @param ofs        An OFSTRUCT to keep, or null.
- * @return The entry's index, or -1 without a stash.
+ * @return The entry's index, or -1 without a stash or memory, and the definition stays the caller's.
  */
 int WINAPI StashGrid(HGridData* grid, DWORD key, const char* name, const OFSTRUCT* ofs);
 /** Finds an entry. @param outIndex Receives its index, else 0; may be null. @return The record, or null. */
@@ -1371,7 +1400,8 @@ HGridData* WINAPI HGLoad(HGTRANSFER read, void* context);
 /**
  * Reads a definition from a file.
  *
- * @param name  File name, below 115 characters; without a point in it, ".GRS" is appended.
+ * @param name  File name; without a point in it, ".GRS" is appended. With the ending at most 119 characters: a longer
+ *              one isn't opened.
  * @param ofs   Receives what OpenFile tells, zeros on failure; may be null.
  * @return The grid, or null.
  */
@@ -1846,8 +1876,9 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
  * The typed single-line edit, of the classes "HEdit" and "HEdit_SS". It takes some messages of the platform's edits in
  * its own way:
  *
- * - `EM_LIMITTEXT`, for class s: at most wParam characters, and a longer text is cut; 0 or less takes the limit away,
- *   and HEM_GETLIMIT begins again with 32. Gives 1; -1 for another class; -5 without memory.
+ * - `EM_LIMITTEXT`, for class s: at most wParam characters, and a longer text is cut; 0 or less takes the limit away and
+ *   cuts nothing, and HEM_GETLIMIT begins again with 32, or with the length of a longer text. Gives 1; -1 for another
+ *   class; -5 without memory.
  * - `EM_UNDO`, `WM_UNDO`: the text is rebuilt from the value, so that typing which isn't committed is lost, and the
  *   caret goes to the start. There is no other step back. They give 1, and so does `EM_CANUNDO` at any time.
  * - `EM_SETRECT`, `EM_SETRECTNP`: change nothing and give the brush of HEM_GETFOCUSBRUSH. HEM_SETRECT sets the area.
@@ -1954,11 +1985,14 @@ typedef int(CALLBACK* HEVALIDATE)(HWND hwnd, int id, void* data);
 #define HEM_GETSELTEXT 1081
 /** lParam: value that receives the upper bound. Gives 1; 0 if the class has no bounds. */
 #define HEM_GETMAX 1083
-/** lParam: upper bound as a value, or 0 for none. Gives 0. */
+/**
+ * lParam: upper bound as a value, or 0 for none. Gives 0. Bounds of dates and times belong into the window text: one set
+ * here is no day number, and a commit takes every date for one above it.
+ */
 #define HEM_SETMAX 1084
 /** lParam: value that receives the lower bound. Gives 1; 0 if the class has no bounds. */
 #define HEM_GETMIN 1085
-/** lParam: lower bound as a value, or 0 for none. Gives 0. */
+/** lParam: lower bound as a value, or 0 for none. Gives 0. Not for dates and times: see HEM_SETMAX. */
 #define HEM_SETMIN 1086
 /** Takes the focus away and gives it back. Gives 1. */
 #define HEM_REFOCUS 1087
@@ -1993,7 +2027,9 @@ typedef int(CALLBACK* HEVALIDATE)(HWND hwnd, int id, void* data);
 /**
  * wParam: non-zero takes the value from the buffer, 0 writes it there. lParam: buffer that is linked to the value from
  * now on, kept by the caller; 0 ends the link and makes the value null. A commit and HEM_SETDATA write to the buffer,
- * and the value is read from it whenever the text is rebuilt. Gives 1.
+ * and the value is read from it whenever the text is rebuilt. For texts they write as much as HEM_GETDATASIZE says at
+ * that time, and a text without a limit grows: one that is linked needs a limit, by EM_LIMITTEXT or by digits in the
+ * window text. Gives 1.
  */
 #define HEM_LINKDATA 1136
 /** Gives the HEF_ and CF_ bits. */
@@ -2045,9 +2081,10 @@ int WINAPI HEditSetData(void* ctl, const void* data);
 /** Reads a window text into an edit control's record. @return Non-zero if its buffers could be had. */
 int WINAPI HEParseWinText(void* ctl, const char* text);
 /**
- * Reads a bounds group "|minimum;maximum;third|" at *pText, which moves behind it. The text is modified.
+ * Reads a bounds group "|minimum;maximum;third|" at *pText, which moves behind it. The text is modified: a group with
+ * fewer than two semicolons ends the text behind it at the first one there.
  *
- * @param pMin, pMax, pThird  Receive the values; may be null.
+ * @param pMin, pMax, pThird  Receive the values; may be null. Those of class c receive nothing.
  * @return 1 for a minimum, 2 for a maximum, 4 for a third value, added up; 0 without a group.
  */
 int WINAPI HEFindMinMaxInfo(char** pText, double* pMin, double* pMax, double* pThird, char dataClass, char dataType);

@@ -1,16 +1,29 @@
 // From the text back to the stored value: parsing, bounds, validation and vetoes, and what the focus has to do with it.
 #include "edit/edit_internal.h"
 #include "foundation/memory.h"
+#include "typed/data_types.h"
 
 #include <algorithm>
 
 namespace {
 
+// Bytes of the value that count: a text's block may be far longer than the text.
+int UsedSize(const HEditCtl* ctl)
+{
+    if (!IsStringType(ctl) || !ctl->pData) {
+        return ctl->cbData;
+    }
+    const size_t room = static_cast<size_t>(ctl->cbData);
+    return static_cast<int>(std::min(strnlen(static_cast<const char*>(ctl->pData), room) + 1, room));
+}
+
 // The value as it was; null without memory.
 struct OldValue {
+    int   room; // of its block
     int   size;
     void* bytes;
-    explicit OldValue(const HEditCtl* ctl) : size(ctl->cbData), bytes(HBlockAlloc(static_cast<size_t>(size)))
+    explicit OldValue(const HEditCtl* ctl)
+        : room(ctl->cbData), size(UsedSize(ctl)), bytes(HBlockAlloc(static_cast<size_t>(size)))
     {
         if (bytes && ctl->pData) {
             std::memcpy(bytes, ctl->pData, static_cast<size_t>(size));
@@ -218,7 +231,9 @@ int CommitText(HEditCtl* ctl, const char* text)
     }
     Settle(ctl, verdict, old);
     if (ctl->pLinked && ctl->pData) {
-        CopyValue(ctl, ctl->pLinked, ctl->pData);
+        // Bounded: the parser may have made the block longer than the host was told, and the host's is no longer by it.
+        const int room = std::min(old.room, static_cast<int>(ctl->cbData));
+        HCopyValue(ctl->pLinked, ctl->pData, ctl->cClass, ctl->cType, room);
     }
     if (verdict.status) {
         return verdict.status;
@@ -232,10 +247,11 @@ int CommitText(HEditCtl* ctl, const char* text)
     return 0;
 }
 
+// While F2 is down the display form shows, which is no text that was typed.
 bool CommitIfFocused(HEditCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    if (IsFocused(ctl)) {
+    if (IsFocused(ctl) && !HasFlag(ctl, HEF_DISPLAY)) {
         CommitText(ctl, FieldText(ctl));
     }
     return IsWindow(hwnd);
@@ -268,6 +284,9 @@ void OnKillFocus(HEditCtl* ctl, HWND gaining)
     FinishEntry(ctl);
     if (!IsWindow(hwnd)) {
         return;
+    }
+    if (IsFocused(ctl) && HasFlag(ctl, HEF_DISPLAY)) {
+        RefreshText(ctl, true); // F2 is still down, and its display form must not be read as if it had been typed
     }
     SetFlag(ctl, HEF_FOCUS, false);
     CommitText(ctl, FieldText(ctl));

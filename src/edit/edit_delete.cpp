@@ -30,14 +30,15 @@ void HoldRedraw(HEditCtl* ctl, bool off)
 
 void EmptyText(HEditCtl* ctl)
 {
-    std::memset(ctl->pszText, 0, static_cast<size_t>(ctl->cbText));
+    std::memset(ctl->pszText, 0, static_cast<size_t>(TextLength(ctl)));
     SetFlag(ctl, CF_NULL, true);
 }
 
 // false: the entry ends here.
 bool DeleteEach(HEditCtl* ctl, int count)
 {
-    const HWND hwnd = ctl->hWnd;
+    const HWND    hwnd = ctl->hWnd;
+    const FieldDC sharedByMeasures(ctl);
     for (int i = 0; i < count; ++i) {
         DeleteChar(ctl, true);
         if (!IsEntering(ctl, hwnd)) {

@@ -253,7 +253,7 @@ bool MakeRoom(HEditCtl* ctl)
 bool IsTooWide(HEditCtl* ctl)
 {
     const ShownText shown(ctl);
-    return TextWidth(ctl, shown.text, 0, -1) >= ctl->rcText.right - ctl->rcText.left;
+    return ReachesWidth(ctl, shown.text, ctl->rcText.right - ctl->rcText.left);
 }
 
 // Puts the character in, or over the one at the caret, unless a field that cannot scroll gets too full by it.
@@ -309,6 +309,7 @@ void EnterText(HEditCtl* ctl, const char* text)
         return;
     }
     const RedrawScope noRedraw(ctl);
+    const FieldDC     sharedByMeasures(ctl);
     for (const char* ch = text; *ch && IsEntering(ctl, hwnd); ++ch) {
         if (IsTaken(ctl, *ch)) {
             EnterChar(ctl, ch);

@@ -207,6 +207,7 @@ LRESULT CopySelection(HEditCtl* ctl);
 LRESULT PasteText(HEditCtl* ctl);
 
 // Layout and painting
+bool ReachesWidth(HEditCtl* ctl, const char* text, int width); // whether all of the text is at least as wide
 // What typing repaints: from there to the end, or from the start to that many characters behind it.
 void InvalidateTyped(HEditCtl* ctl, int from, int count);
 void InvalidateRange(HEditCtl* ctl, int start, int end, bool erase);

@@ -7,6 +7,7 @@
 namespace {
 
 constexpr UINT measureFlags = DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX;
+constexpr int  narrowChar = 2; // pixels; on average characters are wider
 
 // The width of a run, measured with its neighbour so that the overhang of slanted letters counts right.
 int RunWidth(const HEditCtl* ctl, HDC hdc, const char* text, int start, int count)
@@ -73,6 +74,29 @@ int FitLast(HDC hdc, const char* text, int count, int width)
     return fits;
 }
 
+// Characters that are wider than a field of that width, as a rule: one measure of them tells, whatever the length of
+// the text, and a text that isn't longer takes one too.
+int FirstProbe(int count, int width)
+{
+    constexpr int fewest = 64;
+    return std::min(count, std::max(fewest, width / narrowChar));
+}
+
+// How many of the first characters fit. A text that is far longer than the field isn't measured to its end.
+int FitFirst(HDC hdc, const char* text, int count, int width)
+{
+    int probe = FirstProbe(count, width);
+    for (;;) {
+        int  fits = 0;
+        SIZE size = {};
+        GetTextExtentExPointA(hdc, text, probe, width, &fits, nullptr, &size);
+        if (fits < probe || probe == count) {
+            return fits;
+        }
+        probe = std::min(count, 2 * probe);
+    }
+}
+
 const FieldDC* gInnermost; // the context that lives, or null
 
 } // namespace
@@ -135,19 +159,38 @@ int TextWidth(HEditCtl* ctl, const char* text, int start, int count)
     return RunWidth(ctl, dc.hdc(), text, from, run);
 }
 
+// Widths only grow with the count, so the first part that is wide enough tells.
+bool ReachesWidth(HEditCtl* ctl, const char* text, int width)
+{
+    const int     length = static_cast<int>(std::strlen(text));
+    const FieldDC dc(ctl);
+    for (int count = FirstProbe(length, width); count < length; count = std::min(length, 2 * count)) {
+        if (MeasureText(dc.hdc(), text, count) >= width) {
+            return true;
+        }
+    }
+    return RunWidth(ctl, dc.hdc(), text, 0, length) >= width;
+}
+
+// The widths of the scrolled part and of what lies before the index differ by the run between the two, which is
+// measured alone: what is scrolled away may be long.
 int CaretX(HEditCtl* ctl, int index)
 {
     const ShownText shown(ctl);
     const int length = static_cast<int>(std::strlen(shown.text));
     const int at = std::clamp(index, 0, length);
     const int scroll = std::min(static_cast<int>(ctl->nScroll), length);
+    const bool right = HasFlag(ctl, HEF_RIGHT);
+    const int edge = right ? ctl->rcText.right : ctl->rcText.left;
+    const int origin = right ? length - scroll : scroll; // the index that stands at the edge
     const FieldDC dc(ctl);
-    if (HasFlag(ctl, HEF_RIGHT)) {
-        return ctl->rcText.right - RunWidth(ctl, dc.hdc(), shown.text, at, length - at) +
-               RunWidth(ctl, dc.hdc(), shown.text, length - scroll, scroll);
+    if (right && scroll && (at == 0 || origin == 0)) {
+        // Nothing stands before the start, so a run from there is measured without its neighbour.
+        return edge - RunWidth(ctl, dc.hdc(), shown.text, at, length - at) +
+               RunWidth(ctl, dc.hdc(), shown.text, origin, scroll);
     }
-    return ctl->rcText.left - RunWidth(ctl, dc.hdc(), shown.text, 0, scroll) +
-           RunWidth(ctl, dc.hdc(), shown.text, 0, at);
+    return at < origin ? edge - RunWidth(ctl, dc.hdc(), shown.text, at, origin - at)
+                       : edge + RunWidth(ctl, dc.hdc(), shown.text, origin, at - origin);
 }
 
 int CharFromX(HDC hdc, const RECT* rect, const char* text, int count, int x, bool fromRight)
@@ -178,11 +221,5 @@ int FitChars(HDC hdc, const char* text, int count, int width, bool fromEnd)
     if (count <= 0 || width < 0) {
         return 0;
     }
-    if (fromEnd) {
-        return FitLast(hdc, text, count, width);
-    }
-    int fits = 0;
-    SIZE size = {};
-    GetTextExtentExPointA(hdc, text, count, width, &fits, nullptr, &size);
-    return fits;
+    return fromEnd ? FitLast(hdc, text, count, width) : FitFirst(hdc, text, count, width);
 }

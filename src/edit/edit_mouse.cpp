@@ -63,9 +63,12 @@ void SelectWord(HEditCtl* ctl, int index)
 
 void PressTwice(HEditCtl* ctl, const MsgArgs& args)
 {
+    // The press may scroll the text under the pointer. Where it brings the focus, the text changes its form by it.
+    const bool wasFocused = IsFocused(ctl);
+    const int  pressed = IndexAt(ctl, args);
     SendMessageA(args.hwnd, WM_LBUTTONDOWN, args.wParam, args.lParam);
     if (IsWindow(args.hwnd) && !HasStyle(ctl, HES_STATIC)) {
-        SelectWord(ctl, IndexAt(ctl, args));
+        SelectWord(ctl, wasFocused ? ClampIndex(pressed, TextLength(ctl)) : IndexAt(ctl, args));
     }
     if (IsWindow(args.hwnd)) {
         Tell(ctl, HEN_DBLCLK);

@@ -14,7 +14,7 @@ bool ScrollTowards(HEditCtl* ctl, int caret)
     const RECT rect = ctl->rcText;
     const ShownText shown(ctl);
     const bool scrolls = CanScroll(ctl) &&
-                         (ctl->nScroll != 0 || TextWidth(ctl, shown.text, 0, -1) >= rect.right - rect.left);
+                         (ctl->nScroll != 0 || ReachesWidth(ctl, shown.text, rect.right - rect.left));
     if (!scrolls) {
         return true;
     }

@@ -137,6 +137,13 @@ void CommitOtherText(HEditCtl* ctl, const char* text)
     }
 }
 
+// What is longer than the usual room stays whole: who takes the limit away wants nothing cut.
+int RoomWithoutLimit(const HEditCtl* ctl)
+{
+    const int value = ctl->pData ? static_cast<int>(std::strlen(static_cast<const char*>(ctl->pData))) : 0;
+    return std::max({ defaultLimit, value, TextLength(ctl) });
+}
+
 // The whole field is repainted anyway.
 void SelectAfterSet(HEditCtl* ctl)
 {
@@ -253,7 +260,7 @@ int LimitText(HEditCtl* ctl, int limit)
     if (ctl->cClass != 's') {
         return -1;
     }
-    const int characters = limit > 0 ? limit : defaultLimit;
+    const int characters = limit > 0 ? limit : RoomWithoutLimit(ctl);
     if (characters == INT_MAX || !ctl->pData || !ResizeBuffers(ctl, characters + 1, ctl->pData)) {
         return noMemory;
     }

@@ -119,8 +119,7 @@ void LimitText(const HGField* field, HWND child)
     SendMessageA(child, EM_LIMITTEXT, static_cast<WPARAM>(limit), 0);
 }
 
-// The items of a list or a combo; null for another class.
-DataList* ItemsOf(HWND child)
+DataList* ListIn(HWND child)
 {
     char name[8] = {};
     GetClassNameA(child, name, sizeof name);
@@ -130,16 +129,29 @@ DataList* ItemsOf(HWND child)
     return std::strcmp(name, "HComb") == 0 ? HCGetList(child) : nullptr;
 }
 
+// The items of a list or a combo, whose record is packed; none for another class.
+DataList ItemsOf(HWND child)
+{
+    DataList              items = {};
+    const DataList* const list = ListIn(child);
+    if (list) {
+        std::memcpy(&items, list, sizeof items);
+    }
+    return items;
+}
+
 } // namespace
 
 int HGItemSize(HWND child, int index)
 {
-    DataList* const list = ItemsOf(child);
-    DataList        items = {};
-    if (list) {
-        std::memcpy(&items, list, sizeof items); // it stands in a packed record
-    }
+    DataList items = ItemsOf(child);
     return HDLGetDataSize(&items, index);
+}
+
+int HGItemCodeSize(HWND child, int index)
+{
+    DataList items = ItemsOf(child);
+    return HDLGetCodeSize(&items, index);
 }
 
 int HGCellCtlIndex(char kind)

@@ -3,6 +3,7 @@
 #include "griddata/cell_access.h"
 
 #include "griddata/grid_services.h"
+#include "griddata/griddata_internal.h"
 #include "griddata/item_buffer.h"
 
 #include <algorithm>
@@ -17,9 +18,10 @@ HGridData* DataOf(HGridCtl* ctl)
 
 // Zeroed bytes for one value: small ones stand on the stack, since every write and every parse needs some.
 struct TempBlock {
-    char  local[itemBufferSize];
-    char* p;
-    explicit TempBlock(size_t size) : p(local)
+    char   local[itemBufferSize];
+    size_t size;
+    char*  p;
+    explicit TempBlock(size_t bytes) : size(bytes), p(local)
     {
         if (size > sizeof local) {
             p = static_cast<char*>(HBlockAlloc(size));
@@ -158,15 +160,29 @@ int FinishWrite(HGridCtl* ctl, int col, int row, const void* written)
     return 1;
 }
 
-// Bounded: an item's text may be longer than the caller's room, and is cut then.
-void CopyLongItem(HWND child, WPARAM index, size_t size, char* out)
+// Bounded: an item's text may be longer than the caller's room, and is cut then. False if nothing was copied.
+bool CopyLongItem(HWND child, UINT message, WPARAM index, size_t size, char* out, size_t room)
 {
     char* const item = static_cast<char*>(HBlockAlloc(size + 1));
-    if (item && SendMessageA(child, HLM_GETDATA, index, reinterpret_cast<LPARAM>(item))) {
-        std::memcpy(out, item, itemBufferSize - 1);
-        out[itemBufferSize - 1] = 0;
+    const bool  copied = item && SendMessageA(child, message, index, reinterpret_cast<LPARAM>(item));
+    if (copied) {
+        std::memcpy(out, item, room - 1);
+        out[room - 1] = 0;
     }
     HBlockFree(item);
+    return copied;
+}
+
+// Whether the column is still there after a message to a cell control, whose procedure may be the host's.
+bool HasStayed(const HGridCtl* ctl, HWND hwnd, HGridData* grid, int col, const HGField* field)
+{
+    return (!hwnd || IsWindow(hwnd)) && ctl->pData == grid && HGGetField(grid, col) == field;
+}
+
+// The value's place in a row. Bounded: after a copy into a grid that wasn't empty, columns may reach past the rows.
+bool HoldsCell(const HGridData* grid, const HGField* field)
+{
+    return HGPlaceFits(grid, field->nOffset, HGCellSize(field));
 }
 
 // The bytes of the field's value, where a code is shown through its item: null if there is nothing to show.
@@ -188,7 +204,7 @@ const void* FormatSource(const HGField* field, const BYTE* cell, char* itemBuffe
 }
 
 // Overwrites parsed data by its code in the columns that store one. False if the cell control is missing.
-bool TranslateToCode(const HGField* field, char* block)
+bool TranslateToCode(const HGField* field, const TempBlock& block)
 {
     if (!(field->wFlags & HFF_CODE) || (field->cKind != 'd' && field->cKind != 'l')) {
         return true;
@@ -197,8 +213,13 @@ bool TranslateToCode(const HGField* field, char* block)
         return false;
     }
     const HWND child = field->pCtl->hWnd;
-    const LRESULT index = SendMessageA(child, HLM_FINDDATA, 0, reinterpret_cast<LPARAM>(block));
-    SendMessageA(child, HLM_GETCODE, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(block));
+    const LRESULT index = SendMessageA(child, HLM_FINDDATA, 0, reinterpret_cast<LPARAM>(block.p));
+    const WPARAM  item = static_cast<WPARAM>(index); // Settled: -1 goes on, and a list answers with its last item.
+    const size_t  size = static_cast<size_t>(std::max(0, HGItemCodeSize(child, static_cast<int>(index))));
+    if (size >= block.size) {
+        return CopyLongItem(child, HLM_GETCODE, item, size, block.p, block.size);
+    }
+    SendMessageA(child, HLM_GETCODE, item, reinterpret_cast<LPARAM>(block.p));
     return true;
 }
 
@@ -209,7 +230,7 @@ LRESULT HGFetchItem(HWND child, LRESULT index, char* out)
     const WPARAM item = static_cast<WPARAM>(index);
     const int    size = HGItemSize(child, static_cast<int>(index));
     if (size >= itemBufferSize) {
-        CopyLongItem(child, item, static_cast<size_t>(size), out);
+        CopyLongItem(child, HLM_GETDATA, item, static_cast<size_t>(size), out, itemBufferSize);
         return 1;
     }
     return SendMessageA(child, HLM_GETDATA, item, reinterpret_cast<LPARAM>(out));
@@ -218,16 +239,24 @@ LRESULT HGFetchItem(HWND child, LRESULT index, char* out)
 BYTE* HGCellPtr(HGridData* grid, int col, int row)
 {
     const HGField* const field = grid ? HGGetField(grid, col) : nullptr;
-    BYTE* const data = field ? HGRowData(grid, row) : nullptr;
+    BYTE* const data = field && HoldsCell(grid, field) ? HGRowData(grid, row) : nullptr;
     return data ? data + field->nOffset : nullptr;
 }
 
 BYTE* HGCellFlagsPtr(HGridData* grid, int col, int row)
 {
     BYTE* const data = grid ? HGRowData(grid, row) : nullptr;
-    const int pos = data ? HGColToPos(grid, col) : -1;
-    // Bounded: a column without a place in the map has no flag word.
-    return pos >= 0 ? data + grid->pRows->cbItem + (pos - HGColCount(grid)) * 2 : nullptr;
+    if (!data) {
+        return nullptr;
+    }
+    int pos = HGColToPos(grid, col);
+    // Bounded: a column that a map without upkeep doesn't reach has the flag word of its own number, and one that the
+    // map has lost has none.
+    if (pos < 0) {
+        pos = col >= HLListCount(grid->pFieldMap) ? col : -1;
+    }
+    const int place = grid->pRows->cbItem + (pos - HGColCount(grid)) * 2;
+    return pos >= 0 && HGPlaceFits(grid, place, 2) ? data + place : nullptr;
 }
 
 int HGWriteCell(HGridCtl* ctl, int col, int row, const void* value)
@@ -272,9 +301,10 @@ int HGFormatCell(HGridCtl* ctl, int col, int row, char* out, int outSize, int ed
     if (!cell || !IsCellKind(field->cKind)) {
         return 0;
     }
+    const HWND hwnd = ctl->hWnd;
     char itemBuffer[itemBufferSize] = {};
     const void* const source = FormatSource(field, cell, itemBuffer);
-    if (!source) {
+    if (!source || (source != cell && !HasStayed(ctl, hwnd, grid, col, field))) {
         return 0;
     }
     FormatData(source, field->cClass, field->cType, field->pszFormat, out, outSize, nullptr, editForm);
@@ -296,8 +326,9 @@ int HGParseCell(HGridCtl* ctl, int col, int row, const char* text)
     if (!block.p) {
         return 0;
     }
+    const HWND hwnd = ctl->hWnd;
     ParseData(block.p, field->cClass, field->cType, field->pszFormat, text, 0);
-    if (!IsCellKind(field->cKind) || !TranslateToCode(field, block.p)) {
+    if (!IsCellKind(field->cKind) || !TranslateToCode(field, block) || !HasStayed(ctl, hwnd, grid, col, field)) {
         return 0;
     }
     return HGWriteCell(ctl, col, row, block.p);
@@ -352,8 +383,20 @@ int WINAPI HGCopyCellData(HWND hwnd, int col, int rowFrom, int rowTo)
     HGridCtl* const ctl = HGFromWindow(hwnd);
     HGridData* const grid = DataOf(ctl);
     col = static_cast<short>(col);
-    return grid ? HGWriteCell(ctl, col, static_cast<short>(rowTo), HGCellPtr(grid, col, static_cast<short>(rowFrom)))
-                : 0;
+    const HGField* const field = grid ? HGGetField(grid, col) : nullptr;
+    if (!field) {
+        return 0;
+    }
+    const BYTE* const cell = HGCellPtr(grid, col, static_cast<short>(rowFrom));
+    // A copy: a row source may delete the row before its value is stored.
+    const TempBlock value(static_cast<size_t>(HGCellSize(field)));
+    if (cell && !value.p) {
+        return 0;
+    }
+    if (cell) {
+        std::memcpy(value.p, cell, value.size);
+    }
+    return HGWriteCell(ctl, col, static_cast<short>(rowTo), cell ? value.p : nullptr);
 }
 
 int WINAPI IsCellNull(HGridCtl* ctl, int col, int row)

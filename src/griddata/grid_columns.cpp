@@ -92,9 +92,7 @@ int PlaceField(HGridData* grid, HGField* field, int index, int mapPos)
     if (placed < 0) {
         RemoveMapEntry(grid, pos);
         grid->pRows->cbItem = size;
-        return -1;
     }
-    RaiseMapEntries(grid, placed, pos);
     return placed;
 }
 
@@ -202,6 +200,7 @@ int WINAPI HGInsertFld(HGridData* grid, HGField* field, short position)
     const int place = position < 0 || position > count ? count : position;
     const int index = PlaceField(grid, field, place, place);
     if (index >= 0) {
+        RaiseMapEntries(grid, index, std::min(place, HLListCount(grid->pFieldMap) - 1));
         HGFixOffsets(grid);
         OpenCells(grid, field, index);
     }

@@ -4,6 +4,8 @@
 
 #include "griddata/griddata_internal.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr short defaultHeight = 20;        // pixels
@@ -73,6 +75,16 @@ void CopyFields(HGridData* dest, HGridData* src)
     }
 }
 
+// As copying the list, but the count stays one that rows can be numbered by.
+void CopyRows(HGridData* dest, const HGridData* src)
+{
+    HLList* const from = src->pRows;
+    const int     count = std::min(HGRowCount(src), rowLimit - 1 - HGRowCount(dest));
+    for (int row = 0; row < count; row++) {
+        HLListAppend(dest->pRows, HGNodeData(HLListGetItem(from, row)));
+    }
+}
+
 } // namespace
 
 HGridData* WINAPI HGridCreate(const char* title, DWORD style, DWORD style2, WORD fixedCols, short rowHeight,
@@ -129,7 +141,7 @@ int WINAPI HGridCopy(HGridData* dest, HGridData* src)
     TakeRowSize(dest, HGRowSize(src));
     dest->pRows->dwUser = src->pRows->dwUser;
     CopyFields(dest, src);
-    HLListCopy(dest->pRows, src->pRows);
+    CopyRows(dest, src);
     HLListCopy(dest->pFieldMap, src->pFieldMap);
     SetTitle(dest, src->pszTitle);
     // From wVersion through cMinRows the settings stand together.

@@ -9,4 +9,5 @@ void HGRedrawSelection(HGridCtl* ctl);                  // invalidates the selec
 void HGInvalidateCell(HGridCtl* ctl, int col, int row); // -1 names a header
 void HGInvalidateRange(HGridCtl* ctl, int col1, int row1, int col2, int row2);
 int  HGItemSize(HWND child, int index);                 // bytes of an item's data, of a text its length; 0 if unknown
+int  HGItemCodeSize(HWND child, int index);             // the same of its code
 int  HGAddRow(HGridCtl* ctl, const void* data, bool markNew); // row index + 1; below 1 on failure

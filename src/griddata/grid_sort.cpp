@@ -181,7 +181,8 @@ bool SortByIndex(const SortJob& job)
 void HGSortRows(HGridData* grid, int col, bool ascending, DWORD* parallel)
 {
     const HGField* const field = HGGetField(grid, col);
-    if (!field) {
+    // Bounded: a column that reaches past the rows has no values to compare.
+    if (!field || !HGPlaceFits(grid, field->nOffset, HGCellSize(field))) {
         return;
     }
     const int rows = HGRowCount(grid) - (grid->dwStyle & HGS_NEWROW ? 1 : 0);

@@ -29,6 +29,12 @@ inline int HGCellSize(const HGField* field)
     return field && field->cbSize > 0 ? field->cbSize : 0;
 }
 
+// Whether bytes at a place of a row's data lie in it.
+inline bool HGPlaceFits(const HGridData* grid, int place, int size)
+{
+    return place >= 0 && place + size <= HGRowSize(grid);
+}
+
 // Bounded: under the style without a map there is nothing to keep up, and columns move as if the style were off.
 inline bool HGKeepsMap(const HGridData* grid)
 {

@@ -84,6 +84,10 @@ bool CheckMinute(DateTimeRec* rec, int repair)
 
 int WINAPI ValidDate(DateTimeRec* rec, int repair, int checkYear, int checkMonth, int checkDay)
 {
+    // Bounded: without a record there is nothing that passes.
+    if (!rec) {
+        return 0;
+    }
     if (checkYear && repair) {
         rec->year = static_cast<short>(ExpandYear(rec->year));
     }
@@ -99,6 +103,10 @@ int WINAPI ValidDate(DateTimeRec* rec, int repair, int checkYear, int checkMonth
 
 int WINAPI ValidTime(DateTimeRec* rec, int repair, int twelveHour, int checkHour, int checkMinute, int checkSecond)
 {
+    // Bounded: without a record there is nothing that passes.
+    if (!rec) {
+        return 0;
+    }
     bool passed = true;
     if (checkHour) {
         passed = twelveHour ? CheckBounds(&rec->hour, 1, 12, repair) : CheckBounds(&rec->hour, 0, 23, repair);

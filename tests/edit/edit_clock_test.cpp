@@ -72,4 +72,44 @@ TEST_F(EditClock, ClockWithoutAnHourTicksEachMinute)
     EXPECT_EQ(0, Shown()) << "the other one ticked first";
 }
 
+std::int64_t* gHanded;
+int CALLBACK NoteHanded(HWND, int, void* value)
+{
+    gHanded = static_cast<std::int64_t*>(value);
+    return 0;
+}
+
+TEST_F(EditClock, TwoClocksThatTickTogetherShowTheSameTime)
+{
+    Create("%kThh:mm:ss");
+    const HWND second = Create("%kThh:mm:ss");
+    Send(HEM_SETVALIDATOR, 0, reinterpret_cast<LPARAM>(NoteHanded));
+    gHanded = nullptr;
+    Send(WM_TIMER, 1);
+    ASSERT_NE(nullptr, gHanded);
+    EXPECT_EQ(Shown(), *gHanded) << "a validator sees the time";
+    SendMessageA(second, WM_TIMER, 1, 0);
+    const std::int64_t other = LoadAs<std::int64_t>(RecordOf<HEditCtl>(second)->pData);
+    EXPECT_LE(Shown(), other);
+    EXPECT_GE(Shown() + 2, other);
+}
+
+TEST_F(EditClock, TickInTheSameSecondChangesNothing)
+{
+    Create("%kThh:mm:ss");
+    std::int64_t value = 0;
+    LRESULT      selection = 0;
+    do {
+        value = _time64(nullptr);
+        Show(value);
+        SetSelection(Ctl(), 0, 2, 4);
+        Send(WM_TIMER, 1);
+        selection = Send(EM_GETSEL);
+    } while (_time64(nullptr) != value);
+    EXPECT_EQ(MAKELRESULT(2, 4), selection);
+    Show(value - 1);
+    Send(WM_TIMER, 1);
+    EXPECT_EQ(MAKELRESULT(0, 0), Send(EM_GETSEL)) << "another second does";
+}
+
 } // namespace

@@ -491,4 +491,71 @@ TEST_F(EditCommit, CaretGoesWithTheFocus)
     EXPECT_EQ(nullptr, info.hwndCaret);
 }
 
+TEST_F(EditCommit, CommitOfAShortTextKeepsNoCopyOfItsWholeBlock)
+{
+    Create("%ss16777215");
+    Replace("short");
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ("short", Value());
+    EXPECT_GT(100u, LastBlockSize());
+}
+
+int gId;
+int CALLBACK NoteId(HWND, int id, void*)
+{
+    gId = id;
+    return 0;
+}
+
+TEST_F(EditCommit, ValidatorOfACommitGetsTheWindowsIdAndElsewhereTheRecords)
+{
+    Create("%nl");
+    const HWND other = Create("abc");
+    Focus();
+    Send(HEM_SETVALIDATOR, 0, reinterpret_cast<LPARAM>(NoteId));
+    SetWindowLongPtrA(edit, GWLP_ID, 1234);
+    Replace("42");
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(1234, gId);
+    const int value = 5;
+    Send(HEM_SETDATA, 0, AsParam(&value));
+    EXPECT_EQ(7, gId);
+    gId = 0;
+    SetFocus(other);
+    EXPECT_EQ(7, gId) << "the call that follows the leaving";
+}
+
+TEST_F(EditCommit, VetoOfBadInputWithoutMemoryForTheOldValueForgetsTheFailureAlone)
+{
+    Create("%dl");
+    const int date = 20240517;
+    Send(HEM_SETDATA, 0, AsParam(&date));
+    Veto(HEN_BADINPUT);
+    Replace(DateText(31, 4, 2024).c_str());
+    FailAllocation(1);
+    EXPECT_EQ(0, CommitText(Ctl(), Ctl()->pszText));
+    EXPECT_TRUE(AllocationFailed());
+    FailAllocation(0);
+    EXPECT_EQ(20240430, LoadAs<int>(Ctl()->pData)) << "the repaired value: there is no old one";
+    EXPECT_FALSE(HasFlag(Ctl(), HEF_DIRTY));
+}
+
+TEST_F(EditValidation, FieldThatGotTheFocusBackKeepsItsCaretAndItsEditForm)
+{
+    Create("%nl#,##0;(#,##0)");
+    const int value = -4200;
+    Send(HEM_SETDATA, 0, AsParam(&value));
+    Focus();
+    Install(3);
+    Replace("-4300");
+    Blur();
+    ASSERT_EQ(edit, GetFocus());
+    EXPECT_FALSE(HasFlag(Ctl(), HEF_DISPLAY));
+    EXPECT_EQ('-', Text()[0]) << Text();
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetCurrentThreadId(), &info);
+    EXPECT_EQ(edit, info.hwndCaret);
+}
+
 } // namespace

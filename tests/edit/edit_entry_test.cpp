@@ -402,6 +402,27 @@ TEST_F(EditEntry, BlankStampsDateAndTime)
     EXPECT_NE(std::string::npos, Text().find(WWGetIntlInfo()->chTimeSep));
 }
 
+TEST_F(EditEntry, StampOfDateAndTimeInAFieldWithAStyleStandsButCountsAsRefused)
+{
+    Make("%as", HES_AUTOHSCROLL);
+    Key(' ');
+    char year[8];
+    SYSTEMTIME now = {};
+    GetLocalTime(&now);
+    std::snprintf(year, sizeof year, "%d", now.wYear);
+    EXPECT_NE(std::string::npos, Text().find(year));
+    EXPECT_FALSE(HasFlag(Ctl(), HEF_DIRTY));
+    EXPECT_EQ(Codes(), Told());
+}
+
+TEST_F(EditEntry, FieldOfNoCharactersTellsOfEachOne)
+{
+    Make("%ss0abc", HES_AUTOHSCROLL);
+    Keys("xy");
+    EXPECT_EQ("", Text());
+    EXPECT_EQ((Codes{ HEN_MAXTEXT, HEN_MAXTEXT }), Told());
+}
+
 TEST_F(EditEntry, BlankInAnotherDateTypeIsAnEntryStep)
 {
     Make("%dldd.mm.yyyy");

@@ -77,4 +77,44 @@ TEST_F(EditFrame, FieldTooSmallForItsFrameHasAnEmptyClientArea)
     }
 }
 
+TEST_F(EditFrame, FrameIsPaintedAnewAfterTheScrollBarMovedOrGotAnotherRange)
+{
+    Create(std::string(100, 'x').c_str(), HES_FRAME | WS_HSCROLL, 100, 50);
+    const Pixels whole = ShotOfWindow(edit);
+    const auto   spoil = [this] {
+        const HDC  dc = GetWindowDC(edit);
+        const RECT top = { 0, 0, 100, 2 };
+        FillRect(dc, &top, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+        ReleaseDC(edit, dc);
+    };
+    const auto lookAtTop = [&](const char* what) {
+        const HDC dc = GetWindowDC(edit);
+        EXPECT_EQ(whole.At(50, 0), GetPixel(dc, 50, 0)) << what;
+        EXPECT_EQ(whole.At(50, 1), GetPixel(dc, 50, 1)) << what;
+        ReleaseDC(edit, dc);
+    };
+    ASSERT_FALSE(whole.At(50, 0) == 0 && whole.At(50, 1) == 0) << "the frame isn't black";
+    spoil();
+    ScrollBy(Ctl(), 7);
+    lookAtTop("position");
+    spoil();
+    SendText(HEM_SETDATA, 0, std::string(150, 'x').c_str());
+    lookAtTop("range");
+}
+
+TEST_F(EditFrame, FrameInsideABorderIsARidge)
+{
+    for (const DWORD border : { DWORD{ 0 }, DWORD{ WS_BORDER } }) {
+        edit = nullptr;
+        AnswerColors(GetSysColorBrush(COLOR_WINDOW));
+        Create("", HES_FRAME | border, 100, 30);
+        const Pixels painted = ShotOfWindow(edit);
+        HNCPaint(edit, border ? 0 : 1);
+        EXPECT_FALSE(SamePixels(painted, ShotOfWindow(edit))) << border;
+        HNCPaint(edit, border ? 1 : 0);
+        EXPECT_TRUE(SamePixels(painted, ShotOfWindow(edit))) << border;
+        DestroyWindow(edit);
+    }
+}
+
 } // namespace

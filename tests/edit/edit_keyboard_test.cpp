@@ -309,6 +309,54 @@ TEST_F(EditCaret, F2OnATextThatIsRefusedShowsTheRepairedValue)
     EXPECT_EQ(Codes{ HEN_KILLFOCUS }, Told()) << "what shows is a date";
 }
 
+TEST_F(EditKeyboard, EndOfAVeryLongTextIsItsCharacter32767)
+{
+    Make("", HES_AUTOHSCROLL);
+    SendText(HEM_SETDATA, 0, std::string(33000, 'x').c_str());
+    Send(WM_KEYDOWN, VK_END);
+    EXPECT_EQ(32767, +Ctl()->nCaret);
+}
+
+TEST_F(EditKeyboard, DisplayFormIsNotReadWhereTheFocusGoesWithF2Down)
+{
+    Make("%nl0;(0)");
+    const int value = -42;
+    Send(HEM_SETDATA, 0, AsParam(&value));
+    Send(WM_KEYDOWN, VK_F2);
+    EXPECT_EQ("(42)", Text());
+    Send(EM_SETSEL, 0, -1);
+    TypeText("7");
+    Blur();
+    EXPECT_EQ(-42, Number());
+    EXPECT_EQ("(42)", Text());
+}
+
+TEST_F(EditKeyboard, DateInWordsIsNotReadWhereTheFocusGoesWithF2Down)
+{
+    Make("%dldddd, dd. mmmm yyyy");
+    const int date = 20240517;
+    Send(HEM_SETDATA, 0, AsParam(&date));
+    Send(WM_KEYDOWN, VK_F2);
+    const std::string words = Text();
+    Send(WM_CHAR, '7');
+    Blur();
+    EXPECT_EQ(date, Number());
+    EXPECT_EQ(words, Text());
+}
+
+TEST_F(EditKeyboard, AskingForTheValueWithF2DownReadsNoDisplayForm)
+{
+    Make("%nl0;(0)");
+    const int value = -42;
+    Send(HEM_SETDATA, 0, AsParam(&value));
+    Send(WM_KEYDOWN, VK_F2);
+    TypeText("7");
+    EXPECT_EQ(-42, Number());
+    EXPECT_TRUE(HasFlag(Ctl(), HEF_DISPLAY)) << "the key is still down";
+    Send(WM_KEYUP, VK_F2);
+    EXPECT_EQ("-42", Text());
+}
+
 TEST_F(EditKeyboard, KeysOfAFieldInDisplayFormDoNothing)
 {
     Create("abc");

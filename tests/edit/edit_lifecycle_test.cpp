@@ -1,6 +1,7 @@
 // Birth and death of edit controls.
 #include "edit_window.h"
 #include "support/guarded_memory.h"
+#include "support/import_hook.h"
 
 namespace {
 
@@ -163,6 +164,40 @@ TEST_F(EditLifecycle, MessagesToAWindowWithoutARecordGoToTheDefault)
     SendMessageA(edit, WM_NCDESTROY, 0, 0);
     EXPECT_EQ(0, Send(HEM_GETLIMIT));
     EXPECT_EQ(0, Send(HEM_GETTEXTPTR));
+}
+
+std::vector<UINT_PTR> gKilled;
+BOOL WINAPI NoteKill(HWND, UINT_PTR timer)
+{
+    gKilled.push_back(timer);
+    return TRUE;
+}
+
+TEST_F(EditLifecycle, DestructionEndsTheClocksTimer)
+{
+    Create("%kThh:mm:ss");
+    const ImportHook hook("KillTimer", NoteKill);
+    gKilled.clear();
+    DestroyWindow(edit);
+    EXPECT_EQ(std::vector<UINT_PTR>{ 1 }, gKilled);
+}
+
+DWORD gWindowColor;
+DWORD WINAPI AnswerSysColor(int)
+{
+    return gWindowColor;
+}
+
+TEST_F(EditLifecycle, FocusBrushIsWhiteWhereWindowsAreNot)
+{
+    const ImportHook hook("GetSysColor", AnswerSysColor);
+    for (const DWORD color : { RGB(255, 255, 254), RGB(255, 255, 255) }) {
+        gWindowColor = color;
+        edit = nullptr;
+        Create("abc", HES_FOCUSBRUSH);
+        EXPECT_EQ(GetStockObject(color == RGB(255, 255, 255) ? LTGRAY_BRUSH : WHITE_BRUSH),
+                  reinterpret_cast<HGDIOBJ>(Send(HEM_GETFOCUSBRUSH)));
+    }
 }
 
 } // namespace

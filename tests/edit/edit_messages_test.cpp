@@ -152,6 +152,32 @@ TEST_F(EditMessages, SetScrollScrollsToThePosition)
     }
 }
 
+TEST_F(EditMessages, ScrollPositionsOutOfRangeStopAtTheEnds)
+{
+    Create(std::string(100, 'x').c_str(), HES_AUTOHSCROLL);
+    Send(HEM_SETSCROLL, 1000);
+    EXPECT_EQ(+Ctl()->nScrollMax, Send(HEM_GETSCROLL));
+    Send(HEM_SETSCROLL, static_cast<WPARAM>(-5));
+    EXPECT_EQ(0, Send(HEM_GETSCROLL));
+}
+
+TEST_F(EditMessages, NewColorRepaintsWithoutErasing)
+{
+    Create("abc");
+    const HBRUSH brush = CreateSolidBrush(RGB(200, 255, 255));
+    AnswerColors(brush);
+    UpdateWindow(edit);
+    asked.clear();
+    Send(HEM_SETCOLOR, 0, RGB(10, 20, 30));
+    UpdateWindow(edit);
+    EXPECT_TRUE(asked.empty()) << "erasing asks the parent for its brush";
+    InvalidateRect(edit, nullptr, TRUE);
+    UpdateWindow(edit);
+    EXPECT_FALSE(asked.empty());
+    DestroyWindow(edit);
+    DeleteObject(brush);
+}
+
 TEST_F(EditMessages, CommitStoresTheTextAndGivesZeroForSuccess)
 {
     Create("%nl");

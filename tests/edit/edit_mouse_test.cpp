@@ -95,6 +95,36 @@ TEST_F(EditMouse, DoubleClickBehindTheTextSelectsTheLastWord)
     EXPECT_EQ(MAKELRESULT(4, 7), Selection());
 }
 
+TEST_F(EditMouse, DoubleClickNearTheMarginSelectsTheWordThatIsUnderThePointer)
+{
+    std::string words;
+    for (int i = 0; i < 25; ++i) {
+        words += "abc ";
+    }
+    Make(words.c_str());
+    Focus();
+    SetSelection(Ctl(), 0, 0, 0);
+    ASSERT_EQ(0, +Ctl()->nScroll);
+    const int x = static_cast<int>(TextRect().right) - 3;
+    const int index = CharAtPoint(Ctl(), x);
+    Send(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(x, 8));
+    Send(WM_LBUTTONUP, 0, MAKELPARAM(x, 8));
+    EXPECT_LT(0, +Ctl()->nScroll) << "the press scrolls";
+    const int word = index / 4 * 4;
+    EXPECT_EQ(MAKELRESULT(word, word + 4), Selection());
+}
+
+TEST_F(EditMouse, HostMayShortenTheTextInADoubleClick)
+{
+    Make(std::string(100, 'x').c_str());
+    Focus();
+    SetSelection(Ctl(), 0, 0, 0);
+    parent.On(HEN_HSCROLL, [this] { SendText(HEM_SETDATA, 0, "ab"); });
+    Send(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(TextRect().right - 3, 8));
+    Send(WM_LBUTTONUP, 0, MAKELPARAM(3, 8));
+    EXPECT_EQ(MAKELRESULT(0, 2), Selection());
+}
+
 TEST_F(EditMouse, StaticFieldTakesTheFocusAndNothingElse)
 {
     Make("one two three", HES_STATIC);
@@ -144,6 +174,10 @@ TEST_F(EditMouse, ClickOnAStaticFieldOpensTheComboThatItIsTheFaceOf)
                                           combo, reinterpret_cast<HMENU>(1), GetModuleHandleA(nullptr), nullptr);
         SendMessageA(face, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
         EXPECT_EQ(row.opens ? std::vector<WPARAM>{ VK_F4 } : std::vector<WPARAM>{}, gComboKeys) << row.className;
+        EXPECT_EQ(face, GetFocus());
+        seen.Clear();
+        SendMessageA(face, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+        EXPECT_EQ(row.opens ? 2u : 0u, gComboKeys.size()) << row.className << ", with the focus already";
         DestroyWindow(combo);
     }
 }
@@ -157,6 +191,14 @@ TEST_F(EditMouse, CursorFollowsStyleAndFocus)
     EXPECT_EQ(hCurIBeam, GetCursor());
     Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(edit), MAKELPARAM(HTHSCROLL, WM_MOUSEMOVE));
     EXPECT_EQ(hCurArrow, GetCursor()) << "over the scroll bar";
+    Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(edit), MAKELPARAM(HTVSCROLL, WM_MOUSEMOVE));
+    EXPECT_EQ(hCurArrow, GetCursor()) << "over the other one";
+    Blur();
+    const HCURSOR ofClass = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_CROSS));
+    SetClassLongPtrA(edit, GCLP_HCURSOR, reinterpret_cast<LONG_PTR>(ofClass));
+    Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(edit), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    EXPECT_EQ(ofClass, GetCursor()) << "without the focus it is the default's";
+    SetClassLongPtrA(edit, GCLP_HCURSOR, reinterpret_cast<LONG_PTR>(hCurIBeam));
     Make("abc", HES_STATIC);
     SetCursor(hCurIBeam);
     EXPECT_EQ(1, Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(edit), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));

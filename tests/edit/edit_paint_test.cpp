@@ -220,6 +220,18 @@ TEST_F(EditPaint, FocusBrushFillsTheFocusedField)
     DeleteObject(own);
 }
 
+TEST_F(EditPaint, FocusedFieldWithoutAFocusBrushTakesItsOwn)
+{
+    Make("", HES_FOCUSBRUSH);
+    const HBRUSH own = CreateSolidBrush(otherInk);
+    Send(HEM_SETFOCUSBRUSH, 0);
+    Send(HEM_SETBRUSH, reinterpret_cast<WPARAM>(own));
+    Focus();
+    EXPECT_EQ(otherInk, ShotOf(edit).At(50, 10));
+    Send(HEM_SETBRUSH, 0);
+    DeleteObject(own);
+}
+
 TEST_F(EditPaint, FocusBrushIsNotForAGivenRect)
 {
     Make("", HES_FOCUSBRUSH);

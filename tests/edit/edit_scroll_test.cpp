@@ -170,4 +170,18 @@ TEST_F(EditScroll, HostMayDestroyTheFieldWhenItScrolls)
     EXPECT_FALSE(IsWindow(edit));
 }
 
+TEST_F(EditScroll, ScrollBarPlacesTheCaretOfAFocusedField)
+{
+    Create(longText.c_str(), WS_HSCROLL | HES_KEEPSEL, 200, 40);
+    Focus();
+    SetSelection(Ctl(), 0, 5, 5);
+    for (const WPARAM code : { SB_LINEDOWN, SB_PAGEDOWN, SB_LINEUP, SB_PAGEUP }) {
+        SetCaretPos(150, 0);
+        Send(WM_HSCROLL, code);
+        POINT caret = {};
+        GetCaretPos(&caret);
+        EXPECT_EQ(CaretX(Ctl(), 5), caret.x) << "code " << code;
+    }
+}
+
 } // namespace

@@ -179,6 +179,24 @@ TEST_F(EditSelection, NewlySelectedCharactersArePaintedOver)
     EXPECT_EQ(TextRect().bottom, Update().bottom);
 }
 
+TEST_F(EditSelection, OnlyNoLongerSelectedCharactersAskForErasing)
+{
+    Create("abcdef", HES_KEEPSEL);
+    const HBRUSH brush = CreateSolidBrush(RGB(200, 255, 255));
+    AnswerColors(brush);
+    SetSelection(Ctl(), 0, 1, 3);
+    UpdateWindow(edit);
+    asked.clear();
+    SetSelection(Ctl(), 1, 0, 5);
+    UpdateWindow(edit);
+    EXPECT_TRUE(asked.empty()) << "more is selected";
+    SetSelection(Ctl(), 1, 0, 2);
+    UpdateWindow(edit);
+    EXPECT_FALSE(asked.empty()) << "less is selected";
+    DestroyWindow(edit);
+    DeleteObject(brush);
+}
+
 TEST_F(EditSelection, NoLongerSelectedCharactersAreErased)
 {
     Create("abcdef", HES_KEEPSEL);

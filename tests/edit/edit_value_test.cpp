@@ -375,6 +375,18 @@ TEST_F(EditValue, SetTextLongerThanAMaskIsSafe)
     EXPECT_EQ("loose text", Value()) << "an empty mask takes all";
 }
 
+TEST_F(EditValue, LinkedBufferOfAnEmptyMaskIsNotOverrun)
+{
+    Create("%ms");
+    ASSERT_EQ(1, Send(HEM_GETDATASIZE));
+    char* const linked = static_cast<char*>(HBlockAlloc(1)); // a guarded page lies behind it
+    Send(HEM_LINKDATA, 0, AsParam(linked));
+    SendText(WM_SETTEXT, 0, "loose text");
+    EXPECT_EQ('\0', *linked);
+    DestroyWindow(edit);
+    HBlockFree(linked);
+}
+
 TEST_F(EditValue, SetTextWithoutMemoryLeavesAFieldThatAnswers)
 {
     constexpr int allocations = 4; // the copy of the window text, the text, the value, the format
@@ -422,6 +434,39 @@ TEST_F(EditValue, LimitTextCutsWhatIsLonger)
     EXPECT_EQ("abc", Text());
     EXPECT_EQ("abc", Value());
     EXPECT_EQ(MAKELRESULT(3, 3), Send(EM_GETSEL));
+}
+
+TEST_F(EditValue, TakingTheLimitAwayCutsNothing)
+{
+    const std::string typed(40, 't');
+    const std::string value(50, 'v');
+    for (const WPARAM none : { WPARAM{ 0 }, static_cast<WPARAM>(-5) }) {
+        edit = nullptr;
+        Create("");
+        SendText(HEM_SETDATA, 0, value.c_str());
+        Replace(typed.c_str());
+        EXPECT_EQ(1, Send(EM_LIMITTEXT, none));
+        EXPECT_EQ(typed, Text()) << "the text that was typed";
+        EXPECT_EQ(value, static_cast<const char*>(Ctl()->pData)) << "the value";
+        EXPECT_EQ(50, Send(HEM_GETLIMIT));
+        Focus();
+        TypeKey(VK_END);
+        TypeText("x");
+        EXPECT_EQ(value, Text().substr(0, 50)) << "it was shown anew with the focus";
+        Blur();
+    }
+}
+
+TEST_F(EditValue, TakingTheLimitAwayKeepsATextThatIsLongerThanTheValue)
+{
+    Create("", HES_AUTOHSCROLL);
+    Send(EM_LIMITTEXT, 60);
+    const std::string typed(55, 't');
+    Replace(typed.c_str());
+    Send(EM_LIMITTEXT, 0);
+    EXPECT_EQ(typed, Text());
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(typed, Value());
 }
 
 TEST_F(EditValue, LimitTextOfADateIsRefused)

@@ -388,4 +388,20 @@ TEST(HEParseWinText, FailedAllocationOfATextFieldIsTold)
     FailAllocation(0);
 }
 
+TEST(HEParseWinText, ThirdValueIsNoBound)
+{
+    EditRecord edit("%nl|1;2;3|");
+    EXPECT_EQ(3, +edit.ctl.wBounds) << "the bits of the two bounds";
+    EXPECT_EQ(1, +edit.ctl.dMin);
+    EXPECT_EQ(2, +edit.ctl.dMax);
+}
+
+TEST(HEParseWinText, TextOfNoCharactersHasNoInitialText)
+{
+    EditRecord edit("%ss0abc");
+    EXPECT_EQ(0, +edit.ctl.cchMax);
+    EXPECT_EQ("", edit.Text());
+    EXPECT_TRUE(HasFlag(&edit.ctl, HEF_LIMITED));
+}
+
 } // namespace

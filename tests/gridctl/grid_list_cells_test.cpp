@@ -122,4 +122,68 @@ TEST_F(GridListCells, SortsByWhatTheCellsShow)
     EXPECT_EQ("red", CellText(0, 3));
 }
 
+TEST_F(GridListCells, TextThatTheListDoesNotKnowIsStoredAsItsLastItem)
+{
+    MakeColumn(true);
+    EXPECT_EQ(1, HGSetCellText(grid, 0, 1, "typo"));
+    EXPECT_EQ(2, Stored(1));
+    EXPECT_EQ("blue", CellText(0, 1));
+}
+
+TEST_F(GridListCells, UnknownCodeShowsNothingAndSortsAsTheLastItem)
+{
+    MakeColumn(true);
+    Store(0, 3);
+    Store(1, 99);
+    Store(2, 1);
+    Store(3, 2);
+    EXPECT_EQ("", CellText(0, 1));
+    HGSortRows(ctl->pData, 0, true, nullptr);
+    EXPECT_EQ(99, Stored(0)) << "it is as high as blue, and stood before it";
+    EXPECT_EQ(2, Stored(1));
+    EXPECT_EQ(1, Stored(2));
+    EXPECT_EQ(3, Stored(3));
+}
+
+TEST_F(GridListCells, LongCodeIsCutToTheCell)
+{
+    for (const char kind : { 'l', 'd' }) {
+        SCOPED_TRACE(kind);
+        MakeGrid(GridOf({ HGFieldCreate("Long", HFF_CODE, 80, 60, 's', 's', 's', 's', 16, kind, 0, "", 0) }), 1);
+        const std::string code(100000, 'c'); // far longer than what stands on the stack
+        const auto add = kind == 'l' ? HLAddItemEx : HCAddItemEx;
+        EXPECT_EQ(0, add(ChildOf(0), "red", code.c_str()));
+        EXPECT_EQ(1, HGSetCellText(grid, 0, 0, "red"));
+        EXPECT_STREQ("ccccccccccccccc", reinterpret_cast<const char*>(HGCellPtr(ctl->pData, 0, 0)));
+        DestroyWindow(grid);
+    }
+}
+
+WNDPROC gRealList;
+UINT    gLastWord; // the message in which the list ends its grid
+LRESULT CALLBACK EndingList(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == gLastWord) {
+        DestroyWindow(GetParent(hwnd));
+        return -1;
+    }
+    return CallWindowProcA(gRealList, hwnd, message, wParam, lParam);
+}
+
+TEST_F(GridListCells, WrappedListMayEndTheGridWhileACellIsReadOrWritten)
+{
+    for (const UINT message : { UINT{ HLM_FINDDATA }, UINT{ HLM_FINDCODE } }) {
+        MakeColumn(true);
+        gLastWord = message;
+        const LONG_PTR ending = reinterpret_cast<LONG_PTR>(EndingList);
+        gRealList = reinterpret_cast<WNDPROC>(SetWindowLongPtrA(ChildOf(0), GWLP_WNDPROC, ending));
+        if (message == HLM_FINDDATA) {
+            EXPECT_EQ(0, HGSetCellText(grid, 0, 0, "red"));
+        } else {
+            EXPECT_EQ("", CellText(0, 0));
+        }
+        EXPECT_FALSE(IsWindow(grid));
+    }
+}
+
 } // namespace

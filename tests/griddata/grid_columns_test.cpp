@@ -1,4 +1,5 @@
 // Changes of columns in grids with rows: where the bytes go, with and without a column order map.
+#include "griddata/cell_access.h"
 #include "griddata/grid_maker.h"
 
 namespace {
@@ -38,6 +39,14 @@ TEST(AddField, AddsAMapEntryUnderTheStyle)
 {
     const GridPtr grid = GridOf({ Number("a"), Number("b"), Number("c") }, HGS_COLMAP);
     EXPECT_EQ((Numbers{ 0, 1, 2 }), MapEntries(grid.get()));
+}
+
+TEST(AddField, LeavesTheOtherMapEntriesAsTheyAre)
+{
+    const GridPtr grid = GridOf({ Number("a") }, HGS_COLMAP);
+    StoreAs<short>(HNodePayload(HLListGetItem(grid->pFieldMap, 0)), 5);
+    EXPECT_EQ(1, HGAddFld(grid.get(), Number("b")));
+    EXPECT_EQ((Numbers{ 5, 1 }), MapEntries(grid.get()));
 }
 
 TEST(AddField, NeedsGridAndField)
@@ -142,6 +151,24 @@ TEST(InsertField, WithAMapButWithoutTheStyleLeavesTheMap)
     EXPECT_EQ("a1", TextAt(grid.get(), 1, 1));
     EXPECT_EQ("b1", TextAt(grid.get(), 2, 1));
     EXPECT_EQ("c1", TextAt(grid.get(), 3, 1));
+}
+
+TEST(InsertField, BehindAMapWithoutTheStyleHasTheFlagWordOfItsNumber)
+{
+    const GridPtr grid = FilledGrid();
+    HGCreateFldMap(grid.get());
+    EXPECT_EQ(3, HGInsertFld(grid.get(), Text("new", 3), -1));
+    BYTE* const end = HGRowData(grid.get(), 1) + grid->pRows->cbItem;
+    EXPECT_EQ(end - 2, HGCellFlagsPtr(grid.get(), 3, 1));
+    EXPECT_EQ(end - 8, HGCellFlagsPtr(grid.get(), 0, 1));
+}
+
+TEST(CellFlags, OfAColumnThatTheMapHasLostAreNotThere)
+{
+    const GridPtr grid = FilledGrid();
+    HGCreateFldMap(grid.get());
+    StoreAs<LONG>(HNodePayload(HLListGetItem(grid->pFieldMap, 0)), 9);
+    EXPECT_EQ(nullptr, HGCellFlagsPtr(grid.get(), 0, 1));
 }
 
 TEST(RemoveField, TakesTheValueOutOfEveryRow)

@@ -189,4 +189,17 @@ TEST(Scaling, LeavesSizesAloneWhileTheSwitchIsOff)
     fDpiScaling = before;
 }
 
+TEST(FieldCreate, TakesTheSizeOfAMaskedCodeFromTheFormat)
+{
+    const FieldPtr field(HGFieldCreate("a", HFF_CODE, 50, 50, 'n', 'd', 'm', 's', 99, 'l', 0, "##-##", 0));
+    EXPECT_EQ(6, field->cbSize);
+}
+
+TEST(FieldCreate, CutsHeightAndBandToTheirFields)
+{
+    const FieldPtr field(HGFieldCreate("a", 0, 50, 40000, 'n', 'd', 0, 0, 0, 'e', 0, "", 200));
+    EXPECT_EQ(40000 - 65536, field->nHeight);
+    EXPECT_EQ(200 - 256, field->nBand);
+}
+
 } // namespace

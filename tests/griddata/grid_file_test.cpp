@@ -161,12 +161,27 @@ TEST(GridSave, DoesNotLookAtTheResultOfALength)
     struct {
         int refused;
         int result;
-    } const rows[] = { { 6, 0 }, { 7, 1 }, { 8, 0 } }; // header height, length of the title, title
+    } const rows[] = {
+        { 6, 0 },  { 7, 1 },  { 8, 0 },  // header height, length of the title, title
+        { 22, 1 }, { 23, 0 },            // length of the first caption, caption
+        { 24, 1 }, { 36, 1 }, { 37, 0 }, // lengths of both formats, the second format
+    };
     for (const auto& row : rows) {
         Refusal target;
         target.refused = row.refused;
         EXPECT_EQ(row.result, HGSave(Refusal::Write, &target, 0x484A, grid.get())) << row.refused;
     }
+}
+
+TEST(GridSave, WritesOfAVeryLongTextWhatItsLengthHoldsOfIt)
+{
+    const std::string longTitle = std::string(65536, 't') + "end";
+    const GridPtr     grid = EmptyGrid(0, longTitle.c_str());
+    const Bytes       bytes = SavedBytes(grid.get(), 0x484A);
+    const GridPtr     loaded(LoadBytes(bytes));
+    ASSERT_NE(nullptr, loaded);
+    EXPECT_STREQ("ttt", loaded->pszTitle);
+    EXPECT_EQ(SavedBytes(EmptyGrid(0, "ttt").get(), 0x484A), bytes);
 }
 
 TEST(GridSave, WritesNothingForAnEmptyText)
@@ -411,6 +426,55 @@ TEST(GridLoadBytes, RefusesFieldsThatHaveNoRoomInARow)
         EXPECT_EQ(2, HGColCount(grid.get())) << "the third would stand at 65024";
     }
     EXPECT_EQ(live, LiveBlocks());
+}
+
+// Reads bytes, notes what is asked for, and tells of one call that it failed, which brings nothing.
+struct NotingReader {
+    GridBytes        source;
+    int              refused = 0;
+    std::vector<int> counts;
+
+    static int CALLBACK Read(void* context, void* buffer, int count)
+    {
+        NotingReader* const self = static_cast<NotingReader*>(context);
+        self->counts.push_back(count);
+        if (static_cast<int>(self->counts.size()) == self->refused) {
+            self->source.at += static_cast<size_t>(count);
+            return 1;
+        }
+        return GridBytes::Read(&self->source, buffer, count);
+    }
+};
+
+TEST(GridLoadBytes, AsksForEachValueByItsSize)
+{
+    NotingReader reader;
+    reader.source.bytes = version4A;
+    const GridPtr grid(HGLoad(NotingReader::Read, &reader));
+    const std::vector<int> expected = { 2, 4, 2, 2, 2, 2, 2, 3, 4, 2, 2,           // to the number of fields
+                                        2, 2, 2, 2, 1, 1, 1, 1, 1, 4, 2, 4, 2,     // a caption, no format
+                                        2, 2, 2, 2, 1, 1, 1, 1, 1, 4, 2, 2, 8 };   // no caption, a format
+    EXPECT_EQ(expected, reader.counts);
+}
+
+TEST(GridLoadBytes, GoesOnBehindALengthThatCannotBeRead)
+{
+    NotingReader reader;
+    reader.source.bytes = version4A;
+    reader.refused = 35; // the length of the second caption, which is empty
+    const GridPtr grid(HGLoad(NotingReader::Read, &reader));
+    ExpectSampleFields(grid.get());
+}
+
+TEST(GridLoadBytes, GivesAGridWithoutFieldsIfTheirNumberCannotBeRead)
+{
+    NotingReader reader;
+    reader.source.bytes = version4A;
+    reader.refused = 11;
+    const GridPtr grid(HGLoad(NotingReader::Read, &reader));
+    ASSERT_NE(nullptr, grid);
+    EXPECT_EQ(0, HGColCount(grid.get()));
+    EXPECT_STREQ("Tit", grid->pszTitle);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // Grid definitions: defaults, copies, comparing, lookups, and what a copy leaves behind.
+#include "griddata/cell_access.h"
 #include "griddata/grid_maker.h"
 
 namespace {
@@ -174,6 +175,39 @@ TEST(GridCopy, IntoANonEmptyTargetAppendsTheRows)
     EXPECT_EQ(10, dest->pRows->cbItem);
     EXPECT_EQ("old", TextAt(dest.get(), 0, 0));
     EXPECT_EQ("new", TextAt(dest.get(), 1, 3));
+}
+
+TEST(GridCopy, ColumnsThatReachPastTheCopiedRowsHaveNoCells)
+{
+    const GridPtr src = GridOf({ Number("short") }, 0, 2);
+    const GridPtr dest = GridOf({ Text("long", 100) }, 0, 0);
+    EXPECT_EQ(1, HGridCopy(dest.get(), src.get()));
+    ASSERT_EQ(2, HGRowCount(dest.get()));
+    EXPECT_EQ(6, dest->pRows->cbItem);
+    EXPECT_EQ(nullptr, HGCellPtr(dest.get(), 0, 0)) << "100 bytes in a row of 6";
+    EXPECT_EQ(HGRowData(dest.get(), 0), HGCellPtr(dest.get(), 1, 0));
+    SetCell<LONG>(dest.get(), 1, 0, 7);
+    HGSortRows(dest.get(), 0, true, nullptr);
+    EXPECT_EQ(7, CellOf<LONG>(dest.get(), 1, 0)) << "there is nothing to sort by";
+}
+
+TEST(GridCopy, ColumnsWhoseFlagWordWouldStandBeforeTheRowHaveNone)
+{
+    const GridPtr src = GridOf({ Number("one") }, 0, 1);
+    const GridPtr dest = GridOf({ Number("a"), Number("b"), Number("c"), Number("d"), Number("e") }, 0, 0);
+    HGridCopy(dest.get(), src.get());
+    ASSERT_EQ(6, dest->pRows->cbItem);
+    EXPECT_EQ(nullptr, HGCellFlagsPtr(dest.get(), 0, 0));
+    EXPECT_EQ(nullptr, HGCellFlagsPtr(dest.get(), 2, 0));
+    EXPECT_EQ(HGRowData(dest.get(), 0) + 4, HGCellFlagsPtr(dest.get(), 5, 0));
+}
+
+TEST(GridCopy, KeepsTheRowsBelowTheirLimit)
+{
+    const GridPtr src = GridOf({ Number("a") }, 0, 20000);
+    const GridPtr dest = GridOf({ Number("b") }, 0, 20000);
+    EXPECT_EQ(1, HGridCopy(dest.get(), src.get()));
+    EXPECT_EQ(rowLimit - 1, HGRowCount(dest.get()));
 }
 
 TEST(GridCopy, ATargetWithoutAMapStaysWithoutOne)

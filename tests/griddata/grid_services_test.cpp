@@ -1,5 +1,6 @@
 // What the data side of a grid asks of others, with stand-ins for them: base units, the screen's resolution, the
 // editor of a column that goes, the windows of cell controls, and the list behind codes. Native only.
+#include "griddata/grid_bytes.h"
 #include "griddata/grid_maker.h"
 
 #include "foundation/screen.h"
@@ -112,6 +113,22 @@ TEST_F(GridServices, ColumnsFollowTheResolutionOnceMoreWithEachCopy)
     fDpiRead = 0;
 }
 
+TEST_F(GridServices, ColumnsFollowTheResolutionOnceMoreWhenTheyAreLoaded)
+{
+    const GridPtr           grid = GridOf({ HGFieldCreate("a", 0, 40, 60, 's', 's', 0, 0, 5, 'e', 0, "", 0) });
+    const std::vector<BYTE> bytes = SavedBytes(grid.get(), 0x484A);
+    const int               before = fDpiScaling;
+    fDpiScaling = 1;
+    Native().dpiX = 192;
+    Native().dpiY = 192;
+    fDpiRead = 0;
+    const GridPtr loaded(LoadBytes(bytes));
+    EXPECT_EQ(ScaleX(40), HGGetField(loaded.get(), 0)->nWidth);
+    EXPECT_NE(40, HGGetField(loaded.get(), 0)->nWidth);
+    fDpiScaling = before;
+    fDpiRead = 0;
+}
+
 TEST_F(GridServices, RemovingAColumnEndsTheEditOfTheCurrentOneWhicheverItIs)
 {
     const GridPtr grid = GridOf({ Number("a"), Number("b") }, 0, 1);
@@ -208,20 +225,22 @@ protected:
         const auto found = std::find(items.begin(), items.end(), data);
         return found == items.end() ? -1 : static_cast<int>(found - items.begin());
     }
+    // As a list does, which answers the index -1 with its last item.
+    int ItemAt(int index) const { return index < 0 ? static_cast<int>(items.size()) - 1 : index; }
     int CopyData(int index, char* out) const
     {
-        if (!Has(index)) {
+        if (!Has(ItemAt(index))) {
             return 0;
         }
-        _fstrnzcpy(out, items[static_cast<size_t>(index)].c_str(), 256);
+        _fstrnzcpy(out, items[static_cast<size_t>(ItemAt(index))].c_str(), 256);
         return 1;
     }
     int CopyCode(int index, void* out) const
     {
-        if (!Has(index)) {
+        if (!Has(ItemAt(index))) {
             return 0;
         }
-        StoreAs<LONG>(out, index + firstCode);
+        StoreAs<LONG>(out, ItemAt(index) + firstCode);
         return 1;
     }
     void Fill(const std::vector<LONG>& codes)
@@ -255,11 +274,15 @@ TEST_F(CodedColumn, SortsByTheDataOfItsItems)
     EXPECT_EQ(8, messages) << "each row is asked for once";
 }
 
-TEST_F(CodedColumn, SortsUnknownCodesAsNothing)
+TEST_F(CodedColumn, SortsUnknownCodesAsTheLastItem)
 {
     Fill({ 0, 9, 1 });
     HGSortRows(grid.get(), 0, true, nullptr);
-    EXPECT_EQ((std::vector<LONG>{ 9, 1, 0 }), Codes());
+    EXPECT_EQ((std::vector<LONG>{ 1, 9, 0 }), Codes()) << "apple, fig for the unknown one, pear";
+    items.clear();
+    Fill({});
+    HGSortRows(grid.get(), 0, false, nullptr);
+    EXPECT_EQ((std::vector<LONG>{ 1, 9, 0 }), Codes()) << "without items all are alike";
 }
 
 TEST_F(CodedColumn, SortsTheSameWithoutMemory)
@@ -371,16 +394,45 @@ TEST_F(CodedCell, OfKindCStoresParsedDataAsTheyStandAlthoughTheListKnowsACode)
     EXPECT_EQ(0, messages);
 }
 
-TEST_F(CodedCell, AsksForTheCodeOfIndexMinusOneWhereTheListDoesNotKnowTheData)
+TEST_F(CodedCell, StoresTheCodeOfTheLastItemWhereTheListDoesNotKnowTheData)
 {
-    int asked = 0;
-    Native().onSendMessage = [&](HWND, UINT message, WPARAM wParam, LPARAM) {
-        asked += message == HLM_GETCODE && static_cast<int>(wParam) == -1;
-        return LRESULT{ message == HLM_FINDDATA ? -1 : 0 };
-    };
+    EXPECT_EQ(1, Parse("plum"));
+    EXPECT_EQ(72, Code());
+}
+
+TEST_F(CodedCell, StoresTheBytesOfTheDataWhereTheListIsEmpty)
+{
+    items.clear();
     EXPECT_EQ(1, Parse("fig"));
-    EXPECT_EQ(1, asked);
-    EXPECT_EQ(0, std::memcmp("fig", CellAt(grid.get(), 0, 0), 4)) << "the bytes of the data, which nothing overwrote";
+    EXPECT_EQ(0, std::memcmp("fig", CellAt(grid.get(), 0, 0), 4)) << "nothing overwrote them";
+}
+
+TEST_F(CodedCell, IsNotReadOrWrittenWhereItsListTakesTheColumnAway)
+{
+    SetCode(71);
+    Native().onSendMessage = [this](HWND, UINT, WPARAM, LPARAM) {
+        child.hWnd = nullptr;
+        ctl.pData = nullptr;
+        grid.reset();
+        return LRESULT{ -1 };
+    };
+    char      out[20] = "?";
+    const int live = LiveBlocks();
+    EXPECT_EQ(0, HGFormatCell(&ctl, 0, 0, out, sizeof out, 0));
+    EXPECT_STREQ("", out);
+    EXPECT_GT(live, LiveBlocks()) << "it went";
+}
+
+TEST_F(CodedCell, IsNotWrittenWhereItsListTakesTheDataAway)
+{
+    Native().onSendMessage = [this](HWND, UINT, WPARAM, LPARAM) {
+        child.hWnd = nullptr;
+        ctl.pData = nullptr;
+        grid.reset();
+        return LRESULT{ -1 };
+    };
+    EXPECT_EQ(0, Parse("fig"));
+    EXPECT_EQ(nullptr, grid);
 }
 
 TEST_F(CodedCell, WithoutItsListHasNoTextAndTakesNone)

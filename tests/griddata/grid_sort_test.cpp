@@ -110,6 +110,21 @@ TEST(SortRows, DoesNothingWithoutRowsOrColumn)
     EXPECT_EQ((Texts{ "b", "a" }), ColumnTexts(grid.get(), 0));
 }
 
+TEST(SortRows, GoesByTheColumnsOwnValuesUnderAMap)
+{
+    const GridPtr grid = GridOf({ Number("a"), Number("b") }, HGS_COLMAP, 3);
+    for (int row = 0; row < 3; row++) {
+        SetCell<LONG>(grid.get(), 0, row, row);
+        SetCell<LONG>(grid.get(), 1, row, 10 - row);
+    }
+    ASSERT_EQ(1, HGMoveFld(grid.get(), 0, 1)); // b a, stored a b
+    HGSortRows(grid.get(), 0, true, nullptr);
+    for (int row = 0; row < 3; row++) {
+        EXPECT_EQ(8 + row, CellOf<LONG>(grid.get(), 0, row)) << row;
+        EXPECT_EQ(2 - row, CellOf<LONG>(grid.get(), 1, row)) << row;
+    }
+}
+
 TEST(SortRows, OfATypeWithoutAnOrderDoesNothing)
 {
     const GridPtr grid = TextGrid({ "b", "a" });

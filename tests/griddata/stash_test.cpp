@@ -153,4 +153,18 @@ TEST_F(Stash, KeepsOneWordForTheHost)
     HGStashFld(0);
 }
 
+TEST_F(Stash, MadeOnceMoreIsANewOneAndTheOldOneStays)
+{
+    HGridData* const grid = Grid();
+    StashGrid(grid, 1, "a", nullptr);
+    HLList* const old = HGGetStash();
+    HLList* const made = HGCreateStash();
+    EXPECT_EQ(made, HGGetStash());
+    EXPECT_NE(old, made);
+    EXPECT_EQ(0, HLListCount(made));
+    EXPECT_EQ(1, HLListCount(old));
+    EXPECT_STREQ("x", grid->pszTitle);
+    HLListDestroy(old);
+}
+
 } // namespace

@@ -51,6 +51,11 @@ int HGItemSize(HWND, int)
     return 0; // the lists of these tests have short items
 }
 
+int HGItemCodeSize(HWND, int)
+{
+    return 0; // the lists of these tests have short items
+}
+
 int HGAddRow(HGridCtl* ctl, const void* data, bool markNew)
 {
     ++gFakes.rowsAdded;

@@ -55,6 +55,8 @@ const Prefix prefixes[] = {
     { "0.00", "0.00", 0, unset, unset },
     { "[rouge]0.00", "0.00", 0, unset, unset },
     { "[1,2,3]45", "45", 1, 0x030201, unset },
+    { "0;[rouge]1", "0;1", 0, unset, unset },
+    { "[red]0;[rouge]1", "0;1", 1, 0x0000FF, unset },
     { "[1,2]45", "45", 1, 0x000201, unset },
     { "a;b;[red]c", "a;b;c", 0, unset, unset },
     { "[]x", "x", 0, unset, unset },

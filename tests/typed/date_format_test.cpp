@@ -146,6 +146,7 @@ TEST_F(DateFormat, AnMBehindAnHourIsTheMinute)
         { "h:M", "5:M" },
         { "h:mmm", "5:072" },         // two letters of the minute, then one of the month
         { "hh - mm", "05 - 02" },     // too far behind the hour
+        { "h. mm", "5. 02" },
         { "mm hh", "02 05" },         // before it
         { "mm.hh.mm mm", "02.05.07 02" },
         { "d.m.yyyy h:mm", "9.2.2024 5:07" },

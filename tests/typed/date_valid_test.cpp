@@ -92,6 +92,9 @@ const TimeCase timeCases[] = {
     { Clock(13, 0, 0), 1, 1, all, 0, Clock(12, 0, 0) },
     { Clock(13, 0, 0), 0, 1, all, 0, Clock(13, 0, 0) },
     { Clock(5, 60, 0), 0, 0, all, 0, Clock(5, 60, 0) },
+    { Clock(24, 60, 60), 0, 0, { 0, 1, 0 }, 0, Clock(24, 60, 60) },
+    { Clock(24, 60, 60), 1, 0, { 0, 1, 0 }, 0, Clock(24, 0, 60) }, // of the month
+    { Clock(24, 59, 60), 1, 0, { 0, 1, 0 }, 1, Clock(24, 59, 60) },
     { Clock(5, 5, 60), 0, 0, all, 0, Clock(5, 5, 60) },
     { Clock(5, 5, 60), 1, 0, all, 0, Clock(5, 5, 59) },
     { Clock(99, 99, 99), 1, 0, { 0, 0, 0 }, 1, Clock(99, 99, 99) },
@@ -208,5 +211,15 @@ TEST(ValidTime, ChecksAndRepairsWhatCounts)
                   ValidTime(&rec, test.repair, test.twelveHour, test.checks.year, test.checks.month, test.checks.day))
             << "row " << row;
         EXPECT_EQ(test.after, rec) << "row " << row;
+    }
+}
+
+TEST(ValidDate, WithoutARecordDoesNotPass)
+{
+    for (const int repair : { 0, 1 }) {
+        EXPECT_EQ(0, ValidDate(nullptr, repair, 1, 1, 1));
+        EXPECT_EQ(0, ValidDate(nullptr, repair, 0, 0, 0));
+        EXPECT_EQ(0, ValidTime(nullptr, repair, 0, 1, 1, 1));
+        EXPECT_EQ(0, ValidTime(nullptr, repair, 0, 0, 0, 0));
     }
 }

@@ -62,6 +62,11 @@ TEST_F(Intl, FillsTheWholeRecordAnew)
     EXPECT_EQ('.', gIntl.chDateSep);
     EXPECT_EQ(0u, gIntl.dwFlags);
     EXPECT_STREQ("\x4B\xE8", gIntl.szCurrency);
+    EXPECT_EQ(':', gIntl.chTimeSep);
+    EXPECT_EQ(std::localeconv()->decimal_point[0], gIntl.chDecimalSep);
+    EXPECT_EQ(std::localeconv()->thousands_sep[0], gIntl.chThousandSep);
+    EXPECT_EQ(std::string(sizeof gIntl.szExtra1, '\0'), std::string(gIntl.szExtra1, sizeof gIntl.szExtra1));
+    EXPECT_EQ(std::string(sizeof gIntl.szExtra2, '\0'), std::string(gIntl.szExtra2, sizeof gIntl.szExtra2));
 }
 
 TEST_F(Intl, GivesHostsTheRecordItself)

@@ -1,6 +1,8 @@
 // Texts laid out over masks and taken out of them.
 #include "typed/typed_test_support.h"
 
+#include <cctype>
+
 namespace {
 
 struct Conversion {
@@ -145,4 +147,25 @@ TEST(MaskToString, GivesNothingForMissingArgumentsOrRoom)
     EXPECT_EQ(0, MaskToString("12", "##", out, 0, 0));
     EXPECT_EQ(0, MaskToString("12", "##", out, -1, 1));
     EXPECT_STREQ("keep", out);
+}
+
+// Characters from 128 up are what the locale says of them.
+TEST(MaskToString, TakesCharactersAbove127AsTheLocaleDoes)
+{
+    constexpr int letter = 0xE9;
+    struct {
+        const char* mask;
+        bool        fits;
+    } const rows[] = {
+        { "@", std::isalpha(letter) != 0 },
+        { "&", std::isalnum(letter) != 0 },
+        { "!", std::ispunct(letter) != 0 },
+        { "*", std::isprint(letter) != 0 },
+        { "#", false },
+    };
+    for (const auto& row : rows) {
+        char out[4] = "?";
+        EXPECT_EQ(1, MaskToString("\xE9", row.mask, out, sizeof out, 0)) << row.mask;
+        EXPECT_EQ(row.fits, out[0] == '\xE9') << row.mask;
+    }
 }

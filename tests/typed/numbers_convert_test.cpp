@@ -270,6 +270,13 @@ TEST_F(StringToDoubleTest, AsksNoLocale)
     }
 }
 
+TEST_F(StringToDoubleTest, CollectsItsCharactersInTheScratchBuffer)
+{
+    std::memset(gScratch, 'x', sizeof gScratch);
+    EXPECT_EQ(-12.5, StringToDouble("a -1b2.5 c"));
+    EXPECT_STREQ("-12.5", gScratch);
+}
+
 TEST_F(StringToDoubleTest, CutsATextThatFillsTheScratchBuffer)
 {
     std::string nines(127, '9');

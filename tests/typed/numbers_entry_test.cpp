@@ -169,6 +169,8 @@ TEST_F(NumCharFilterTest, TheSeparatorOfTheSettingsIsLookedForInThePicture)
         { "#,##0", "12|", ',', { 0, "12,", 1, 1 } },
         { "*0.00", "1|2,50", ',', { 0, "1,50", 1, 7 - 2 } },
         { "*0.00", "12|", '.', Refused("12") },
+        { "", "12|", ',', Refused("12") }, // the picture of none has a point
+        { nullptr, "12|", ',', Refused("12") },
     };
     ExpectKeys('n', keys);
 }
