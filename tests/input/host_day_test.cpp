@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int      columnWidth = 80;
+constexpr int      columnWidth = 70;
 constexpr int      rowHeight = 20;
 constexpr int      rowHeader = 30;
 constexpr int      records = 4;
