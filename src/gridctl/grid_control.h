@@ -52,6 +52,12 @@ inline Cell AnchorCell(const HGridCtl* ctl)
     return { ctl->nAnchorCol, ctl->nAnchorRow };
 }
 
+// The corner as current cell selects everything. It is shown over the background too, which only erasing makes plain.
+inline bool IsCorner(Cell cell)
+{
+    return cell.col < 0 && cell.row < 0;
+}
+
 inline bool HasStyle(const HGridCtl* ctl, DWORD bits)
 {
     return (ctl->pData->dwStyle & bits) != 0;

@@ -99,6 +99,15 @@ protected:
 
 // Making
 
+TEST_F(GridNavigator, ThumbShowsANewRange)
+{
+    MakeRows(60);
+    AddRows(540);
+    const Pixels shot = ShotOf(ctl->hNavScroll);
+    InvalidateRect(ctl->hNavScroll, nullptr, TRUE);
+    EXPECT_TRUE(SamePixels(ShotOf(ctl->hNavScroll), shot));
+}
+
 TEST_F(GridNavigator, HasAScrollBarAndThreeButtons)
 {
     Make();
