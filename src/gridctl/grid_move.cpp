@@ -234,8 +234,7 @@ void GiveEditor(HGridCtl* ctl, const Move& move)
     if (move.editable && HGIsEditable(ctl, CurrentCell(ctl).col)) {
         HGTakeEditor(ctl);
     } else {
-        HGHideEditor(ctl);
-        ctl->hEditor = nullptr;
+        HGPutEditorAway(ctl);
     }
     if (IsWindow(move.hwnd) && move.showAgain && move.focused) {
         HGShowEditor(ctl);
