@@ -25,8 +25,8 @@ bool IsAttached(const HGridCtl* ctl, HWND hwnd, const HGridData* data)
     return IsWindow(hwnd) && ctl->pData == data;
 }
 
-// The columns take their cell controls with them, the editor among them. They go while the record is still the grid's: a
-// host that ends the grid meanwhile finds each column's link to its control right. False if the record is no longer it.
+// The columns take their cell controls with them, the editor among them. They go while the record is still the grid's:
+// a host that ends the grid meanwhile finds each column's link to its control right. False if it isn't the grid's then.
 bool EndCellControls(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;

@@ -141,8 +141,8 @@ LONG ColumnsEnd(const GridPaint& paint, int band, bool fixed, LONG begin)
     return end;
 }
 
-// A selection inverts lines as wide as the widest band: behind the last cell of a narrower one, and before the zone that
-// scrolls, nothing but this makes the background plain where it isn't erased.
+// A selection inverts lines as wide as the widest band: behind the last cell of a narrower one, and before the zone
+// that scrolls, nothing but this makes the background plain where it isn't erased.
 void FillGapsOfBand(const GridPaint& paint, int band)
 {
     HGridCtl* const ctl = paint.ctl;
@@ -184,8 +184,8 @@ void DrawRightEdge(const GridPaint& paint, int col, int row)
     DrawLine(paint.hdc, rect.right, rect.top, rect.right, rect.bottom);
 }
 
-// False if the window went while a cell was drawn. A host that takes rows away meanwhile ends the row alone: headers and
-// selection still show.
+// False if the window went while a cell was drawn. A host that takes rows away meanwhile ends the row alone: headers
+// and selection still show.
 bool DrawRow(const GridPaint& paint, ColumnWalk columns, int row)
 {
     const HWND hwnd = paint.ctl->hWnd;
