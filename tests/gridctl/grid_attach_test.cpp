@@ -155,9 +155,13 @@ TEST_F(GridAttach, ResetGivesARefusedValueUp)
     MakeGrid(GridOf({ Text() }), 3);
     SendPtr(ChildOf(0), HEM_SETVALIDATOR, 0, reinterpret_cast<const void*>(RefuseAll));
     TypeInto(0, 1, "refused");
-    Send(grid, HGM_RESET, 1);
+    Send(grid, HGM_RESET, 0);
+    EXPECT_EQ(grid, GetFocus());
+    EXPECT_FALSE(IsFlag(HGC_INEDIT));
+    EXPECT_EQ(0, Send(ChildOf(0), WWM_GETCHANGED));
     AddRows(2);
     MoveTo(0, 1);
+    EXPECT_CELL(0, 1);
     EXPECT_EQ("", CellText(0, 0));
     EXPECT_EQ("", CellText(0, 1));
 }
