@@ -1427,7 +1427,11 @@ HGridData* WINAPI HGridLoad(const char* name, OFSTRUCT* ofs);
 /** How many records are there? */
 #define HGSRC_COUNT 7
 
-/** Supplies the records of a grid whose rows are a block of a larger set. buffer is a row's data. */
+/**
+ * Supplies the records of a grid whose rows are a block of a larger set.
+ *
+ * @param buffer  A row's data; for HGSRC_CELL the new value, of the column's cbSize bytes; for HGSRC_COUNT null.
+ */
 typedef int(CALLBACK* HGROWSOURCE)(HWND hwnd, int operation, int record, void* buffer);
 /**
  * Paints a part of the library's buttons.
@@ -1563,11 +1567,18 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGM_GETFIELDBAND 1252
 /** wParam: position. lParam: band. Gives 1; 0 for a band that the grid hasn't. */
 #define HGM_SETFIELDBAND 1253
-/** wParam: non-zero refreshes. lParam: HGridData, owned by the grid from then on. Gives 1; 0 for a bad record. */
+/**
+ * wParam: non-zero refreshes. lParam: HGridData, owned by the grid from then on. Gives 1; 0 for a bad record, which
+ * isn't taken, and where the host attaches yet another one meanwhile: this one is destroyed then. A new record shows
+ * from its first row on; under a row source the view stays.
+ */
 #define HGM_SETDATA 1324
 /** Gives the HGridData, which stays the grid's. */
 #define HGM_GETDATA 1325
-/** Empties the grid. wParam: non-zero refreshes. Default. */
+/**
+ * Empties the grid and goes to its first cell. wParam: non-zero refreshes. Default. With a row source, changed records
+ * are handed back, records are loaded anew from the first one on, and the grid refreshes in any case.
+ */
 #define HGM_RESET 1326
 /** Takes a change of data over into layout, scroll bars and current cell. wParam: non-zero erases. Default. */
 #define HGM_REFRESH 1329
@@ -1632,7 +1643,8 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 /**
  * wParam: non-zero marks the row new. lParam: row data, or 0. Gives the row index + 1; below 1 on failure.
  * Under HGS_NEWROW a blank row comes before the entry row, and the data go into the entry row itself. A row source is
- * offered a blank record, without the data.
+ * offered a blank record, without the data. Each row before an entry row walks all rows: many are best added before the
+ * grid has HGS_NEWROW.
  */
 #define HGM_ADDROW 1360
 /** wParam: r. Deletes without notification. Gives 1, or 0. */
@@ -1659,7 +1671,10 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGM_SETROWSOURCE 1374
 /** Gives the number of records. */
 #define HGM_GETTOTAL 1375
-/** lParam: number of records; 0: unknown. Gives 1; 0 without a row source. */
+/**
+ * lParam: number of records; 0: as many as are loaded. Once a number was told, the source isn't asked for it until
+ * HGM_RESET. Gives 1; 0 without a row source.
+ */
 #define HGM_SETTOTAL 1376
 /** Gives the number of rows that should stay loaded. */
 #define HGM_GETHELD 1377
@@ -1843,7 +1858,7 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGN_MOVING 24
 /** Before a move that extends the selection; as HGN_MOVING. */
 #define HGN_EXTENDING 25
-/** The grid has scrolled across. */
+/** The grid has scrolled across, or was asked to and stands at its edge. */
 #define HGN_HSCROLLED 32
 /** The grid has scrolled down or up. */
 #define HGN_VSCROLLED 33

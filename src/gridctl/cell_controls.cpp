@@ -172,7 +172,8 @@ int HGCreateCellCtl(HGridCtl* ctl, HGridData*, HGField* field)
     }
     const CellKind& kind = kinds[index];
     const HWND child = MakeWindow(ctl, field, kind, index);
-    if (!child) {
+    // Whoever hears of the new window may have ended the grid, and the column with it.
+    if (!child || !IsWindow(child)) {
         return 0;
     }
     if (kind.kind == 'e' && field->cType == 's') {

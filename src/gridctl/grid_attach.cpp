@@ -19,17 +19,51 @@ short DefaultRowHeight(const HGridData* data)
     return static_cast<short>(unit > 0 ? defaultRowHeight * 8 / unit : defaultRowHeight);
 }
 
-void ReplaceData(HGridCtl* ctl, HGridData* data)
+// Making and ending windows has the host's turn come, which may end the grid or attach yet another record.
+bool IsAttached(const HGridCtl* ctl, HWND hwnd, const HGridData* data)
 {
+    return IsWindow(hwnd) && ctl->pData == data;
+}
+
+// The columns take their cell controls with them, the editor among them. They go while the record is still the grid's:
+// a host that ends the grid meanwhile finds each column's link to its control right. False if it isn't the grid's then.
+bool EndCellControls(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    const HGridData* const data = ctl->pData;
+    for (int col = 0; col < HGColCount(ctl->pData); ++col) {
+        const HGField* const field = HGGetField(ctl->pData, col);
+        ctl->hEditor = nullptr;
+        SetFlag(ctl, HGC_EDITORSHOWN | HGC_INEDIT, false);
+        if (field && field->pCtl) {
+            DestroyWindow(field->pCtl->hWnd);
+        }
+        if (!IsAttached(ctl, hwnd, data)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// False if the host has ended the grid or attached yet another record: this one goes then.
+bool ReplaceData(HGridCtl* ctl, HGridData* data)
+{
+    const HWND hwnd = ctl->hWnd;
     HGridData* const old = ctl->pData;
-    // The old columns take their cell controls with them, the editor among them.
+    // Bounded: the record that is attached already isn't destroyed under itself. Its columns keep their cell controls.
+    if (old == data) {
+        HGDetachEditor(ctl);
+        return IsAttached(ctl, hwnd, data);
+    }
+    if (old && !EndCellControls(ctl)) {
+        HGridDestroy(data);
+        return false;
+    }
     ctl->hEditor = nullptr;
     SetFlag(ctl, HGC_EDITORSHOWN | HGC_INEDIT, false);
     ctl->pData = data;
-    // Bounded: the record that is attached already isn't destroyed under itself.
-    if (old && old != data) {
-        HGridDestroy(old);
-    }
+    HGridDestroy(old);
+    return true;
 }
 
 void FixSizes(HGridCtl* ctl, bool isNew)
@@ -46,17 +80,30 @@ void FixSizes(HGridCtl* ctl, bool isNew)
     data->nRowHeightDef = data->nRowHeight;
 }
 
-void MakeCellControls(HGridCtl* ctl)
+// False if the record isn't the grid's any more.
+bool MakeCellControls(HGridCtl* ctl)
 {
+    const HWND hwnd = ctl->hWnd;
+    const HGridData* const data = ctl->pData;
     for (int col = 0; col < HGColCount(ctl->pData); ++col) {
         HGField* const field = HGGetField(ctl->pData, col);
-        if (!field) {
-            return;
-        }
-        if (!field->pCtl) {
+        if (field && !field->pCtl) {
             HGCreateCellCtl(ctl, ctl->pData, field);
         }
+        if (!IsAttached(ctl, hwnd, data)) {
+            return false;
+        }
     }
+    return true;
+}
+
+// A pop-up keeps its parent from the user.
+bool SetParentEnabled(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    const HGridData* const data = ctl->pData;
+    EnableWindow(ctl->hParent, !HasStyle(ctl, WS_POPUP));
+    return IsAttached(ctl, hwnd, data);
 }
 
 void SetFirstCell(HGridCtl* ctl)
@@ -101,10 +148,19 @@ void ResetBlock(HGridCtl* ctl)
     ctl->cHeldRows = held;
 }
 
+// A refused value doesn't wait in the hidden editor for a row that comes later.
 void ResetRows(HGridCtl* ctl)
 {
+    const HWND hwnd = ctl->hWnd;
     if (HasFlag(ctl, HGC_EDITORSHOWN)) {
+        HGForgetRefused(ctl);
+        if (!IsWindow(hwnd)) {
+            return;
+        }
         HGHideEditor(ctl);
+        if (!IsWindow(hwnd)) {
+            return;
+        }
         SetFlag(ctl, HGC_CELLSHOWN, false);
     }
     HGridEmpty(ctl->pData);
@@ -130,11 +186,18 @@ int HGAttachData(HGridCtl* ctl, HGridData* data)
         return 0;
     }
     const bool isNew = data != ctl->pData;
-    ReplaceData(ctl, data);
+    if (!ReplaceData(ctl, data)) {
+        return 0;
+    }
     DefWindowProcA(ctl->hWnd, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(data->pszTitle));
     FixSizes(ctl, isNew);
-    MakeCellControls(ctl);
-    EnableWindow(ctl->hParent, !HasStyle(ctl, WS_POPUP));
+    if (!MakeCellControls(ctl) || !SetParentEnabled(ctl)) {
+        return 0;
+    }
+    // Other rows begin with the first one; a row source's are the same records under other columns.
+    if (isNew && !HasFlag(ctl, HGC_VIRTUAL)) {
+        ctl->nTopRow = 0;
+    }
     SetFirstCell(ctl);
     if (!AddFirstRows(ctl)) {
         return 0;

@@ -35,10 +35,14 @@ int AppendField(HGridData* data, HGField* field)
                                 : HGAddFld(data, field);
 }
 
-// The new column gets its control and goes to the end of its band. Its index.
+// The new column gets its control and goes to the end of its band. Its index, also where the window went with it.
 int PlaceNewField(HGridCtl* ctl, HGField* field, int index)
 {
+    const HWND hwnd = ctl->hWnd;
     HGCreateCellCtl(ctl, ctl->pData, field);
+    if (!IsWindow(hwnd)) {
+        return index;
+    }
     BoundBand(ctl, field);
     const int place = ctl->cBands > 1 ? FirstOfHigherBand(ctl, field->nBand) : -1;
     return place >= 0 && HGMoveFld(ctl->pData, index, place) >= 0 ? place : index;
@@ -57,7 +61,7 @@ LRESULT OnAddField(HGridCtl* ctl, const MsgArgs& args)
     if (index >= 0) {
         index = PlaceNewField(ctl, field, index);
     }
-    if (index >= 0) {
+    if (index >= 0 && IsWindow(args.hwnd)) {
         HGRecalc(ctl);
     }
     if (mayMove && IsWindow(args.hwnd)) {
@@ -78,7 +82,9 @@ LRESULT OnInsertField(HGridCtl* ctl, const MsgArgs& args)
         BoundBand(ctl, field);
         HGCreateCellCtl(ctl, ctl->pData, field);
     }
-    HGRecalc(ctl);
+    if (IsWindow(args.hwnd)) {
+        HGRecalc(ctl);
+    }
     if (IsWindow(args.hwnd)) {
         HGEndColumnChange(ctl, shown);
     }

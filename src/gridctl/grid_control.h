@@ -52,6 +52,12 @@ inline Cell AnchorCell(const HGridCtl* ctl)
     return { ctl->nAnchorCol, ctl->nAnchorRow };
 }
 
+// The corner as current cell selects everything. It is shown over the background too, which only erasing makes plain.
+inline bool IsCorner(Cell cell)
+{
+    return cell.col < 0 && cell.row < 0;
+}
+
 inline bool HasStyle(const HGridCtl* ctl, DWORD bits)
 {
     return (ctl->pData->dwStyle & bits) != 0;
@@ -196,6 +202,8 @@ void HGEndColumnChange(HGridCtl* ctl, bool shown);
 int  HGReadEditor(HGridCtl* ctl);
 int  HGShowEditor(HGridCtl* ctl);
 int  HGHideEditor(HGridCtl* ctl);
+void HGPutEditorAway(HGridCtl* ctl); // hides and forgets it
+void HGForgetRefused(HGridCtl* ctl); // an editor that keeps the focus for a refused value gets the cell's value back
 int  HGCommitEdit(HGridCtl* ctl); // 0 when the value couldn't be stored
 void HGCancelEdit(HGridCtl* ctl);
 void HGEndEdit(HGridCtl* ctl, bool commit);

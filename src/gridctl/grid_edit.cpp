@@ -336,12 +336,27 @@ int HGDetachEditor(HGridCtl* ctl)
     }
     const HWND hwnd = ctl->hWnd;
     HGEndEdit(ctl, true);
-    if (IsWindow(hwnd) && HoldsFocus(ctl->hEditor, GetFocus())) {
-        HGLoadEditor(ctl); // a refused value holds the focus no longer
+    if (IsWindow(hwnd)) {
+        HGForgetRefused(ctl);
     }
     if (IsWindow(hwnd)) {
-        HGHideEditor(ctl);
-        ctl->hEditor = nullptr;
+        HGPutEditorAway(ctl);
     }
     return 1;
+}
+
+void HGForgetRefused(HGridCtl* ctl)
+{
+    if (HoldsFocus(ctl->hEditor, GetFocus())) {
+        HGLoadEditor(ctl);
+    }
+}
+
+void HGPutEditorAway(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    HGHideEditor(ctl);
+    if (IsWindow(hwnd)) {
+        ctl->hEditor = nullptr;
+    }
 }

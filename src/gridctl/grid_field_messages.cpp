@@ -124,9 +124,13 @@ LRESULT OnSetFormat(HGridCtl* ctl, const FieldRef& ref, LPARAM lParam)
     }
     HBlockFree(ref.field->pszFormat);
     ref.field->pszFormat = format;
+    const HWND hwnd = ctl->hWnd;
     if (ref.field->pCtl) {
         // Not the host's text, which may have been the one just freed.
         SendMessageA(ref.field->pCtl->hWnd, HEM_SETFORMAT, 1, reinterpret_cast<LPARAM>(format));
+    }
+    if (!IsWindow(hwnd)) {
+        return 1;
     }
     HGInvalidateRange(ctl, ref.col, ctl->nTopRow, ref.col, LastRow(ctl));
     return 1;

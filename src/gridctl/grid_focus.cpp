@@ -73,6 +73,9 @@ void HGFocusLost(HGridCtl* ctl)
     const HWND hwnd = ctl->hWnd;
     if (!HasStyle(ctl, HGS_KEEPSEL)) {
         HGHideEditor(ctl);
+        if (!IsWindow(hwnd)) {
+            return;
+        }
         HGRedrawSelection(ctl);
         // The focus has gone anyway, so a value that can't be stored is left in the editor.
         HGCommitEdit(ctl);
@@ -96,11 +99,14 @@ LRESULT HGOnKillFocus(HGridCtl* ctl, WPARAM wParam, int* pDefault)
 
 void HGOnChildFocus(HGridCtl* ctl)
 {
+    const HWND hwnd = ctl->hWnd;
     ctl->wFlags |= HGC_INEDIT;
     if (!IsWindowVisible(ctl->hEditor)) {
         HGShowEditor(ctl);
     }
-    HGNotify(ctl, HGN_EDITFOCUS);
+    if (IsWindow(hwnd)) {
+        HGNotify(ctl, HGN_EDITFOCUS);
+    }
 }
 
 void HGOnChildBlur(HGridCtl* ctl)

@@ -35,4 +35,4 @@ void    HGAddTool(HWND hTips, HWND tool, HWND owner, HINSTANCE instance);
 LRESULT HGOnNotify(HGridCtl* ctl, const MsgArgs& args);
 
 // Sends a message to every column's cell control.
-void HGSendToChildren(HGridCtl* ctl, UINT message, WPARAM wParam, LPARAM lParam);
+bool HGSendToChildren(HGridCtl* ctl, UINT message, WPARAM wParam, LPARAM lParam); // false if the window went

@@ -126,14 +126,19 @@ void DeletePaintObjects(HGridCtl* ctl)
 
 } // namespace
 
-void HGSendToChildren(HGridCtl* ctl, UINT message, WPARAM wParam, LPARAM lParam)
+bool HGSendToChildren(HGridCtl* ctl, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const HWND hwnd = ctl->hWnd;
     for (int col = 0; col < HGColCount(ctl->pData); ++col) {
         const HGField* const field = HGGetField(ctl->pData, col);
         if (field->pCtl) {
             SendMessageA(field->pCtl->hWnd, message, wParam, lParam);
         }
+        if (!IsWindow(hwnd)) {
+            return false;
+        }
     }
+    return true;
 }
 
 LRESULT HGOnNcCreate(const MsgArgs& args)
@@ -165,9 +170,9 @@ LRESULT HGOnCreate(HGridCtl* ctl)
     HGridScale(ctl->pData, ctl->hFont, font);
     ctl->hFont = font;
     MakeBoldFont(ctl);
-    if (font) {
-        // Cells look as their headers do, also when nobody sends the font to the grid itself.
-        HGSendToChildren(ctl, WM_SETFONT, reinterpret_cast<WPARAM>(font), 0);
+    // Cells look as their headers do, also when nobody sends the font to the grid itself.
+    if (font && !HGSendToChildren(ctl, WM_SETFONT, reinterpret_cast<WPARAM>(font), 0)) {
+        return failed;
     }
     if (HasStyle(ctl, HGS_NAVIGATOR) && !HasStyle(ctl, WS_VSCROLL) && !HGMakeNavigator(ctl)) {
         return failed;
@@ -184,7 +189,9 @@ LRESULT HGOnSetFont(HGridCtl* ctl, const MsgArgs& args)
     }
     const HFONT old = ctl->hFont;
     const HFONT font = reinterpret_cast<HFONT>(args.wParam);
-    HGSendToChildren(ctl, WM_SETFONT, args.wParam, args.lParam);
+    if (!HGSendToChildren(ctl, WM_SETFONT, args.wParam, args.lParam)) {
+        return 0;
+    }
     if ((ctl->pData->dwStyle2 & 3) == HGX_DLGUNITS) {
         HGridScale(ctl->pData, old, font);
         HGRefresh(ctl, true);

@@ -171,7 +171,7 @@ bool ChangeCell(HGridCtl* ctl, const Move& move)
 void InvalidateSelection(HGridCtl* ctl, const Selection& selection)
 {
     if (selection.anchor.row < 0 || selection.current.row < 0) {
-        InvalidateRect(ctl->hWnd, nullptr, FALSE);
+        InvalidateRect(ctl->hWnd, nullptr, IsCorner(selection.current));
     } else {
         HGInvalidateRange(ctl, -1, selection.anchor.row, -1, selection.current.row);
     }
@@ -215,7 +215,7 @@ bool ShowMove(HGridCtl* ctl, Move* move)
     move->focused = focused;
     if (!IsSame(SelectionOf(ctl), wanted) || refocused) {
         // Old and new selection were drawn in the wrong order: only painting all of it anew is right.
-        InvalidateRect(ctl->hWnd, nullptr, FALSE);
+        InvalidateRect(ctl->hWnd, nullptr, IsCorner(old.current) || IsCorner(move->to));
         if (!HasFlag(ctl, HGC_TELLING) || !HasCells(ctl)) {
             return false;
         }
@@ -234,8 +234,7 @@ void GiveEditor(HGridCtl* ctl, const Move& move)
     if (move.editable && HGIsEditable(ctl, CurrentCell(ctl).col)) {
         HGTakeEditor(ctl);
     } else {
-        HGHideEditor(ctl);
-        ctl->hEditor = nullptr;
+        HGPutEditorAway(ctl);
     }
     if (IsWindow(move.hwnd) && move.showAgain && move.focused) {
         HGShowEditor(ctl);

@@ -122,6 +122,59 @@ void DrawGridLines(const GridPaint& paint)
     }
 }
 
+HBRUSH BackBrush(const HGridCtl* ctl)
+{
+    return ctl->hBkBrush ? ctl->hBkBrush : HGFaceBrush();
+}
+
+// Where the columns of a zone end in a band, from the zone's begin on.
+LONG ColumnsEnd(const GridPaint& paint, int band, bool fixed, LONG begin)
+{
+    const int  fixedCols = paint.ctl->pData->cFixedCols;
+    ColumnWalk columns = { paint.ctl, band, fixed ? -1 : fixedCols - 1, fixed ? fixedCols - 1 : LastCol(paint.ctl) };
+    LONG       end = begin;
+    while (columns.Next()) {
+        RECT column;
+        HGColumnRect(paint.ctl, &column, columns.col, -1);
+        end = std::max(end, column.right);
+    }
+    return end;
+}
+
+// A selection inverts lines as wide as the widest band: behind the last cell of a narrower one, and before the zone
+// that scrolls, nothing but this makes the background plain where it isn't erased.
+void FillGapsOfBand(const GridPaint& paint, int band)
+{
+    HGridCtl* const ctl = paint.ctl;
+    RECT            zone;
+    HGZoneRect(ctl, &zone, false);
+    const LONG left = paint.content.left;
+    const LONG fixedEnd = ColumnsEnd(paint, band, true, left);
+    const LONG end = ColumnsEnd(paint, band, false, zone.left);
+    const LONG line = HasStyle(ctl, HGS_NOLINES) ? 0 : 1;
+    for (int row = paint.ctl->nTopRow; row < HGRowCount(ctl->pData); ++row) {
+        RECT rect;
+        HGRowRect(ctl, &rect, row, 0, band);
+        if (rect.top >= paint.invalid.bottom) {
+            return;
+        }
+        const RECT behind = { end, rect.top, paint.content.right, rect.bottom - line };
+        const RECT before = { fixedEnd, rect.top, std::min(zone.left, paint.content.right), rect.bottom - line };
+        for (const RECT& gap : { before, behind }) {
+            if (gap.left < gap.right && gap.top < gap.bottom) {
+                FillRect(paint.hdc, &gap, BackBrush(ctl));
+            }
+        }
+    }
+}
+
+void FillGaps(const GridPaint& paint)
+{
+    for (int band = 0; paint.ctl->cBands > 1 && band < paint.ctl->cBands; ++band) {
+        FillGapsOfBand(paint, band);
+    }
+}
+
 // With several bands the columns don't line up, so each cell has its own right edge.
 void DrawRightEdge(const GridPaint& paint, int col, int row)
 {
@@ -131,13 +184,15 @@ void DrawRightEdge(const GridPaint& paint, int col, int row)
     DrawLine(paint.hdc, rect.right, rect.top, rect.right, rect.bottom);
 }
 
-// False if the window went while a cell was drawn.
+// False if the window went while a cell was drawn. A host that takes rows away meanwhile ends the row alone: headers
+// and selection still show.
 bool DrawRow(const GridPaint& paint, ColumnWalk columns, int row)
 {
+    const HWND hwnd = paint.ctl->hWnd;
     const bool edges = paint.ctl->cBands != 1 && !HasStyle(paint.ctl, HGS_NOLINES);
     while (columns.Next()) {
         if (!HGDrawCell(paint.ctl, paint.hdc, columns.col, row)) {
-            return false;
+            return IsWindow(hwnd) != 0;
         }
         if (edges) {
             DrawRightEdge(paint, columns.col, row);
@@ -257,6 +312,7 @@ void HGPaint(HGridCtl* ctl)
 
     FindCorners(paint);
     DrawGridLines(paint);
+    FillGaps(paint);
     HGDrawCell(ctl, dc.hdc, -1, -1);
     if (!DrawBands(paint)) {
         return;
@@ -275,7 +331,7 @@ LRESULT HGEraseBackground(HGridCtl* ctl, HDC hdc)
     RECT r;
     HGDataRect(ctl, &r);
     const SelectedObject noPen(hdc, GetStockObject(NULL_PEN));
-    const HGDIOBJ        old = SelectObject(hdc, ctl->hBkBrush ? ctl->hBkBrush : HGFaceBrush());
+    const HGDIOBJ        old = SelectObject(hdc, BackBrush(ctl));
     Rectangle(hdc, r.left, r.top, r.right + 1, r.bottom + 1);
     // Settled: a brush of the library or the system stays selected.
     if (ctl->hBkBrush) {

@@ -21,18 +21,39 @@ void MeasurePage(HGridCtl* ctl)
     ctl->cPageRows = static_cast<short>(std::clamp(height / record + PartialRow(ctl), 1, 0x7FFF));
 }
 
-void SetVerticalRange(HGridCtl* ctl)
+struct Bar {
+    HWND window;
+    int  kind;
+};
+
+Bar VerticalBar(const HGridCtl* ctl)
 {
+    return ctl->hNavScroll ? Bar{ ctl->hNavScroll, SB_CTL } : Bar{ ctl->hWnd, SB_VERT };
+}
+
+// What decides on the length of a thumb. A bar keeps a page that is bounded to its range.
+SCROLLINFO RangeOf(const Bar& bar)
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    GetScrollInfo(bar.window, bar.kind, &info);
+    return info;
+}
+
+// True if the bar has got another range or page, which nobody has drawn yet.
+bool SetVerticalRange(HGridCtl* ctl)
+{
+    const Bar  bar = VerticalBar(ctl);
+    const SCROLLINFO before = RangeOf(bar);
     SCROLLINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE | SIF_PAGE;
     info.nMax = ctl->lTotalRows / ctl->nVScale;
     info.nPage = static_cast<UINT>(ctl->cPageRows - PartialRow(ctl) + 1);
-    if (ctl->hNavScroll) {
-        SetScrollInfo(ctl->hNavScroll, SB_CTL, &info, FALSE);
-    } else {
-        SetScrollInfo(ctl->hWnd, SB_VERT, &info, FALSE);
-    }
+    SetScrollInfo(bar.window, bar.kind, &info, FALSE);
+    const SCROLLINFO after = RangeOf(bar);
+    return before.nMax != after.nMax || before.nPage != after.nPage;
 }
 
 // Step 9. False if the window went.
@@ -56,13 +77,17 @@ bool LowerTop(HGridCtl* ctl)
 bool SetVerticalBar(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    if (HasStyle(ctl, WS_VSCROLL)) {
-        SetVerticalRange(ctl);
-    }
+    const bool changed = HasStyle(ctl, WS_VSCROLL) && SetVerticalRange(ctl);
     if (!IsWindow(hwnd) || !LowerTop(ctl)) {
         return false;
     }
-    HGSetScrollPos(ctl, 1, HGTopRecord(ctl) / ctl->nVScale, true);
+    const LONG pos = HGTopRecord(ctl) / ctl->nVScale;
+    HGSetScrollPos(ctl, SB_VERT, pos, !changed);
+    if (changed && IsWindow(hwnd)) {
+        // Also where the position is the same: the thumb has another length.
+        const Bar bar = VerticalBar(ctl);
+        SetScrollPos(bar.window, bar.kind, static_cast<int>(pos), TRUE);
+    }
     return IsWindow(hwnd) != 0;
 }
 
@@ -129,6 +154,7 @@ void HGRecalc(HGridCtl* ctl)
 void HGRefresh(HGridCtl* ctl, bool erase)
 {
     const HWND hwnd = ctl->hWnd;
+    const bool wasCorner = IsCorner(CurrentCell(ctl));
     HGRecalc(ctl);
     if (!IsWindow(hwnd)) {
         return;
@@ -141,7 +167,7 @@ void HGRefresh(HGridCtl* ctl, bool erase)
     }
     RECT client;
     HGClientRect(ctl, &client);
-    InvalidateRect(hwnd, &client, erase);
+    InvalidateRect(hwnd, &client, erase || wasCorner);
     HGMoveTo(ctl, CurrentCell(ctl).col, CurrentCell(ctl).row, true, false);
 }
 
@@ -158,8 +184,8 @@ LONG HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw)
     const LONG old = static_cast<LONG>(ctl->nVScrollPos);
     ctl->nVScrollPos = static_cast<DWORD>(pos);
     if (HasStyle(ctl, WS_VSCROLL)) {
-        const HWND window = ctl->hNavScroll ? ctl->hNavScroll : ctl->hWnd;
-        HSetBarPos(window, ctl->hNavScroll ? SB_CTL : SB_VERT, static_cast<int>(pos), redraw);
+        const Bar vertical = VerticalBar(ctl);
+        HSetBarPos(vertical.window, vertical.kind, static_cast<int>(pos), redraw);
     }
     return old;
 }

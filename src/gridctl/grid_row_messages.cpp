@@ -199,7 +199,7 @@ LRESULT OnSetTotal(HGridCtl* ctl, const MsgArgs& args)
     } else {
         ctl->lTotalRows = HGRowCount(ctl->pData);
     }
-    ctl->cHeldRows = static_cast<short>(std::min<LONG>(ctl->cHeldRows, ctl->lTotalRows));
+    ctl->cHeldRows = static_cast<short>(std::clamp<LONG>(ctl->lTotalRows, 0, std::max<LONG>(ctl->cHeldRows, 0)));
     HGRecalc(ctl);
     return 1;
 }

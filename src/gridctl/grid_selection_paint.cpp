@@ -119,10 +119,11 @@ void XorLines(HDC hdc, const RECT& rect)
     SetROP2(hdc, mode);
 }
 
-void InvertWithin(HDC hdc, RECT rect, const RECT& zone)
+// Cells are bounded by their zone, and so is what begins right of the window's edge: what begins there is a whole row,
+// whose header is inverted with it.
+void InvertWithin(HDC hdc, RECT rect, const RECT& zone, bool isCell)
 {
-    // What begins at the window's edge is a whole row: its header is inverted with it.
-    if (rect.left > 0) {
+    if (isCell || rect.left > 0) {
         rect.left = std::max(rect.left, zone.left);
     }
     rect.right = std::min(rect.right, zone.right);
@@ -136,12 +137,12 @@ void InvertWithin(HDC hdc, RECT rect, const RECT& zone)
     InvertRect(hdc, &rect);
 }
 
-void FrameWithin(HDC hdc, RECT rect, const RECT& zone)
+void FrameWithin(HDC hdc, RECT rect, const RECT& zone, bool isCell)
 {
-    InvertWithin(hdc, rect, zone);
+    InvertWithin(hdc, rect, zone, isCell);
     if (rect.right - rect.left >= frameLimit && rect.bottom - rect.top >= frameLimit) {
         InflateRect(&rect, -frameWidth, -frameWidth);
-        InvertWithin(hdc, rect, zone);
+        InvertWithin(hdc, rect, zone, isCell);
     }
 }
 
@@ -162,11 +163,12 @@ void InvertSelection(HGridCtl* ctl, HDC hdc, Cell anchor, Cell cur)
     }
     RECT zone;
     SelectionZone(ctl, &zone, anchor, cur);
-    if (cur.row >= 0 && field && field->cKind == 'q') {
-        FrameWithin(hdc, rect, zone);
+    const bool isCell = cur.col >= 0 && cur.row >= 0;
+    if (isCell && field && field->cKind == 'q') {
+        FrameWithin(hdc, rect, zone, true);
         return;
     }
-    InvertWithin(hdc, rect, zone);
+    InvertWithin(hdc, rect, zone, isCell);
 }
 
 void DrawHeaderOfColumn(HGridCtl* ctl, HDC hdc, int col)
@@ -279,14 +281,14 @@ void HGInvertRect(HGridCtl* ctl, HDC hdc, const RECT* rect)
 {
     RECT zone;
     HGScrollRect(ctl, &zone);
-    InvertWithin(hdc, *rect, zone);
+    InvertWithin(hdc, *rect, zone, false);
 }
 
 void HGFrameRect(HGridCtl* ctl, HDC hdc, const RECT* rect)
 {
     RECT zone;
     HGScrollRect(ctl, &zone);
-    FrameWithin(hdc, *rect, zone);
+    FrameWithin(hdc, *rect, zone, false);
 }
 
 void HGInvertRow(HGridCtl* ctl, HDC hdc, int row)
@@ -339,5 +341,9 @@ void HGRedrawSelection(HGridCtl* ctl)
     }
     const Cell anchor = AnchorCell(ctl);
     const Cell cur = CurrentCell(ctl);
+    if (IsCorner(cur)) {
+        InvalidateRect(ctl->hWnd, nullptr, TRUE);
+        return;
+    }
     HGInvalidateRange(ctl, anchor.col, anchor.row, cur.col, cur.row);
 }

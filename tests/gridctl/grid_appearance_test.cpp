@@ -45,6 +45,22 @@ TEST_F(GridAppearance, NoColourDeletesTheBrushAndKeepsTheColourWord)
     EXPECT_EQ(CLR_INVALID, ColorOf(face));
 }
 
+TEST_F(GridAppearance, BrushesThatAreReplacedAreDeleted)
+{
+    SetGridBckgndColors(RGB(1, 2, 3), RGB(4, 5, 6), RGB(7, 8, 9));
+    SetGridSelectColor(RGB(10, 11, 12));
+    const HBRUSH old[] = { hFaceBrush, hSecondBrush, hThirdBrush, hSelectBrush };
+    SetGridBckgndColors(RGB(13, 14, 15), RGB(16, 17, 18), RGB(19, 20, 21));
+    SetGridSelectColor(RGB(22, 23, 24));
+    const HBRUSH now[] = { hFaceBrush, hSecondBrush, hThirdBrush, hSelectBrush };
+    for (size_t i = 0; i < std::size(old); ++i) {
+        EXPECT_TRUE(ColorOf(old[i]) == CLR_INVALID || old[i] == now[i]) << i;
+        EXPECT_EQ(RGB(13 + 3 * i, 14 + 3 * i, 15 + 3 * i), ColorOf(now[i])) << i;
+    }
+    SetGridSelectColor(none);
+    EXPECT_EQ(CLR_INVALID, ColorOf(now[3]));
+}
+
 TEST_F(GridAppearance, ThirdBrushStaysWhenTheFirstTwoAreSet)
 {
     SetGridBckgndColors(RGB(1, 2, 3), RGB(4, 5, 6), RGB(7, 8, 9));

@@ -1,11 +1,25 @@
 // A definition comes to a grid window, and a grid is emptied.
-#include "gridctl/grid_window.h"
+#include "gridctl/grid_editing.h"
 
 #include "support/guarded_memory.h"
 
 namespace {
 
-class GridAttach : public GridWindow {};
+class GridAttach : public GridEditing {
+protected:
+    static int CALLBACK RefuseAll(HWND, int, void*) { return 1; }
+};
+
+int gWindowsToEnd; // so many windows of cells later the grid goes
+
+LRESULT CALLBACK EndingProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE && --gWindowsToEnd == 0) {
+        DestroyWindow(hwnd);
+        return 0;
+    }
+    return HGridWnd(hwnd, message, wParam, lParam);
+}
 
 TEST_F(GridAttach, BadRecordIsRefusedAndTheOldOneStays)
 {
@@ -38,6 +52,158 @@ TEST_F(GridAttach, AttachingTheSameRecordAgainKeepsIt)
     MakeGrid(GridOf({ Text() }), 2);
     EXPECT_EQ(1, SendPtr(grid, HGM_SETDATA, 1, ctl->pData));
     EXPECT_EQ(2, Send(grid, HGM_GETROWCOUNT));
+}
+
+TEST_F(GridAttach, AttachingTheSameRecordAgainStoresTheEditAndPutsItsEditorAway)
+{
+    MakeGrid(GridOf({ Text(), Text(), Text() }), 8);
+    TypeInto(2, 5, "typed");
+    EXPECT_EQ(1, SendPtr(grid, HGM_SETDATA, 1, ctl->pData));
+    EXPECT_EQ("typed", CellText(2, 5));
+    EXPECT_CELL(0, 0);
+    EXPECT_FALSE(IsWindowVisible(ChildOf(2)));
+}
+
+TEST_F(GridAttach, HostMayAttachAThirdRecordWhileTheEditorGoesWithTheFirst)
+{
+    const int blocks = LiveBlocks();
+    MakeGrid(GridOf({ Text() }), 2);
+    TypeInto(0, 1, "typed");
+    HGridData* const third = GridOf({ Text(), Text(), Text() });
+    parent.On(HGN_EDITBLUR, [&] {
+        parent.On(HGN_EDITBLUR, nullptr);
+        EXPECT_EQ(1, SendPtr(grid, HGM_SETDATA, 1, third));
+    });
+    EXPECT_EQ(0, SendPtr(grid, HGM_SETDATA, 1, GridOf({ Text(), Text() })));
+    EXPECT_EQ(third, ctl->pData);
+    EXPECT_EQ(3, Send(grid, HGM_GETCOLCOUNT));
+    DestroyWindow(grid);
+    EXPECT_EQ(blocks, LiveBlocks());
+}
+
+TEST_F(GridAttach, HostMayEndTheGridWhenToldOfAnyCellControlOfANewRecord)
+{
+    const int blocks = LiveBlocks();
+    for (int last = 1; last <= 3; ++last) {
+        MakeGrid(GridOf({ Text() }), 2);
+        SetWindowLongPtrA(grid, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(EndingProc));
+        gWindowsToEnd = last;
+        EXPECT_EQ(0, SendPtr(grid, HGM_SETDATA, 1, GridOf({ Text(), Text(), Text() }))) << last;
+        EXPECT_FALSE(IsWindow(grid)) << last;
+        EXPECT_EQ(blocks, LiveBlocks()) << last;
+    }
+}
+
+TEST_F(GridAttach, HostMayEndTheGridWhenToldOfANewColumnsControl)
+{
+    const int blocks = LiveBlocks();
+    for (const UINT message : { HGM_ADDFIELD, HGM_INSERTFIELD }) {
+        MakeGrid(GridOf({ Text() }), 2);
+        SetWindowLongPtrA(grid, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(EndingProc));
+        gWindowsToEnd = 1;
+        SendPtr(grid, message, 0, Text());
+        EXPECT_FALSE(IsWindow(grid)) << message;
+        EXPECT_EQ(blocks, LiveBlocks()) << message;
+    }
+}
+
+TEST_F(GridAttach, NewRecordShowsFromItsFirstRowOn)
+{
+    MakeGrid(GridOf({ Text() }), 50);
+    Send(grid, HGM_SETTOPRECORD, 20);
+    SendPtr(grid, HGM_SETDATA, 1, GridOf({ Text() }, gridStyle, 0, 5));
+    EXPECT_EQ(0, Send(grid, HGM_GETTOPRECORD));
+    EXPECT_EQ(0, ctl->nTopRow);
+    EXPECT_EQ(5, Send(grid, HGM_GETROWCOUNT));
+}
+
+TEST_F(GridAttach, RecordsOfASourceStayInViewUnderOtherColumns)
+{
+    source.count = 300;
+    MakeSourceGrid();
+    Send(grid, HGM_SETTOPRECORD, 120);
+    SendPtr(grid, HGM_SETDATA, 1, GridOf({ Number(), Text(), Text() }));
+    EXPECT_EQ(120, Send(grid, HGM_GETTOPRECORD));
+    EXPECT_TRUE(IsFlag(HGC_VIRTUAL));
+    ExpectRowsAreRecords();
+}
+
+TEST_F(GridAttach, ResetOfASourceGridHandsRowsBackAndLoadsFromTheFirstRecord)
+{
+    source.count = 300;
+    MakeSourceGrid();
+    Send(grid, HGM_SETTOPRECORD, 120);
+    const LRESULT held = Send(grid, HGM_GETHELD);
+    ASSERT_NE(0, ctl->lRowBase);
+    SetText(1, 3, "changed");
+    ASSERT_TRUE(RowFlags(3) & HGR_DIRTY);
+    PumpPending();
+    UpdateWindow(grid);
+    source.calls.clear();
+    Send(grid, HGM_RESET, 0);
+    EXPECT_EQ(1, source.CountOf(HGSRC_WRITEBACK));
+    EXPECT_EQ(0, +ctl->fTotalKnown) << "a told number counts no more";
+    EXPECT_EQ(0, ctl->lRowBase);
+    EXPECT_EQ(held, Send(grid, HGM_GETHELD));
+    EXPECT_EQ(held, Send(grid, HGM_GETROWCOUNT));
+    EXPECT_TRUE(IsInvalid()) << "refreshed without being asked to";
+    ExpectRowsAreRecords();
+}
+
+TEST_F(GridAttach, ResetGivesARefusedValueUp)
+{
+    MakeGrid(GridOf({ Text() }), 3);
+    SendPtr(ChildOf(0), HEM_SETVALIDATOR, 0, reinterpret_cast<const void*>(RefuseAll));
+    TypeInto(0, 1, "refused");
+    Send(grid, HGM_RESET, 0);
+    EXPECT_EQ(grid, GetFocus());
+    EXPECT_FALSE(IsFlag(HGC_INEDIT));
+    EXPECT_EQ(0, Send(ChildOf(0), WWM_GETCHANGED));
+    AddRows(2);
+    MoveTo(0, 1);
+    EXPECT_CELL(0, 1);
+    EXPECT_EQ("", CellText(0, 0));
+    EXPECT_EQ("", CellText(0, 1));
+}
+
+TEST_F(GridAttach, ParentMayEndTheGridWhileAResetGivesARefusedValueUp)
+{
+    const int blocks = LiveBlocks();
+    MakeGrid(GridOf({ Text() }), 3);
+    SendPtr(ChildOf(0), HEM_SETVALIDATOR, 0, reinterpret_cast<const void*>(RefuseAll));
+    TypeInto(0, 1, "refused");
+    parent.On(HGN_EDITBLUR, [&] { DestroyWindow(grid); });
+    Send(grid, HGM_RESET, 1);
+    parent.On(HGN_EDITBLUR, nullptr);
+    EXPECT_FALSE(IsWindow(grid));
+    EXPECT_EQ(blocks, LiveBlocks());
+}
+
+TEST_F(GridAttach, ParentOfAGridThatIsNoPopUpIsEnabled)
+{
+    MakeGrid(GridOf({ Text() }));
+    EnableWindow(parent.hwnd(), FALSE);
+    SendPtr(grid, HGM_SETDATA, 1, GridOf({ Text() }));
+    EXPECT_TRUE(IsWindowEnabled(parent.hwnd()));
+}
+
+TEST_F(GridAttach, ParentOfAPopUpGridIsDisabledAgain)
+{
+    grid = CreateWindowExA(0, "HGrid", "", WS_POPUP, 0, 0, 100, 100, parent.hwnd(), nullptr, GetModuleHandleA(nullptr),
+                           nullptr);
+    EnableWindow(parent.hwnd(), TRUE);
+    EXPECT_EQ(1, SendPtr(grid, HGM_SETDATA, 0, GridOf({ Text() }, WS_POPUP)));
+    EXPECT_FALSE(IsWindowEnabled(parent.hwnd()));
+    DestroyWindow(grid);
+}
+
+TEST_F(GridAttach, UnusableRowHeightInDialogUnitsIsTwentyEighthsOfTheFont)
+{
+    HGridData* const data = GridOf({ Text() });
+    data->dwStyle2 = HGX_DLGUNITS;
+    data->nRowHeight = 1900; // in pixels more than the most
+    MakeGrid(data);
+    EXPECT_EQ(160 / HIWORD(GetBaseUnits(nullptr)), ctl->pData->nRowHeightDef);
 }
 
 TEST_F(GridAttach, SizesInDialogUnitsAreScaledOnce)
@@ -156,9 +322,9 @@ int CALLBACK RefusingSource(HWND, int, int, void*)
 TEST_F(GridAttach, SourceThatAnswersZeroAtOnceGivesAnEmptyGrid)
 {
     MakeGrid(GridOf({ Text() }, gridStyle, 0, 5));
-    const void* const source = reinterpret_cast<const void*>(RefusingSource);
-    EXPECT_EQ(0, SendPtr(grid, HGM_SETROWSOURCE, 0, source));
-    EXPECT_EQ(reinterpret_cast<LRESULT>(source), Send(grid, HGM_GETROWSOURCE));
+    const void* const refusing = reinterpret_cast<const void*>(RefusingSource);
+    EXPECT_EQ(0, SendPtr(grid, HGM_SETROWSOURCE, 0, refusing));
+    EXPECT_EQ(reinterpret_cast<LRESULT>(refusing), Send(grid, HGM_GETROWSOURCE));
     EXPECT_TRUE(ctl->wFlags & HGC_VIRTUAL);
     EXPECT_EQ(0, Send(grid, HGM_GETROWCOUNT));
     EXPECT_EQ(0, Send(grid, HGM_GETTOTAL));
@@ -169,9 +335,9 @@ TEST_F(GridAttach, SourceThatAnswersZeroAtOnceGivesAnEmptyGrid)
 TEST_F(GridAttach, TakingTheSourceAwayLeavesAnOrdinaryEmptyGrid)
 {
     MakeGrid(GridOf({ Text() }));
-    const void* const source = reinterpret_cast<const void*>(RefusingSource);
-    SendPtr(grid, HGM_SETROWSOURCE, 0, source);
-    EXPECT_EQ(reinterpret_cast<LRESULT>(source), Send(grid, HGM_SETROWSOURCE, 0, 0));
+    const void* const refusing = reinterpret_cast<const void*>(RefusingSource);
+    SendPtr(grid, HGM_SETROWSOURCE, 0, refusing);
+    EXPECT_EQ(reinterpret_cast<LRESULT>(refusing), Send(grid, HGM_SETROWSOURCE, 0, 0));
     EXPECT_FALSE(ctl->wFlags & HGC_VIRTUAL);
     EXPECT_EQ(1, Send(grid, HGM_ADDROW));
 }

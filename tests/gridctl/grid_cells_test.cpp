@@ -95,6 +95,16 @@ TEST_F(GridCells, VetoInCellChangedKeepsTheValueButReportsFailure)
     EXPECT_EQ(0, Send(grid, WWM_GETCHANGED));
 }
 
+TEST_F(GridCells, VetoInCellChangedBringsNoRowBehindTheEntryRow)
+{
+    MakeGrid(GridOf({ Text() }, gridStyle | HGS_NEWROW));
+    ASSERT_EQ(1, Send(grid, HGM_GETROWCOUNT));
+    parent.On(HGN_CELLCHANGED, [&] { Send(grid, WWM_CANCEL); });
+    EXPECT_EQ(0, HGSetCellText(grid, 0, 0, "x"));
+    EXPECT_EQ("x", CellText(0, 0));
+    EXPECT_EQ(1, Send(grid, HGM_GETROWCOUNT));
+}
+
 TEST_F(GridCells, WriteInvalidatesTheCellAndMarksRowAndGrid)
 {
     MakeGrid(GridOf({ Text() }), 1);
@@ -302,6 +312,16 @@ TEST_F(VirtualCells, WrittenRecordIsHandedToTheSourceAndIsCleanThen)
     EXPECT_EQ("cell196609 update3 ", gSource.asked);
     EXPECT_FALSE(RowFlags(3) & HGR_DIRTY);
     EXPECT_EQ(0, Send(grid, WWM_GETCHANGED));
+}
+
+TEST_F(VirtualCells, VetoInCellChangedKeepsTheRecordFromTheSource)
+{
+    MakeVirtual();
+    parent.On(HGN_CELLCHANGED, [&] { Send(grid, WWM_CANCEL); });
+    EXPECT_EQ(0, HGSetCellText(grid, 1, 3, "5"));
+    EXPECT_EQ("5", CellText(1, 3));
+    EXPECT_EQ("cell196609 ", gSource.asked);
+    EXPECT_TRUE(RowFlags(3) & HGR_DIRTY);
 }
 
 TEST_F(VirtualCells, RecordThatTheSourceDoesNotStoreStaysDirty)

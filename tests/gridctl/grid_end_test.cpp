@@ -56,6 +56,26 @@ void DuringOrder(HWND grid)
     During(grid, HGM_SETCOLORDER, 0, reinterpret_cast<LPARAM>(order));
 }
 
+// The grid owns the record as soon as it is asked to take it.
+void DuringData(HWND grid)
+{
+    HGridData* const data = GridOf({ Text(), Text() });
+    Enter(grid);
+    if (IsWindow(grid)) {
+        SendMessageA(grid, HGM_SETDATA, 1, reinterpret_cast<LPARAM>(data));
+    } else {
+        HGridDestroy(data);
+    }
+}
+
+void DuringSameData(HWND grid)
+{
+    Enter(grid);
+    if (IsWindow(grid)) {
+        SendMessageA(grid, HGM_SETDATA, 1, reinterpret_cast<LPARAM>(HGFromWindow(grid)->pData));
+    }
+}
+
 // clang-format off
 constexpr Deed deeds[] = {
     { "move",         [](HWND g) { SendMessageA(g, HGM_SETCURSOR, 0, static_cast<LPARAM>(PackCell(4, 25))); } },
@@ -123,6 +143,12 @@ constexpr Deed deeds[] = {
     { "enter, add row",       [](HWND g) { SendMessageA(g, HGM_KEYNEW, 0, 0);
                                            if (IsWindow(g)) { During(g, HGM_ADDROW); } } },
     { "enter, sort",          [](HWND g) { During(g, HGM_SORT, MAKEWPARAM(1, 1)); } },
+    { "enter, other data",    [](HWND g) { DuringData(g); } },
+    { "enter, same data",     [](HWND g) { DuringSameData(g); } },
+    { "enter, reset",         [](HWND g) { During(g, HGM_RESET, 1); } },
+    { "enter, source",        [](HWND g) { During(g, HGM_SETROWSOURCE, 0, reinterpret_cast<LPARAM>(NumberedRecords)); } },
+    { "enter, read only",     [](HWND g) { During(g, HGM_SETFIELDFLAGS, 1, MAKELPARAM(1, HFF_READONLY)); } },
+    { "enter, fixed columns", [](HWND g) { During(g, HGM_SETFIXEDCOLS, 2); } },
     { "focus",        [](HWND g) { SetFocus(g); } },
     { "total",        [](HWND g) { SendMessageA(g, HGM_SETTOTAL, 0, 500); } },
 };

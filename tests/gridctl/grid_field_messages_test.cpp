@@ -57,6 +57,22 @@ TEST_F(GridFieldMessages, WithoutSuchAColumnTheAnswerIsZero)
     EXPECT_EQ(0, Send(grid, HGM_GETFIELDNAMELEN, 1));
 }
 
+TEST_F(GridFieldMessages, FormatRepaintsTheCellsOfItsColumn)
+{
+    MakeGrid(GridOf({ Text(), Number(), Text() }), 3);
+    UpdateWindow(grid);
+    ValidateRect(grid, nullptr);
+    SendPtr(grid, HGM_SETFIELDFORMAT, 1, "###");
+    RECT update = {};
+    RECT first = {};
+    RECT last = {};
+    GetUpdateRect(grid, &update, FALSE);
+    HGCellRect(ctl, &first, 1, 0, false);
+    HGCellRect(ctl, &last, 1, 2, false);
+    const RECT expected = { first.left, first.top, last.right, last.bottom };
+    EXPECT_TRUE(EqualRect(&expected, &update));
+}
+
 TEST_F(GridFieldMessages, BandAtTheCountIsRefused)
 {
     MakeGrid(GridOf({ Text() }), 1);

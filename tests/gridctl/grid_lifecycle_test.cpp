@@ -1,5 +1,5 @@
 // Birth and death of a grid window.
-#include "gridctl/grid_window.h"
+#include "gridctl/grid_paint_window.h"
 
 #include "support/guarded_memory.h"
 
@@ -19,7 +19,7 @@ protected:
         return grid;
     }
     // A grid whose class has a procedure of the host's from the start.
-    HWND Superclass(WNDPROC proc, DWORD style, DWORD exStyle)
+    HWND Superclass(WNDPROC proc, DWORD style, DWORD exStyle, const char* title = "")
     {
         constexpr char name[] = "HostsOwnGrid";
         WNDCLASSA      host = {};
@@ -28,7 +28,7 @@ protected:
         host.lpszClassName = name;
         host.hInstance = GetModuleHandleA(nullptr);
         RegisterClassA(&host);
-        const HWND window = CreateWindowExA(exStyle, name, "", WS_CHILD | style, 0, 0, 300, 200, parent.hwnd(), nullptr,
+        const HWND window = CreateWindowExA(exStyle, name, title, WS_CHILD | style, 0, 0, 300, 200, parent.hwnd(), nullptr,
                                             host.hInstance, nullptr);
         UnregisterClassA(name, host.hInstance);
         return window;
@@ -116,6 +116,77 @@ TEST_F(GridLifecycle, DefinitionDecidesBorderAndVisibilityAndTabStopOfAChild)
     const DWORD expected = WS_CHILD | WS_BORDER | WS_VISIBLE | WS_TABSTOP | HGS_STRIPED;
     EXPECT_EQ(expected, ctl->pData->dwStyle);
     EXPECT_EQ(expected, static_cast<DWORD>(GetWindowLongA(grid, GWL_STYLE)));
+}
+
+TEST_F(GridLifecycle, DefinitionDecidesTheScrollBars)
+{
+    const DefinitionFile file("gridlife.GRS", WS_VSCROLL | HGS_STRIPED);
+    Make("gridlife", WS_CHILD | WS_HSCROLL);
+    EXPECT_EQ(DWORD{ WS_VSCROLL }, static_cast<DWORD>(Send(grid, WWM_GETSTYLE)) & (WS_VSCROLL | WS_HSCROLL));
+    AddRows(60);
+    EXPECT_EQ(DWORD{ WS_VSCROLL }, static_cast<DWORD>(GetWindowLongA(grid, GWL_STYLE)) & (WS_VSCROLL | WS_HSCROLL));
+}
+
+LONG gCreatedStyle;
+
+LRESULT CALLBACK CreationHost(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT result = HGridWnd(hwnd, message, wParam, lParam);
+    if (message == WM_NCCREATE) {
+        gCreatedStyle = reinterpret_cast<const CREATESTRUCTA*>(lParam)->style;
+    }
+    return result;
+}
+
+TEST_F(GridLifecycle, HostsProcedureSeesTheDefinitionsStyleBehindTheGridsOwn)
+{
+    const DefinitionFile file("gridlife.GRS", WS_BORDER | HGS_STRIPED);
+    grid = Superclass(CreationHost, HGS_READONLY, 0, "gridlife");
+    EXPECT_EQ(static_cast<LONG>(WS_CHILD | WS_BORDER | HGS_STRIPED), gCreatedStyle);
+    DestroyWindow(grid);
+    UnregisterClassA("HostsOwnGrid", GetModuleHandleA(nullptr));
+}
+
+COLORREF NoEditColorOf(HWND hwnd)
+{
+    LOGBRUSH brush = {};
+    GetObjectA(HGFromWindow(hwnd)->hNoEditBrush, sizeof brush, &brush);
+    return brush.lbColor;
+}
+
+TEST_F(GridLifecycle, NoEditColorIsTheLightOneWhereThatDiffersFromTheFace)
+{
+    const SystemColor face(COLOR_BTNFACE, RGB(10, 20, 30));
+    {
+        const SystemColor light(COLOR_3DLIGHT, RGB(40, 50, 60));
+        EXPECT_EQ(RGB(40, 50, 60), NoEditColorOf(Make("", WS_CHILD)));
+        DestroyWindow(grid);
+    }
+    const SystemColor light(COLOR_3DLIGHT, RGB(10, 20, 30));
+    EXPECT_EQ(0x00C0DCC0u, NoEditColorOf(Make("", WS_CHILD)));
+    DestroyWindow(grid);
+}
+
+TEST_F(GridLifecycle, GridWithoutParentEndsTheProgramWithIt)
+{
+    const HWND alone = CreateWindowExA(0, "HGrid", "", WS_OVERLAPPED, 0, 0, 100, 100, nullptr, nullptr,
+                                       GetModuleHandleA(nullptr), nullptr);
+    Make("", WS_CHILD);
+    MSG message = {};
+    DestroyWindow(grid);
+    EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "it has a parent";
+    DestroyWindow(alone);
+    EXPECT_TRUE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_F(GridLifecycle, ChildWindowsActivationTakesTheFocusForTheGridOnly)
+{
+    MakeGrid(GridOf({ Text() }), 1);
+    SetFocus(parent.hwnd());
+    SendPtr(grid, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(grid), parent.hwnd());
+    EXPECT_EQ(parent.hwnd(), GetFocus());
+    SendPtr(grid, WM_MDIACTIVATE, 0, grid);
+    EXPECT_EQ(grid, GetFocus());
 }
 
 TEST_F(GridLifecycle, TabStopOfATopLevelGridIsTheCreators)
@@ -225,8 +296,11 @@ TEST_F(GridLifecycle, DestructionHandsChangedRecordsBack)
     SendPtr(grid, HGM_SETROWSOURCE, 0, reinterpret_cast<const void*>(Source));
     SetText(0, 2, "7");
     ASSERT_TRUE(RowFlags(2) & HGR_DIRTY);
+    int writtenBefore = -1;
+    parent.On(HGN_DESTROY, [&] { writtenBefore = gWrittenBack; });
     DestroyWindow(grid);
     EXPECT_EQ(1, gWrittenBack);
+    EXPECT_EQ(0, writtenBefore) << "the parent is told first";
 }
 
 TEST_F(GridLifecycle, PopUpGridDisablesItsParentUntilItIsDestroyed)
@@ -261,8 +335,10 @@ TEST_F(GridLifecycle, SetFontGivesTheOldOneAndRebuildsTheBoldOne)
     MakeGrid(GridOf({ Text() }), 1);
     const HFONT font = CreateFontA(-20, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, "Arial");
     const HFONT old = ctl->hFont;
+    const HFONT oldBold = ctl->hBoldFont;
     EXPECT_EQ(reinterpret_cast<LRESULT>(old), Send(grid, WM_SETFONT, reinterpret_cast<WPARAM>(font)));
     EXPECT_EQ(font, ctl->hFont);
+    EXPECT_TRUE(GetObjectType(oldBold) == 0 || oldBold == ctl->hBoldFont);
     LOGFONTA bold = {};
     ASSERT_NE(0, GetObjectA(ctl->hBoldFont, sizeof bold, &bold));
     EXPECT_EQ(700, bold.lfWeight);

@@ -125,6 +125,62 @@ TEST_F(GridMessages, CtlColorAsksTheParent)
     EXPECT_EQ(78, Send(grid, HGM_CTLCOLOR, 77));
 }
 
+TEST_F(GridMessages, CtlColorGoesToTheDefaultWithoutAParentWindow)
+{
+    MakeGrid(GridOf({ Text() }), 1);
+    parent.OnMessage(HGM_CTLCOLOR, [](WPARAM wParam, LPARAM) { return static_cast<LRESULT>(wParam + 1); });
+    ctl->hParent = nullptr;
+    EXPECT_EQ(0, Send(grid, HGM_CTLCOLOR, 77));
+    ctl->hParent = parent.hwnd();
+}
+
+int gErased;
+
+LRESULT CALLBACK ErasureProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    gErased += message == WM_ERASEBKGND;
+    return HGridWnd(hwnd, message, wParam, lParam);
+}
+
+TEST_F(GridMessages, BackgroundBrushAndFontErase)
+{
+    MakeGrid(GridOf({ Text() }), 1);
+    SetWindowLongPtrA(grid, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ErasureProc));
+    for (const UINT message : { UINT{ HGM_SETBKBRUSH }, UINT{ WM_SETFONT } }) {
+        for (const LPARAM repaint : { 0, 1 }) {
+            UpdateWindow(grid);
+            ValidateRect(grid, nullptr);
+            gErased = 0;
+            Send(grid, message, 0, repaint);
+            EXPECT_EQ(repaint != 0, IsInvalid()) << message;
+            UpdateWindow(grid);
+            EXPECT_EQ(repaint, gErased) << message;
+        }
+    }
+}
+
+TEST_F(GridMessages, NothingIsRepaintedWhereNoRefreshIsAskedFor)
+{
+    MakeGrid(GridOf({ Text() }), 5);
+    struct Case {
+        UINT   message;
+        WPARAM wParam;
+    };
+    constexpr Case cases[] = { { HGM_SETROWHEIGHT, 30 }, { HGM_SETHEADERHEIGHT, 30 }, { HGM_RESETSIZES, 0 } };
+    for (const Case& c : cases) {
+        UpdateWindow(grid);
+        ValidateRect(grid, nullptr);
+        Send(grid, c.message, c.wParam, 0);
+        EXPECT_FALSE(IsInvalid()) << c.message;
+        Send(grid, c.message, c.wParam, 1);
+        EXPECT_TRUE(IsInvalid()) << c.message;
+    }
+    UpdateWindow(grid);
+    ValidateRect(grid, nullptr);
+    SendPtr(grid, HGM_SETDATA, 0, GridOf({ Date() }));
+    EXPECT_FALSE(IsInvalid());
+}
+
 TEST_F(GridMessages, EndStopKeepsTheLowByte)
 {
     MakeGrid(GridOf({ Text() }), 1);

@@ -99,6 +99,35 @@ protected:
 
 // Making
 
+TEST_F(GridNavigator, IsPlacedAnewWhenThePositionOrTheSettingsChange)
+{
+    MakeRows(5);
+    const RECT place = PlaceOf(ctl->hNavScroll);
+    WINDOWPOS  pos = { grid, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER };
+    struct Case {
+        UINT   message;
+        LPARAM lParam;
+    };
+    const Case cases[] = { { WM_SETTINGCHANGE, 0 }, { WM_WINDOWPOSCHANGED, reinterpret_cast<LPARAM>(&pos) } };
+    for (const Case& c : cases) {
+        MoveWindow(ctl->hNavScroll, 1, 2, 3, 4, FALSE);
+        Forget();
+        Send(grid, c.message, 0, c.lParam);
+        const RECT now = PlaceOf(ctl->hNavScroll);
+        EXPECT_TRUE(EqualRect(&place, &now)) << c.message;
+        EXPECT_LE(1, parent.Count(HGN_LAYOUT)) << c.message; // the system may tell of a size too
+    }
+}
+
+TEST_F(GridNavigator, ThumbShowsANewRange)
+{
+    MakeRows(60);
+    AddRows(540);
+    const Pixels shot = ShotOf(ctl->hNavScroll);
+    InvalidateRect(ctl->hNavScroll, nullptr, TRUE);
+    EXPECT_TRUE(SamePixels(ShotOf(ctl->hNavScroll), shot));
+}
+
 TEST_F(GridNavigator, HasAScrollBarAndThreeButtons)
 {
     Make();

@@ -37,6 +37,19 @@ TEST_F(GridPosition, SettingTheAnchorKeepsTheCurrentCell)
     EXPECT_EQ(static_cast<LRESULT>(PackCell(0, 1)), Send(grid, HGM_GETANCHOR));
 }
 
+TEST_F(GridPosition, SettingTheAnchorShowsTheCurrentCellAndNotTheAnchor)
+{
+    MakeGrid(GridOf({ Text(), Text() }), 50);
+    MoveTo(1, 30);
+    const LRESULT top = Send(grid, HGM_GETTOPRECORD);
+    ASSERT_GT(top, 1);
+    Send(grid, HGM_SETANCHOR, 0, static_cast<LPARAM>(PackCell(0, 1)));
+    EXPECT_EQ(top, Send(grid, HGM_GETTOPRECORD)) << "the anchor is out of view";
+    Send(grid, HGM_SETTOPRECORD, 5);
+    Send(grid, HGM_SETANCHOR, 0, static_cast<LPARAM>(PackCell(0, 5)));
+    EXPECT_EQ(top, Send(grid, HGM_GETTOPRECORD)) << "the current cell is in view";
+}
+
 TEST_F(GridPosition, ProposedCellIsBoundedToTheGrid)
 {
     MakeGrid(GridOf({ Text(), Text() }), 3);
@@ -97,6 +110,35 @@ TEST_F(GridPosition, FirstColumnSubtractsACountOfColumnsFromPixels)
     MakeGrid(GridOf({ Text(), Text(), Text(), Text(), Text(), Text(), Text(), Text() }, gridStyle, 2), 5);
     EXPECT_EQ(2, Send(grid, HGM_SETFIRSTCOL, 20));
     EXPECT_EQ(18, Send(grid, HGM_GETHPOS));
+}
+
+TEST_F(GridPosition, PixelsPastSixteenBitsScrollTheOtherWay)
+{
+    for (const UINT message : { HGM_SETHPOS, HGM_SETFIRSTCOL }) {
+        MakeGrid(GridOf({ Text(), Text(), Text(), Text(), Text(), Text(), Text(), Text() }), 5);
+        Send(grid, HGM_SETHPOS, 50);
+        Send(grid, message, 40000);
+        EXPECT_EQ(0, Send(grid, HGM_GETHPOS)) << message;
+        DestroyWindow(grid);
+    }
+}
+
+int CALLBACK ManyRecords(HWND, int operation, int record, void*)
+{
+    constexpr int count = 1000000;
+    return operation == HGSRC_COUNT ? count : operation == HGSRC_FETCH && record < count;
+}
+
+TEST_F(GridPosition, VerticalPositionAndItsMaximumAreUnitsOfTheScale)
+{
+    MakeGrid(GridOf({ Number() }));
+    SendPtr(grid, HGM_SETROWSOURCE, 0, reinterpret_cast<const void*>(ManyRecords));
+    Send(grid, HGM_SETTOTAL, 0, 1000000);
+    ASSERT_EQ(31, +ctl->nVScale);
+    EXPECT_EQ((1000001 - ctl->cPageRows + PartialRow(ctl)) / 31, Send(grid, HGM_GETVMAX));
+    EXPECT_EQ(200, Send(grid, HGM_SETVPOS, 200));
+    EXPECT_EQ(200 * 31, Send(grid, HGM_GETTOPRECORD));
+    EXPECT_EQ(200, Send(grid, HGM_GETVPOS));
 }
 
 TEST_F(GridPosition, MaximaTellWhatIsBeyondThePage)

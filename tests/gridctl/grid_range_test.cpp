@@ -1,6 +1,8 @@
 // Page, totals, scroll bars and refresh.
 #include "gridctl/record_source.h"
 
+#include "support/pixels.h"
+
 namespace {
 
 constexpr DWORD plainStyle = HGS_ROWHEADERS | HGS_COLHEADERS; // without scroll bars the client area stays as it is
@@ -19,6 +21,13 @@ protected:
         info.fMask = SIF_ALL;
         GetScrollInfo(window, bar, &info);
         return info;
+    }
+    // The frame shows what it shows when it is drawn anew.
+    void ExpectFrameIsDrawn(const char* when)
+    {
+        const Pixels shot = ShotOfWindow(grid);
+        RedrawWindow(grid, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
+        EXPECT_TRUE(SamePixels(ShotOfWindow(grid), shot)) << when;
     }
     int ClientWidth()
     {
@@ -89,6 +98,22 @@ TEST_F(GridRange, VerticalBarHoldsTotalAndPage)
     Send(grid, HGM_SETTOPRECORD, 12);
     EXPECT_EQ(12, BarOf(grid, SB_VERT).nPos);
     EXPECT_EQ(12u, +ctl->nVScrollPos);
+}
+
+TEST_F(GridRange, ThumbShowsEachNewRangeAndPage)
+{
+    MakeGrid(GridOf({ Text() }), 60);
+    ExpectFrameIsDrawn("at first");
+    AddRows(540);
+    ExpectFrameIsDrawn("more rows, the same position");
+    SetWindowPos(grid, nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ExpectFrameIsDrawn("a taller grid");
+    Send(grid, HGM_SETTOPRECORD, 500);
+    for (int row = 599; row >= 100; --row) {
+        HLListRemove(ctl->pData->pRows, row);
+    }
+    Send(grid, HGM_REFRESH, 1);
+    ExpectFrameIsDrawn("fewer rows, the position lowered");
 }
 
 TEST_F(GridRange, WithoutTheStyleNoBarIsTouched)

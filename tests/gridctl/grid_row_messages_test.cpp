@@ -185,6 +185,24 @@ TEST_F(GridRowMessages, SourceFillsTheRows)
     EXPECT_EQ(40, Send(grid, HGM_GETROWCOUNT));
 }
 
+TEST_F(GridRowMessages, TotalBelowTheHeldRowsCutsThem)
+{
+    MakeGrid(GridOf({ Number() }));
+    SendPtr(grid, HGM_SETROWSOURCE, 0, reinterpret_cast<const void*>(HundredRecords));
+    Send(grid, HGM_SETHELD, 0, 90);
+    Send(grid, HGM_SETTOTAL, 0, 39);
+    EXPECT_EQ(40, Send(grid, HGM_GETHELD));
+    EXPECT_EQ(40, Send(grid, HGM_GETROWCOUNT));
+}
+
+TEST_F(GridRowMessages, TotalPastSixteenBitsBelowZeroHoldsNoMoreThanTwoPages)
+{
+    MakeGrid(GridOf({ Number() }));
+    SendPtr(grid, HGM_SETROWSOURCE, 0, reinterpret_cast<const void*>(HundredRecords));
+    Send(grid, HGM_SETTOTAL, 0, -40000);
+    EXPECT_EQ(2 * ctl->cPageRows, Send(grid, HGM_GETHELD));
+}
+
 TEST_F(GridRowMessages, SortOrdersRowsAndTheParallelArray)
 {
     MakeGrid(GridOf({ Text(), Number() }), 4);

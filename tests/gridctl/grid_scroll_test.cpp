@@ -1,11 +1,11 @@
 // Scrolling: bars, wheel, and the view under the current cell.
-#include "gridctl/record_source.h"
+#include "gridctl/grid_editing.h"
 
 namespace {
 
 constexpr DWORD plainStyle = HGS_ROWHEADERS | HGS_COLHEADERS;
 
-class GridScroll : public SourceWindow {
+class GridScroll : public GridEditing {
 protected:
     // Ten columns of 80 pixels, a zone of 360, and 50 rows in a page of 9.
     void MakeWideGrid(DWORD style = plainStyle, WORD fixedCols = 0)
@@ -274,6 +274,47 @@ TEST_F(GridScroll, WheelOverAGridThatFitsDoesNothing)
     EXPECT_EQ(0, SendWheel(WHEEL_DELTA));
     EXPECT_NOTHING_SEEN();
     EXPECT_EQ((Cell{ 0, 0 }), Current());
+}
+
+// An odd remainder below the rows leaves the way of one row, though the page counts all of them.
+TEST_F(GridScroll, WheelUpTakesTheLastStepBackWhereAllRowsFitAndGoesOn)
+{
+    MakeGrid(GridOf({ Text() }, plainStyle), 10);
+    SetWindowPos(grid, nullptr, 0, 0, 400, 20 + 199, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ASSERT_EQ(10, ctl->cPageRows);
+    Send(grid, HGM_SETTOPRECORD, 1);
+    ASSERT_EQ(1u, +ctl->nVScrollPos);
+    int wheels = 0;
+    parent.OnMessage(WM_MOUSEWHEEL, [&](WPARAM, LPARAM) {
+        ++wheels;
+        return 0;
+    });
+    SendWheel(WHEEL_DELTA);
+    EXPECT_EQ(0, ctl->nTopRow);
+    EXPECT_EQ(1, wheels);
+}
+
+TEST_F(GridScroll, StepOfTheVerticalBarStopsBeforeTheEntryRow)
+{
+    MakeGrid(GridOf({ Text() }, plainStyle | HGS_NEWROW));
+    AddRows(50);
+    const int entry = LastRow(ctl);
+    MoveTo(0, entry - 3);
+    Send(grid, WM_VSCROLL, SB_PAGEDOWN);
+    EXPECT_CELL(0, entry - 1);
+}
+
+TEST_F(GridScroll, EditorGoesWhilePixelsMoveAndHasTheFocusAgainThen)
+{
+    MakeWideGrid();
+    TypeInto(0, 5, "typed");
+    Send(grid, WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 3));
+    EXPECT_EQ(3, ctl->nTopRow);
+    EXPECT_EQ(1, parent.Count(HGN_EDITBLUR));
+    EXPECT_EQ(1, parent.Count(HGN_EDITFOCUS));
+    EXPECT_EQ(Editor(), GetFocus());
+    EXPECT_TRUE(IsWindowVisible(Editor()));
+    EXPECT_EQ("typed", TextOf(Editor()));
 }
 
 TEST_F(GridScroll, EntryRowCountsForTheWheel)

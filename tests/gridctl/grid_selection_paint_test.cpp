@@ -1,54 +1,7 @@
 // The selection over the cells: what is inverted, how it is framed, and that it follows each change exactly.
-#include "gridctl/grid_paint_window.h"
+#include "gridctl/grid_selection_window.h"
 
 #include <gtest/gtest.h>
-
-namespace {
-
-constexpr DWORD keepStyle = gridStyle | HGS_KEEPSEL;
-constexpr DWORD readOnlyStyle = keepStyle | HGS_READONLY;
-
-LRESULT CALLBACK SilentProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    return message == WM_SETFONT ? 0 : HGridWnd(hwnd, message, wParam, lParam);
-}
-
-class GridSelectionPaint : public GridPaintTest {
-protected:
-    HWND MakeSelectable(DWORD style, int rows = 5)
-    {
-        HGridData* const data = GridOf({ Text(), Text(16, "Fixed", HFF_READONLY), Text(), Drawn() }, style);
-        return MakeHostDrawn(data, rows, SilentProc);
-    }
-    static testing::AssertionResult IsInverted(const Pixels& plain, const Pixels& shot, const RECT& area)
-    {
-        Pixels expected = PartOf(plain, area);
-        for (COLORREF& color : expected.colors) {
-            color = ~color & 0x00FFFFFF;
-        }
-        return SamePixels(expected, PartOf(shot, area));
-    }
-    static testing::AssertionResult IsPlain(const Pixels& plain, const Pixels& shot, const RECT& area)
-    {
-        return SamePixels(plain, shot, area);
-    }
-    // The grid without its selection, headers as they are with it.
-    Pixels Plain()
-    {
-        SetFlag(ctl, HGC_CELLSHOWN, false);
-        const Pixels shot = Repaint();
-        SetFlag(ctl, HGC_CELLSHOWN, true);
-        return shot;
-    }
-    RECT SelectionRect(Cell anchor, Cell cur)
-    {
-        RECT rect{};
-        HGSelectionRect(ctl, &rect, PackCell(anchor.col, anchor.row), PackCell(cur.col, cur.row), nullptr);
-        return rect;
-    }
-};
-
-} // namespace
 
 TEST_F(GridSelectionPaint, InvertsNothingForOneCellOfAnEditableColumn)
 {

@@ -2,6 +2,9 @@
 #include "gridctl/grid_window.h"
 
 #include "foundation/startup.h"
+#include "support/import_hook.h"
+
+#include <vector>
 
 namespace {
 
@@ -11,6 +14,14 @@ constexpr DWORD sizes = HGS_ROWSIZE | HGS_COLSIZE;
 HCURSOR CursorOf(int id)
 {
     return LoadCursorA(hInstance, MAKEINTRESOURCEA(id));
+}
+
+std::vector<HCURSOR> gDestroyed;
+
+BOOL WINAPI NoteDestruction(HCURSOR cursor)
+{
+    gDestroyed.push_back(cursor);
+    return TRUE;
 }
 
 class GridSizeDrag : public GridWindow {
@@ -47,6 +58,20 @@ protected:
     int     WidthOf(int col) { return HGGetField(ctl->pData, col)->nWidth; }
     LRESULT AskCursor(int hitCode) { return Send(grid, WM_SETCURSOR, reinterpret_cast<WPARAM>(grid), hitCode); }
 };
+
+TEST_F(GridSizeDrag, PointersAreDestroyedWithTheLastGrid)
+{
+    MakeCells();
+    const std::vector<HCURSOR> pointers = { CursorOf(4302), CursorOf(4303), CursorOf(4304) };
+    const HWND                 first = grid;
+    MakeCells();
+    gDestroyed.clear();
+    const ImportHook hook("DestroyCursor", NoteDestruction);
+    DestroyWindow(first);
+    EXPECT_TRUE(gDestroyed.empty());
+    DestroyWindow(grid);
+    EXPECT_EQ(pointers, gDestroyed);
+}
 
 TEST_F(GridSizeDrag, PointerShowsWhatWouldBeDragged)
 {

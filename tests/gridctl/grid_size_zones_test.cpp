@@ -177,6 +177,13 @@ TEST_F(GridSizeZones, ColumnZonesBelongToTheBandOfTheMouse)
     EXPECT_EQ("4: 84-95; 5: 144-155; ", AlongX(17));
 }
 
+TEST_F(GridSizeZones, BandWithoutColumnsEndsAtThePixelOfItsNumber)
+{
+    Make({ Column(80) }, { .style = HGS_COLHEADERS | HGS_COLSIZE, .bands = 2, .rows = 5 });
+    EXPECT_EQ(0, ZoneAt(40, 8));
+    EXPECT_EQ("", AlongX(28, 1));
+}
+
 TEST_F(GridSizeZones, ColumnZonesFollowTheScrollPosition)
 {
     Make({ Column(80), Column(100), Column(300) }, { .style = headers | HGS_COLSIZE, .rows = 5 });
