@@ -77,7 +77,7 @@ void ClickAlone(HListCtl* ctl, int index, bool shift)
         ValidateRect(ctl->hWnd, &range);
         HLSelectRange(ctl, ctl->nAnchor, index, HLSEL_SET);
     } else {
-        HLSelectOne(ctl, index, HLSEL_SET);
+        HLSelectGuarded(ctl, index, HLSEL_SET);
     }
 }
 
@@ -87,7 +87,7 @@ void ClickWithCtrl(HListCtl* ctl, int index, bool shift)
         HLDragTo(ctl, index);
         return;
     }
-    HLSelectOne(ctl, index, HLSEL_TOGGLE);
+    HLSelectGuarded(ctl, index, HLSEL_TOGGLE);
     SetFlag(ctl, HLF_DRAGSET, IsInSelection(ctl, index));
 }
 
@@ -237,7 +237,7 @@ void HLClick(HListCtl* ctl, int index, bool shift, bool ctrl)
     const HWND hwnd = ctl->hWnd;
     const bool extended = HasStyle(ctl, HLS_EXTSEL);
     if (HasStyle(ctl, HLS_MULTISEL)) {
-        HLSelectOne(ctl, index, HLSEL_TOGGLE);
+        HLSelectGuarded(ctl, index, HLSEL_TOGGLE);
     } else if (extended && !ctrl) {
         ClickAlone(ctl, index, shift);
     } else if (extended) {
