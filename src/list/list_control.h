@@ -86,6 +86,7 @@ int  HLSelectRange(HListCtl* ctl, int from, int to, int mode);
 int  HLSelectMany(HListCtl* ctl, int mode, int which, int n, const void* list);
 int  HLSelectFound(HListCtl* ctl, int index, int mode); // what HLSelectData and HLSelectCode do with what they find
 int  HLCurIndex(HListCtl* ctl);
+void HLMoveCurrent(HListCtl* ctl, int index); // the current item has another index, or is gone: -1
 void HLStoreCurrent(HListCtl* ctl, int index);
 void HLUpdateLinks(HListCtl* ctl);
 void HLLinkData(HListCtl* ctl, void* link, bool select);

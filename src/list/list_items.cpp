@@ -206,7 +206,7 @@ LONG Moved(LONG index, int delta, int at, int last)
 void MoveMarks(HListCtl* ctl, int delta, int at)
 {
     const int last = LastItem(ctl);
-    ctl->nCurrent = Moved(ctl->nCurrent, delta, at, last);
+    HLMoveCurrent(ctl, Moved(ctl->nCurrent, delta, at, last));
     ctl->nAnchor = Moved(ctl->nAnchor, delta, at, last);
 }
 

@@ -204,7 +204,7 @@ int HLCurIndex(HListCtl* ctl)
     if (ctl->nCurrent >= 0 && IsHeldByCode(ctl)) {
         const DWORD code = ctl->lCurCode;
         DataList    items = ctl->items;
-        ctl->nCurrent = HDLFindCode(&items, 0, &code);
+        HLMoveCurrent(ctl, HDLFindCode(&items, 0, &code));
     }
     return ctl->nCurrent;
 }
@@ -234,6 +234,14 @@ void HLUpdateLinks(HListCtl* ctl)
     if (ctl->pCodeLink && HasCodes(ctl)) {
         HDLGetCode(&items, current, ctl->pCodeLink);
     }
+void HLMoveCurrent(HListCtl* ctl, int index)
+{
+    if (index == -1 && ctl->nCurrent >= 0 && HasFlag(ctl, HLF_SINGLESEL)) {
+        SetFlag(ctl, CF_NULL, true);
+    }
+    ctl->nCurrent = index;
+}
+
 }
 
 void HLLinkData(HListCtl* ctl, void* link, bool select)
