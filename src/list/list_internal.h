@@ -44,6 +44,8 @@ void SetSelectedAt(const HListCtl* ctl, int place, int index);
 // order costs a step a question.
 int  PlaceInSelection(const HListCtl* ctl, int index);
 bool IsInSelection(const HListCtl* ctl, int index);
+// HLIsItemSelected in a walk that asks for the current item once: it is searched if it is held by its code.
+bool IsSelectedBeside(HListCtl* ctl, int index, int current);
 
 // HLDrawItem without the answer whether the text fits, for which it has to be measured. opaque: over the background
 // colour of hdc, and not for a list with tab stops.

@@ -68,7 +68,7 @@ struct ListPaint {
     HWND      hwnd;
     bool      focused; // of a field and of a drawn list; the others don't look
     bool      isField;
-    int       current; // of single selection, which is searched at each question if it is held by its code
+    int       current; // searched at each question if it is held by its code
     HBRUSH    brush; // of items that aren't highlighted
     COLORREF  color;     // 0: the list's own
     COLORREF  backColor; // of brush, if it has just one
@@ -96,7 +96,7 @@ struct ItemLook {
 ItemLook LookOf(const ListPaint& paint, int index)
 {
     HListCtl* const ctl = paint.ctl;
-    const bool      selected = HasFlag(ctl, HLF_SINGLESEL) ? index == paint.current : HLIsItemSelected(ctl, index);
+    const bool      selected = IsSelectedBeside(ctl, index, paint.current);
     const bool      marked = index == ctl->nHot || (ctl->nHot == -1 && selected);
     return { marked, paint.isField ? paint.focused : marked };
 }
