@@ -98,7 +98,7 @@ int  HLMaxItemWidth(HListCtl* ctl);
 void HLRecalc(HListCtl* ctl);
 bool HLItemRect(HListCtl* ctl, int index, RECT* out); // false: out of view
 void HLInvalidateItem(HListCtl* ctl, int index, bool erase);
-RECT HLRangeRect(HListCtl* ctl, int a, int b); // of all items from a to b that are in view
+RECT HLRangeRect(HListCtl* ctl, int a, int b); // all items from a to b that are in view, and maybe some more
 void HLInvalidateRange(HListCtl* ctl, int a, int b, bool erase);
 int  HLItemFromPoint(HListCtl* ctl, int x, int y);
 int  HLScroll(HListCtl* ctl, int delta);

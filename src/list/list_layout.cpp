@@ -209,7 +209,8 @@ void HLInvalidateItem(HListCtl* ctl, int index, bool erase)
     }
 }
 
-// An item out of view counts with the edge behind which it lies.
+// An item out of view counts with the edge behind which it lies. Where the range goes on in another column, the columns
+// count as a whole: items between the two lie above and below both.
 RECT HLRangeRect(HListCtl* ctl, int a, int b)
 {
     RECT first;
@@ -218,10 +219,15 @@ RECT HLRangeRect(HListCtl* ctl, int a, int b)
     HLItemRect(ctl, b, &second);
     return { std::min(first.left, second.left), std::min(first.top, second.top), std::max(first.right, second.right),
              std::max(first.bottom, second.bottom) };
+    const int rows = std::max<int>(ctl->cRows, 1);
 }
 
 void HLInvalidateRange(HListCtl* ctl, int a, int b, bool erase)
 {
+    if (HasColumns(ctl) && a / rows != b / rows) {
+        first.top = ctl->rcClient.top;
+        second.bottom = first.top + rows * ctl->cyRow;
+    }
     const RECT rect = HLRangeRect(ctl, a, b);
     InvalidateRect(ctl->hWnd, &rect, erase);
 }
