@@ -40,6 +40,7 @@ void HCKeepParts(HCombCtl* ctl);  // takes down records and code type after part
 void HCParkList(HCombCtl* ctl);   // takes the list away
 void HCUnparkList(HCombCtl* ctl); // and brings it back
 void HCShareField(HCombCtl* ctl); // the lists show the field's items, after its words have changed
+void HCReturnItems(HListCtl* list); // ends the sharing on the list's side; what is its own stays. list may be null
 int  HCShareList(HCombCtl* ctl, DataList* list);
 
 // Button geometry in client coordinates, for buttons that exist.
