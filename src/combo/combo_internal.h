@@ -60,6 +60,7 @@ void HCTakeMouse();           // from all windows but the open combo's
 void HCGiveMouseBack();       // no combo is open any more
 HWND HCFaceOfDrop(HWND drop); // null for a list of the class that no combo has made
 
+constexpr int longestSize = 0x00FFFFFF; // Bounded: no height and no width of a list is higher.
 // Reads a number behind a head of "%" at *text and moves behind it. 0 without one.
 int HCReadSize(const char** text);
 
