@@ -166,16 +166,13 @@ bool PaintItem(const ListPaint& paint, int index)
     return true;
 }
 
-// The first item is one pixel inside of the area, or at its only pixel.
 void PaintItems(const ListPaint& paint, const RECT& area)
 {
     HListCtl* const ctl = paint.ctl;
-    const int       right = area.right - 1;
-    const int       bottom = area.bottom - 1;
-    const int       left = std::min<int>(area.left + 1, right);
-    const int       top = std::min<int>(area.top + 1, bottom);
-    const int       last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, right, bottom);
-    int             index = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, left, top);
+    // From the very first pixel on: it may be the last one of its item.
+    const int first = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.left, area.top);
+    const int last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.right - 1, area.bottom - 1);
+    int       index = first;
     while (index <= last && PaintItem(paint, index)) {
         ++index;
     }

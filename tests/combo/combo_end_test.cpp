@@ -377,15 +377,17 @@ TEST_F(ComboEnd, WhatAHostGivesTheListOfAFieldGoesWithTheList)
     }
 }
 
-LRESULT CALLBACK AnswerAnything(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+HCombCtl gNoCombo; // something of a host's that lies where a combo's record would
+
+LRESULT CALLBACK AnswerWithARecord(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    return message == WWM_GETSTATE ? 0x1234 : DefWindowProcA(hwnd, message, wParam, lParam);
+    return message == WWM_GETSTATE ? AsParam(&gNoCombo) : DefWindowProcA(hwnd, message, wParam, lParam);
 }
 
 TEST_F(ComboEnd, ListWhoseParentIsNoComboAnyMoreGoesByItself)
 {
     WNDCLASSA info = {};
-    info.lpfnWndProc = AnswerAnything;
+    info.lpfnWndProc = AnswerWithARecord;
     info.hInstance = GetModuleHandleA(nullptr);
     info.lpszClassName = "Another"; // its name stands in front of the combo's
     RegisterClassA(&info);
@@ -395,10 +397,11 @@ TEST_F(ComboEnd, ListWhoseParentIsNoComboAnyMoreGoesByItself)
             CreateWindowExA(0, "Another", "", WS_CHILD, 0, 0, 10, 10, parent.hwnd(), nullptr, info.hInstance, nullptr);
         SendMessageA(list, WWM_SETPARENT, reinterpret_cast<WPARAM>(other), 0);
         ASSERT_EQ(other, +RecordOf<HListCtl>(list)->hParent);
+        gNoCombo.hDrop = list;
         DestroyWindow(list);
         EXPECT_FALSE(IsWindow(list));
+        EXPECT_EQ(list, +gNoCombo.hDrop) << "it was written to";
         End();
-        EXPECT_FALSE(IsWindow(combo));
         DestroyWindow(other);
     }
     UnregisterClassA("Another", info.hInstance);

@@ -108,6 +108,7 @@ TEST_F(ListRepaint, ShiftKeyInAnotherColumnTakesTheHighlightOffTheRest)
 TEST_F(ListRepaint, UpdateRectangleOnePixelWideIsPainted)
 {
     MakeColumns(HLS_MULTISEL, 4, 12);
+    Blur(); // the focus rectangle repaints its item whole
     HLSelectItems(list, HLSEL_SET, HLI_ALL, 0, nullptr);
     const int    height = RowHeight();
     const RECT   areas[] = { { 0, height - 1, 300, height },    { 0, 0, 300, 1 }, { 59, 0, 60, 4 * height },
