@@ -2257,7 +2257,10 @@ void WINAPI BoundMinMax(void* ctl);
 #define HLM_SELECTRANGE 1239
 /** wParam: room of lParam, an array of int. Fills it with the selected c in order and gives their number. */
 #define HLM_GETSELITEMS 1240
-/** wParam: pixels; above 0 they stay. Gives 1; 0 without HLS_MULTICOLUMN. */
+/**
+ * wParam: pixels; above 0 they stay. The number of visible columns and the scroll range follow with the next layout, as
+ * by HLM_RECALC. Gives 1; 0 without HLS_MULTICOLUMN.
+ */
 #define HLM_SETCOLUMNWIDTH 1244
 /** Gives the width of the visible columns in pixels. */
 #define HLM_GETTOTALWIDTH 1245
@@ -2273,7 +2276,10 @@ void WINAPI BoundMinMax(void* ctl);
 #define HLM_SCROLL 1257
 /** wParam: number of tab stops. lParam: array of int, in pixels at 96 dpi; for one stop the stop itself. Gives 1. */
 #define HLM_SETTABS 1258
-/** wParam: non-zero paints and lays out again, 0 stops it. lParam: repaint. Gives 1. */
+/**
+ * wParam: 0 stops painting and layout, non-zero goes on. lParam: repaint. Gives 1. Nothing is laid out by it: send
+ * HLM_RECALC if items have come or gone meanwhile.
+ */
 #define HLM_SETREDRAW 1261
 /** Gives the flags. */
 #define HLM_GETFLAGS 1265
@@ -2374,14 +2380,25 @@ int WINAPI HLSetCode(HWND hwnd, int index, const void* code);
  * @return Number of items visited; 0 without a list.
  */
 int WINAPI HLGetItems(HWND hwnd, int n, int kind, void* out, int which, const void* list);
-/** Selects an item by an HLSEL_ mode; the current item stays. Gives 1 if its state changed, else 0. */
+/**
+ * Selects an item by an HLSEL_ mode; the current item stays.
+ *
+ * @return 1 if its state changed, else 0, also for an index out of range. With single selection nothing changes, and the
+ *         result is 1 where another mode than the item's state was given: HLSEL_SET of another item than the current
+ *         one, HLSEL_CLEAR of the current one, HLSEL_TOGGLE of any.
+ */
 int WINAPI HLSelectItem(HWND hwnd, int index, int mode);
-/** Selects the items of an HLI_ selector; with single selection one of them at the most. Gives the number visited. */
+/**
+ * Selects the items of an HLI_ selector. With single selection n counts as 1 at the most; selectors that don't read n
+ * visit all the same. Gives the number visited.
+ */
 int WINAPI HLSelectItems(HWND hwnd, int mode, int which, int n, const void* list);
 /**
  * Selects the first item with the data. With single selection it, or none, becomes the current one.
  *
  * @return 1 if the item was found (single selection) or its state changed, else 0.
+ * @note Settled: without single selection, data of no item are selected as item -1, which gives 1 and counts in
+ *       HLM_GETSELCOUNT and HLM_GETSELITEMS. HLFindData tells beforehand.
  */
 int WINAPI HLSelectData(HWND hwnd, const void* data, int mode);
 /** As HLSelectData, by the code. */
@@ -2389,7 +2406,8 @@ int WINAPI HLSelectCode(HWND hwnd, const void* code, int mode);
 /** Gives 1 if the item is selected, else 0. */
 int WINAPI HLIsSelected(HWND hwnd, int index);
 /**
- * Sets the buffer into which the current item's data are copied whenever another item becomes current.
+ * Sets the buffer into which the current item's data are copied whenever another item becomes current, and at once if
+ * there is a current item.
  *
  * @param link     Buffer with room for any item; null for none.
  * @param fSelect  Non-zero: the item with the buffer's value is selected first.
@@ -2413,8 +2431,9 @@ LRESULT CALLBACK HListMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
  * The class "HComb": a face, which is a typed edit or a list of one row, and a list that drops below it or lies there.
  * The window text is "%", the height of the list in pixels at 96 dpi, optionally "%" and its least width, then the type
  * text of the list; "#" in place of the first "%" keeps HLS_CODECURRENT from the list. Without a height there is no
- * list. All style bits but those that creation takes out are the lists' too: HCS_WANTKEYS is their HLS_WANTKEYS. The messages of combo boxes (CB_) and those of edit
- * and list controls are answered too.
+ * list. The messages of combo boxes (CB_) and those of edit and list controls are answered too.
+ * All style bits but those that creation takes out are the lists' too: there HCS_WANTKEYS is HLS_WANTKEYS, HCS_READONLY
+ * HLS_MULTICOLUMN, HCS_NOBUTTON HLS_CODECURRENT, HCS_XBUTTON HLS_NOSCROLL, and HCS_STACKED HLS_HOTTRACK.
  */
 
 /** The list drops; otherwise it lies below the face. Style bit. */
@@ -2492,7 +2511,7 @@ LRESULT CALLBACK HListMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 #define HCN_CLOSEUP 8
 /** The user has accepted a row. */
 #define HCN_SELENDOK 9
-/** The extra button was pressed, or F5. */
+/** The extra button was released inside itself; or F5 was pressed where there is an extra button. */
 #define HCN_XBUTTON 11
 /** Return while closed, under HCS_WANTKEYS. */
 #define HCN_ENTER 257
@@ -2530,7 +2549,7 @@ int WINAPI HCSetList(HWND hwnd, DataList* list);
 /**
  * Reads a height "%" and digits at *text, which moves behind it.
  *
- * @return The number; 0 without one, and for texts shorter than three characters, and then *text stays.
+ * @return The number, which may be 0. Without one, or for a text shorter than three characters: 0, and *text stays.
  */
 int WINAPI GetDropHeight(const char** text);
 /** Window procedure that a combo gives its face. */

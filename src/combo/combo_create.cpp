@@ -222,6 +222,13 @@ void HCShareItems(HWND from, HWND to)
     SetBorrows(list, true);
 }
 
+void HCReturnItems(HListCtl* list)
+{
+    if (list && Borrows(list)) {
+        HLDropItems(list);
+    }
+}
+
 void HCShareField(HCombCtl* ctl)
 {
     HCShareItems(ctl->hChild, ctl->hDrop);
@@ -276,10 +283,7 @@ void HCUnparkList(HCombCtl* ctl)
 void HCLoseFace(HCombCtl* ctl)
 {
     for (const HWND list : { ctl->hDrop, ctl->hDropParked }) {
-        HListCtl* const record = HasEdit(ctl) ? nullptr : ListRecord(list);
-        if (record && Borrows(record)) {
-            record->items = {};
-        }
+        HCReturnItems(HasEdit(ctl) ? nullptr : ListRecord(list));
     }
     ctl->pChild = nullptr;
 }
@@ -291,10 +295,7 @@ void HCEnd(HCombCtl* ctl)
     ctl->hDropParked = nullptr;
     const bool isAlive = list && IsWindow(list);
     // Bounded: the field is gone and its items with it, so the words go before the host hears that the list closes.
-    HListCtl* const record = isAlive && !HasEdit(ctl) && ctl->hChild ? ListRecord(list) : nullptr;
-    if (record && Borrows(record)) {
-        record->items = {};
-    }
+    HCReturnItems(isAlive && !HasEdit(ctl) && ctl->hChild ? ListRecord(list) : nullptr);
     HCCloseDrop(ctl);
     if (isAlive && IsWindow(list)) {
         DestroyWindow(list);

@@ -22,7 +22,7 @@ const void* ValueOfCode(HCombCtl* ctl, HDC hdc, const void* code, char* text)
     DataList   items = ctl->pDrop->items;
     const int  index = HDLFindCode(&items, 0, code);
     const bool found = index >= 0; // a negative index would name the last item
-    if (items.cType != 's') {
+    if (GetDataSize(items.cClass, items.cType) >= 0) {
         return found ? HDLGetDataPtr(&items, index) : nullptr;
     }
     text[0] = 0;

@@ -40,6 +40,7 @@ void HCKeepParts(HCombCtl* ctl);  // takes down records and code type after part
 void HCParkList(HCombCtl* ctl);   // takes the list away
 void HCUnparkList(HCombCtl* ctl); // and brings it back
 void HCShareField(HCombCtl* ctl); // the lists show the field's items, after its words have changed
+void HCReturnItems(HListCtl* list); // ends the sharing on the list's side; what is its own stays. list may be null
 int  HCShareList(HCombCtl* ctl, DataList* list);
 
 // Button geometry in client coordinates, for buttons that exist.
@@ -59,6 +60,7 @@ void HCTakeMouse();           // from all windows but the open combo's
 void HCGiveMouseBack();       // no combo is open any more
 HWND HCFaceOfDrop(HWND drop); // null for a list of the class that no combo has made
 
+constexpr int longestSize = 0x00FFFFFF; // Bounded: no height and no width of a list is higher.
 // Reads a number behind a head of "%" at *text and moves behind it. 0 without one.
 int HCReadSize(const char** text);
 

@@ -67,7 +67,7 @@ LONG MiddleOf(const RECT& rect)
 int HCSetHeight(HCombCtl* ctl, int height)
 {
     if (HasDropdown(ctl)) {
-        ctl->cyDrop = height < leastHeight ? HeightByItself(ctl) : height;
+        ctl->cyDrop = height < leastHeight ? HeightByItself(ctl) : std::min(height, longestSize);
         return WindowHeight(ctl->hWnd);
     }
     const int face = HIWORD(GetBaseUnits(ctl->hFont)) + lineMargin;

@@ -130,7 +130,7 @@ LRESULT OnSetDropWidth(HCombCtl* ctl, const MsgArgs& args)
     if (!HasDropdown(ctl)) {
         return 0;
     }
-    ctl->cxDrop = IntArg(args);
+    ctl->cxDrop = std::min(IntArg(args), longestSize);
     if (ctl->hDrop) {
         HCPlaceDrop(ctl);
     }

@@ -16,9 +16,11 @@ LPARAM AsParam(Value& value)
     return reinterpret_cast<LPARAM>(value.bytes);
 }
 
+// The type letter of texts is also that of numbers of 16 bits and of calendar words.
 bool HasTexts(const HCombCtl* ctl)
 {
-    return ToList(ctl, HLM_GETDATATYPE) == 's';
+    const HListCtl* const list = ctl->pDrop;
+    return list && GetDataSize(list->items.cClass, list->items.cType) < 0;
 }
 
 int CurrentOfList(const HCombCtl* ctl)

@@ -8,8 +8,7 @@
 
 namespace {
 
-constexpr size_t shortestHead = 3;         // characters of a text that may begin with a size
-constexpr int    longestSize = 0x00FFFFFF; // Bounded: no size is higher.
+constexpr size_t shortestHead = 3; // characters of a text that may begin with a size
 
 bool IsDigit(char ch)
 {

@@ -5,6 +5,8 @@
 #include "foundation/startup.h"
 #include "griddata/grid_model.h"
 
+#include <cstring>
+
 namespace {
 
 constexpr int faceWord = sizeof(LONG_PTR); // the second of the extra words
@@ -128,8 +130,15 @@ void LeaveCombo(HCombCtl* ctl, HListCtl* list)
         ctl->hDropParked = nullptr;
     }
     if (!HasEdit(ctl)) {
-        list->items = {};
+        HCReturnItems(list);
     }
+}
+
+// Unlike HIsCombo by the whole name.
+bool IsComboWindow(HWND hwnd)
+{
+    char name[8] = "";
+    return GetClassNameA(hwnd, name, sizeof name) && std::strcmp(name, "HComb") == 0;
 }
 
 // The list may go before its combo does: by the system, which destroys children first, or by a host.
@@ -139,9 +148,9 @@ void OnNcDestroy(HWND hwnd)
         HCGiveMouseBack();
     }
     HListCtl* const list = HCFaceOfDrop(hwnd) ? static_cast<HListCtl*>(ControlRecord(hwnd)) : nullptr;
-    HCombCtl* const ctl = list ? HCFromWindow(list->hParent) : nullptr;
     // Bounded: a host may have given the list another parent, whose record is none of a combo.
-    if (ctl && HIsCombo(list->hParent) && (ctl->hDrop == hwnd || ctl->hDropParked == hwnd)) {
+    HCombCtl* const ctl = list && IsComboWindow(list->hParent) ? HCFromWindow(list->hParent) : nullptr;
+    if (ctl && (ctl->hDrop == hwnd || ctl->hDropParked == hwnd)) {
         LeaveCombo(ctl, list);
     }
 }

@@ -60,7 +60,7 @@ HGField* EditedField(HGridCtl* ctl)
 // Bounded: data that isn't text has bytes of any value, so it is neither cut nor emptied by a text that is too short.
 LRESULT LoadCodeText(HWND editor, const HGField* field, const void* code)
 {
-    const bool    isText = field->cType == 's';
+    const bool    isText = GetDataSize(field->cClass, field->cType) < 0;
     const LRESULT index = SendMessageA(editor, HLM_FINDCODE, 0, reinterpret_cast<LPARAM>(code));
     SendMessageA(editor, HEM_SETDATA, 0, reinterpret_cast<LPARAM>(isText ? "" : nullptr));
     if (static_cast<int>(index) == -1) {

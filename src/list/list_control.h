@@ -86,6 +86,7 @@ int  HLSelectRange(HListCtl* ctl, int from, int to, int mode);
 int  HLSelectMany(HListCtl* ctl, int mode, int which, int n, const void* list);
 int  HLSelectFound(HListCtl* ctl, int index, int mode); // what HLSelectData and HLSelectCode do with what they find
 int  HLCurIndex(HListCtl* ctl);
+void HLMoveCurrent(HListCtl* ctl, int index); // the current item has another index, or is gone: -1
 void HLStoreCurrent(HListCtl* ctl, int index);
 void HLUpdateLinks(HListCtl* ctl);
 void HLLinkData(HListCtl* ctl, void* link, bool select);
@@ -97,7 +98,7 @@ int  HLMaxItemWidth(HListCtl* ctl);
 void HLRecalc(HListCtl* ctl);
 bool HLItemRect(HListCtl* ctl, int index, RECT* out); // false: out of view
 void HLInvalidateItem(HListCtl* ctl, int index, bool erase);
-RECT HLRangeRect(HListCtl* ctl, int a, int b); // of all items from a to b that are in view
+RECT HLRangeRect(HListCtl* ctl, int a, int b); // all items from a to b that are in view, and maybe some more
 void HLInvalidateRange(HListCtl* ctl, int a, int b, bool erase);
 int  HLItemFromPoint(HListCtl* ctl, int x, int y);
 int  HLScroll(HListCtl* ctl, int delta);

@@ -60,7 +60,17 @@ void TellMoved(HListCtl* ctl, bool notify)
     }
 }
 
-// A click or a key on an item of an extended selection without Ctrl: it, or the range to it, alone is selected.
+// What a key range selects is repainted by the selection. With several columns its rectangle has other items in it too.
+void ValidateRange(HListCtl* ctl, int index)
+{
+    if (!HasStyle(ctl, HLS_MULTICOLUMN)) {
+        const RECT range = HLRangeRect(ctl, ctl->nAnchor, index);
+        ValidateRect(ctl->hWnd, &range);
+    }
+}
+
+// A click or a key on an item of an extended selection without Ctrl: it, or the range to it, alone is selected. In an
+// empty list it is on no item.
 void ClickAlone(HListCtl* ctl, int index, bool shift)
 {
     HLSelectMany(ctl, HLSEL_CLEAR, HLI_SELECTED, 0, nullptr);
@@ -73,11 +83,10 @@ void ClickAlone(HListCtl* ctl, int index, bool shift)
         }
         SetFlag(ctl, HLF_DRAGSET, true);
     } else if (shift) {
-        const RECT range = HLRangeRect(ctl, ctl->nAnchor, index);
-        ValidateRect(ctl->hWnd, &range);
+        ValidateRange(ctl, index);
         HLSelectRange(ctl, ctl->nAnchor, index, HLSEL_SET);
     } else {
-        HLSelectOne(ctl, index, HLSEL_SET);
+        HLSelectGuarded(ctl, index, HLSEL_SET);
     }
 }
 
@@ -87,7 +96,7 @@ void ClickWithCtrl(HListCtl* ctl, int index, bool shift)
         HLDragTo(ctl, index);
         return;
     }
-    HLSelectOne(ctl, index, HLSEL_TOGGLE);
+    HLSelectGuarded(ctl, index, HLSEL_TOGGLE);
     SetFlag(ctl, HLF_DRAGSET, IsInSelection(ctl, index));
 }
 
@@ -237,7 +246,7 @@ void HLClick(HListCtl* ctl, int index, bool shift, bool ctrl)
     const HWND hwnd = ctl->hWnd;
     const bool extended = HasStyle(ctl, HLS_EXTSEL);
     if (HasStyle(ctl, HLS_MULTISEL)) {
-        HLSelectOne(ctl, index, HLSEL_TOGGLE);
+        HLSelectGuarded(ctl, index, HLSEL_TOGGLE);
     } else if (extended && !ctrl) {
         ClickAlone(ctl, index, shift);
     } else if (extended) {

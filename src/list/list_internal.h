@@ -45,6 +45,8 @@ void SetSelectedAt(const HListCtl* ctl, int place, int index);
 // order costs a step a question.
 int  PlaceInSelection(const HListCtl* ctl, int index);
 bool IsInSelection(const HListCtl* ctl, int index);
+// HLIsItemSelected in a walk that asks for the current item once: it is searched if it is held by its code.
+bool IsSelectedBeside(HListCtl* ctl, int index, int current);
 
 // How the text of an item is drawn.
 struct TextLook {

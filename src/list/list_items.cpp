@@ -90,7 +90,7 @@ GivenItems ItemsOf(const HListCtl* ctl, const void* items, const void* codes)
 class FollowedItems {
 public:
     explicit FollowedItems(HListCtl* ctl)
-        : ctl_(ctl), list_(ctl->items.pValues), count_(HLListCount(ctl->pSelected)),
+        : ctl_(ctl), list_(ctl->items.pValues), countBefore_(HLListCount(list_)), count_(HLListCount(ctl->pSelected)),
           nodes_(count_ ? static_cast<void**>(HBlockAlloc(static_cast<size_t>(count_) * sizeof(void*))) : nullptr),
           current_(NodeOf(ctl->nCurrent)), anchor_(NodeOf(ctl->nAnchor))
     {
@@ -106,7 +106,7 @@ public:
     // Gives every index the place that its item has now.
     void Renumber()
     {
-        int place = 0;
+        int place = PassStrays(0);
         for (int i = 0; i < HLListCount(list_); ++i) {
             const void* const node = HLListGetItem(list_, i);
             if (node == current_) {
@@ -115,16 +115,23 @@ public:
             if (node == anchor_) {
                 ctl_->nAnchor = i;
             }
-            while (place < count_ && !nodes_[place]) {
-                ++place; // an entry that names no item stays as it is
-            }
             if (place < count_ && nodes_[place] == node) {
-                SetSelectedAt(ctl_, place++, i);
+                SetSelectedAt(ctl_, place, i);
+                place = PassStrays(place + 1);
             }
         }
     }
 
 private:
+    // Entries that name no item: -1 stays, and one behind the end moves with the end. Gives the next place.
+    int PassStrays(int place)
+    {
+        for (; place < count_ && !nodes_[place]; ++place) {
+            const int index = SelectedAt(ctl_, place);
+            SetSelectedAt(ctl_, place, index < 0 ? index : index + HLListCount(list_) - countBefore_);
+        }
+        return place;
+    }
     void* NodeOf(int index) const
     {
         return index >= 0 && index < HLListCount(list_) ? HLListGetItem(list_, index) : nullptr;
@@ -132,7 +139,8 @@ private:
 
     HListCtl* ctl_;
     HLList*   list_;
-    int       count_;
+    int       countBefore_;
+    int       count_; // of selected items
     void**    nodes_;
     void*     current_;
     void*     anchor_;
@@ -154,8 +162,7 @@ int InsertQuietly(HListCtl* ctl, int index, const void* data, const void* code)
 bool HasStrayIndex(const HListCtl* ctl)
 {
     const int count = HLCount(ctl);
-    const int selected = HLListCount(ctl->pSelected);
-    return ctl->nCurrent >= count || ctl->nAnchor >= count || (selected && SelectedAt(ctl, selected - 1) >= count);
+    return ctl->nCurrent >= count || ctl->nAnchor >= count;
 }
 
 // The same for many, at the cost of one sort and one walk.
@@ -206,7 +213,7 @@ LONG Moved(LONG index, int delta, int at, int last)
 void MoveMarks(HListCtl* ctl, int delta, int at)
 {
     const int last = LastItem(ctl);
-    ctl->nCurrent = Moved(ctl->nCurrent, delta, at, last);
+    HLMoveCurrent(ctl, Moved(ctl->nCurrent, delta, at, last));
     ctl->nAnchor = Moved(ctl->nAnchor, delta, at, last);
 }
 
@@ -235,21 +242,26 @@ class Sweep {
 public:
     explicit Sweep(HListCtl* ctl) : ctl_(ctl), selected_(ctl->pSelected), node_(selected_ ? selected_->pHead : nullptr)
     {
+        HLCurIndex(ctl); // from here on deletions keep it right, apart from its own
     }
     // Indexes must not descend.
     bool IsSelected(int index)
     {
         PassBelow(index);
         if (HasFlag(ctl_, HLF_SINGLESEL)) {
-            return index == HLCurIndex(ctl_);
+            return index == ctl_->nCurrent;
         }
         return HasNext() && Next() == index;
     }
     void Remove(int index)
     {
         PassBelow(index);
+        const bool wasCurrent = index == ctl_->nCurrent;
         RemoveValue(ctl_, index);
         MoveMarks(ctl_, -1, index);
+        if (wasCurrent) {
+            HLCurIndex(ctl_);
+        }
         if (HasNext()) {
             void* const      following = HNodeLink(node_);
             const KeptCursor cursor(selected_, place_);

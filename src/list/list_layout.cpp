@@ -81,7 +81,9 @@ int HighestPosition(const HListCtl* ctl)
     return std::max(highest, 0);
 }
 
-void SetBar(HListCtl* ctl, int maximum)
+// false: a bar that came or went has changed the window's size, and the parent, which was asked for the new layout, has
+// destroyed the list.
+bool SetBar(HListCtl* ctl, int maximum)
 {
     const HWND hwnd = ctl->hWnd;
     const int bar = HasColumns(ctl) ? SB_HORZ : SB_VERT;
@@ -93,7 +95,11 @@ void SetBar(HListCtl* ctl, int maximum)
         SetScrollInfo(hwnd, bar, &info, FALSE);
     }
     SetScrollRange(hwnd, bar, 0, maximum, FALSE);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
     SetScrollPos(hwnd, bar, ctl->nScrollPos, TRUE);
+    return true;
 }
 
 void PaintBorder(HListCtl* ctl)
@@ -160,12 +166,12 @@ void HLRecalc(HListCtl* ctl)
     InvalidateRect(hwnd, nullptr, TRUE);
     if (ctl->nScrollPos > maximum) {
         HLScroll(ctl, 0);
+        if (!IsWindow(hwnd)) {
+            return;
+        }
     }
-    if (!IsWindow(hwnd)) {
+    if (!HasStyle(ctl, HLS_NOSCROLL) && !SetBar(ctl, maximum)) {
         return;
-    }
-    if (!HasStyle(ctl, HLS_NOSCROLL)) {
-        SetBar(ctl, maximum);
     }
     if (!HasFlag(ctl, HLF_NOREDRAW)) {
         PaintBorder(ctl);
@@ -209,13 +215,19 @@ void HLInvalidateItem(HListCtl* ctl, int index, bool erase)
     }
 }
 
-// An item out of view counts with the edge behind which it lies.
+// An item out of view counts with the edge behind which it lies. Where the range goes on in another column, the columns
+// count as a whole: items between the two lie above and below both.
 RECT HLRangeRect(HListCtl* ctl, int a, int b)
 {
+    const int rows = std::max<int>(ctl->cRows, 1);
     RECT first;
     RECT second;
     HLItemRect(ctl, a, &first);
     HLItemRect(ctl, b, &second);
+    if (HasColumns(ctl) && a / rows != b / rows) {
+        first.top = ctl->rcClient.top;
+        second.bottom = first.top + rows * ctl->cyRow;
+    }
     return { std::min(first.left, second.left), std::min(first.top, second.top), std::max(first.right, second.right),
              std::max(first.bottom, second.bottom) };
 }

@@ -392,8 +392,10 @@ LRESULT OnSetTabs(HListCtl* ctl, const MsgArgs& args)
     HBlockFree(ctl->pTabs);
     ctl->pTabs = nullptr;
     ctl->cTabs = 0;
-    LONG* const stops =
-        count < 1 ? nullptr : static_cast<LONG*>(HBlockAlloc(static_cast<size_t>(count) * sizeof(LONG)));
+    // Bounded: the size of more stops isn't a number of 32 bits any more.
+    constexpr int mostStops = INT_MAX / static_cast<int>(sizeof(LONG));
+    const bool    fits = count >= 1 && count <= mostStops;
+    LONG* const   stops = fits ? static_cast<LONG*>(HBlockAlloc(static_cast<size_t>(count) * sizeof(LONG))) : nullptr;
     if (!stops) {
         return 1;
     }

@@ -71,7 +71,7 @@ struct ListPaint {
     HWND      hwnd;
     bool      focused; // of a field and of a drawn list; the others don't look
     bool      isField;
-    int       current; // of single selection, which is searched at each question if it is held by its code
+    int       current; // searched at each question if it is held by its code
     HBRUSH    brush; // of items that aren't highlighted
     COLORREF  color;     // 0: the list's own
     COLORREF  backColor; // of brush, if it has just one
@@ -101,7 +101,7 @@ struct ItemLook {
 ItemLook LookOf(const ListPaint& paint, int index)
 {
     HListCtl* const ctl = paint.ctl;
-    const bool      selected = HasFlag(ctl, HLF_SINGLESEL) ? index == paint.current : HLIsItemSelected(ctl, index);
+    const bool      selected = IsSelectedBeside(ctl, index, paint.current);
     const bool      marked = index == ctl->nHot || (ctl->nHot == -1 && selected);
     return { marked, paint.isField ? paint.focused : marked };
 }
@@ -174,9 +174,10 @@ bool PaintItem(const ListPaint& paint, int index)
 void PaintItems(ListPaint paint, const RECT& area)
 {
     HListCtl* const ctl = paint.ctl;
-    const int       first = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.left + 1, area.top + 1);
-    const int       last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.right - 1, area.bottom - 1);
-    AsciiGlyphs     glyphs;
+    // From the very first pixel on: it may be the last one of its item.
+    const int   first = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.left, area.top);
+    const int   last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.right - 1, area.bottom - 1);
+    AsciiGlyphs glyphs;
     if (last - first >= glyphsPayFrom && !HasStyle(ctl, HLS_OWNERDRAW)) {
         glyphs = FindAsciiGlyphs(paint.hdc);
         paint.glyphs = &glyphs;

@@ -5,18 +5,12 @@
 
 namespace {
 
-int SelectStep(HListCtl* ctl, int index, void* context)
-{
-    return HLSelectOne(ctl, index, *static_cast<const int*>(context));
-}
-
 // The mouse range under way decides about the items between the anchor and the current one.
-bool IsInDrag(HListCtl* ctl, int index)
+bool IsInDrag(const HListCtl* ctl, int index, int current)
 {
     if (!HasStyle(ctl, HLS_EXTSEL) || !HasFlag(ctl, HLF_TRACKING)) {
         return false;
     }
-    const int current = HLCurIndex(ctl);
     const int anchor = ctl->nAnchor;
     return index >= std::min(anchor, current) && index <= std::max(anchor, current);
 }
@@ -33,10 +27,10 @@ int EntryOf(void* node)
     return LoadAs<LONG>(HNodePayload(node));
 }
 
-int Clear(HListCtl* ctl, int index)
+int Clear(HListCtl* ctl, int index, int current)
 {
     const bool focusedField = HasStyle(ctl, HLS_FIELD) && GetFocus() == ctl->hWnd;
-    const bool was = HLIsItemSelected(ctl, index);
+    const bool was = IsSelectedBeside(ctl, index, current);
     HLRemoveFromSelection(ctl, index);
     if (!was || focusedField) {
         return 0;
@@ -45,9 +39,9 @@ int Clear(HListCtl* ctl, int index)
     return 1;
 }
 
-int Set(HListCtl* ctl, int index)
+int Set(HListCtl* ctl, int index, int current)
 {
-    const bool was = HLIsItemSelected(ctl, index);
+    const bool was = IsSelectedBeside(ctl, index, current);
     HLAddToSelection(ctl, index);
     if (was) {
         return 0;
@@ -62,6 +56,35 @@ int Toggle(HListCtl* ctl, int index)
     const bool erase = added || HLRemoveFromSelection(ctl, index) != 0;
     HLInvalidateItem(ctl, index, erase);
     return 1;
+}
+
+int SelectBeside(HListCtl* ctl, int index, int mode, int current)
+{
+    switch (mode) {
+    case HLSEL_CLEAR: return Clear(ctl, index, current);
+    case HLSEL_SET: return Set(ctl, index, current);
+    case HLSEL_TOGGLE: return Toggle(ctl, index);
+    default: return 0;
+    }
+}
+
+// The current item where it takes part in what is selected: with single selection and in a mouse range. A search for it
+// is spared otherwise.
+int CurrentForSelection(HListCtl* ctl)
+{
+    return HasFlag(ctl, HLF_SINGLESEL | HLF_TRACKING) ? HLCurIndex(ctl) : static_cast<int>(ctl->nCurrent);
+}
+
+// What a walk that selects takes along. It moves no current item.
+struct SelectWalk {
+    int mode;
+    int current;
+};
+
+int SelectStep(HListCtl* ctl, int index, void* context)
+{
+    const SelectWalk* const walk = static_cast<const SelectWalk*>(context);
+    return SelectBeside(ctl, index, walk->mode, walk->current);
 }
 
 } // namespace
@@ -110,15 +133,20 @@ bool IsInSelection(const HListCtl* ctl, int index)
     return EntryOf(place > 0 ? HNodeLink(selected->pCursor) : selected->pHead) == index;
 }
 
-bool HLIsItemSelected(HListCtl* ctl, int index)
+bool IsSelectedBeside(HListCtl* ctl, int index, int current)
 {
     if (HasFlag(ctl, HLF_SINGLESEL)) {
-        return index == HLCurIndex(ctl);
+        return index == current;
     }
-    if (IsInDrag(ctl, index)) {
+    if (IsInDrag(ctl, index, current)) {
         return HasFlag(ctl, HLF_DRAGSET);
     }
     return index >= 0 && index < HLCount(ctl) && IsInSelection(ctl, index);
+}
+
+bool HLIsItemSelected(HListCtl* ctl, int index)
+{
+    return IsSelectedBeside(ctl, index, CurrentForSelection(ctl));
 }
 
 int HLAddToSelection(HListCtl* ctl, int index)
@@ -156,12 +184,7 @@ int HLRemoveFromSelection(HListCtl* ctl, int index)
 
 int HLSelectOne(HListCtl* ctl, int index, int mode)
 {
-    switch (mode) {
-    case HLSEL_CLEAR: return Clear(ctl, index);
-    case HLSEL_SET: return Set(ctl, index);
-    case HLSEL_TOGGLE: return Toggle(ctl, index);
-    default: return 0;
-    }
+    return SelectBeside(ctl, index, mode, CurrentForSelection(ctl));
 }
 
 int HLSelectGuarded(HListCtl* ctl, int index, int mode)
@@ -173,11 +196,12 @@ int HLSelectRange(HListCtl* ctl, int from, int to, int mode)
 {
     const int low = ClampItem(ctl, std::min(from, to));
     const int high = ClampItem(ctl, std::max(from, to));
+    const int current = CurrentForSelection(ctl);
     int       changed = 0;
     SetFlag(ctl, HLF_NOREDRAW, true);
     // An empty list has nothing to select.
     for (int index = low; index <= std::min(high, LastItem(ctl)); ++index) {
-        changed += HLSelectOne(ctl, index, mode);
+        changed += SelectBeside(ctl, index, mode, current);
     }
     SetFlag(ctl, HLF_NOREDRAW, false);
     return changed;
@@ -185,8 +209,9 @@ int HLSelectRange(HListCtl* ctl, int from, int to, int mode)
 
 int HLSelectMany(HListCtl* ctl, int mode, int which, int n, const void* list)
 {
-    const int count = HasFlag(ctl, HLF_SINGLESEL) ? std::min(n, 1) : n;
-    return HLForEachItem(ctl, which, count, list, SelectStep, &mode, true);
+    const int  count = HasFlag(ctl, HLF_SINGLESEL) ? std::min(n, 1) : n;
+    SelectWalk walk = { mode, CurrentForSelection(ctl) };
+    return HLForEachItem(ctl, which, count, list, SelectStep, &walk, true);
 }
 
 // Settled: outside single selection an item that wasn't found is selected as item -1.
@@ -204,9 +229,17 @@ int HLCurIndex(HListCtl* ctl)
     if (ctl->nCurrent >= 0 && IsHeldByCode(ctl)) {
         const DWORD code = ctl->lCurCode;
         DataList    items = ctl->items;
-        ctl->nCurrent = HDLFindCode(&items, 0, &code);
+        HLMoveCurrent(ctl, HDLFindCode(&items, 0, &code));
     }
     return ctl->nCurrent;
+}
+
+void HLMoveCurrent(HListCtl* ctl, int index)
+{
+    if (index == -1 && ctl->nCurrent >= 0 && HasFlag(ctl, HLF_SINGLESEL)) {
+        SetFlag(ctl, CF_NULL, true);
+    }
+    ctl->nCurrent = index;
 }
 
 void HLStoreCurrent(HListCtl* ctl, int index)

@@ -31,11 +31,10 @@ void VisitAll(Walk* walk)
 
 void VisitBySelection(Walk* walk, bool selected)
 {
-    // A current item that is held by its code is searched at each question.
-    const bool isFixed = walk->keep && (walk->ctl->wFlags & HLF_SINGLESEL);
-    const int  current = HLCurIndex(walk->ctl);
+    // A current item that is held by its code is searched at each question. Only deletions move it.
+    const int current = HLCurIndex(walk->ctl);
     for (int i = 0; walk->HasItem(i);) {
-        const bool isSelected = isFixed ? i == current : HLIsItemSelected(walk->ctl, i);
+        const bool isSelected = walk->keep ? IsSelectedBeside(walk->ctl, i, current) : HLIsItemSelected(walk->ctl, i);
         const bool visited = isSelected == selected;
         i += visited && walk->Visit(i) ? 0 : 1;
     }

@@ -171,4 +171,16 @@ TEST_F(ComboButtons, ClientEdgeIsThePaintersPart)
     EXPECT_TRUE(gCalls.empty()) << "without the edge the default paints";
 }
 
+TEST_F(ComboButtons, WithoutADcAreDrawnIntoTheWindow)
+{
+    Make("%120%ss", edits | HCS_XBUTTON);
+    const Pixels plain = ShotOf(combo);
+    HCDrawDropButton(Ctl(), nullptr, true, false);
+    const Pixels drop = ShotOf(combo);
+    EXPECT_FALSE(SamePixels(plain, drop));
+    EXPECT_TRUE(SamePixels(plain, drop, HCXButtonRect(Ctl())));
+    HCDrawXButton(Ctl(), nullptr, true, false);
+    EXPECT_FALSE(SamePixels(drop, ShotOf(combo)));
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 // What a combo is made of: its parts by style and window text, and their styles.
 #include "combo_window.h"
+#include "foundation/screen.h"
 #include "foundation/startup.h"
 #include "support/block_leaks.h"
 #include "support/guarded_memory.h"
@@ -296,6 +297,30 @@ TEST_F(ComboCreate, ParkedListGoesWithTheCombo)
     Send(HCM_SETDROP, 0);
     End();
     EXPECT_EQ(0, LiveDrops());
+}
+
+TEST_F(ComboCreate, EditHasTheUpperStylesOfTheCombo)
+{
+    Make("%120%ss", HCS_DROPDOWN | HCS_EDIT | WS_TABSTOP | WS_BORDER | WS_DISABLED);
+    const LONG style = GetWindowLongA(Face(), GWL_STYLE);
+    EXPECT_TRUE(style & WS_TABSTOP);
+    EXPECT_TRUE(style & WS_BORDER);
+    EXPECT_FALSE(style & WS_DISABLED);
+    Make("%120%ss", HCS_DROPDOWN | HCS_EDIT);
+    EXPECT_FALSE(GetWindowLongA(Face(), GWL_STYLE) & (WS_TABSTOP | WS_BORDER));
+}
+
+TEST_F(ComboCreate, ListIsMadeInTheSizeOfTheText)
+{
+    for (const int dpi : { 96, 144 }) {
+        nDpiX = nDpiY = dpi;
+        Make("%120%300%ss", HCS_DROPDOWN | HLS_NOINTEGRAL);
+        RECT list = {};
+        GetWindowRect(List(), &list);
+        EXPECT_EQ(300 * dpi / 96, list.right - list.left) << dpi;
+        EXPECT_EQ(120 * dpi / 96, list.bottom - list.top) << dpi;
+    }
+    nDpiX = nDpiY = 96;
 }
 
 } // namespace

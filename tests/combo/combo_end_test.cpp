@@ -344,4 +344,67 @@ TEST_F(ComboEnd, InTheHostsPainterOfButtons)
     }
 }
 
+TEST_F(ComboEnd, WhatAHostGivesTheListOfAFieldGoesWithTheList)
+{
+    const std::function<void()> gifts[] = {
+        [this] { SendMessageA(list, HLM_SETFORMAT, 0, AsParam("00")); },
+        [this] {
+            const int           number = 5;
+            SendMessageA(list, WM_SETTEXT, 0, AsParam("%ni%ni0"));
+            HLAddItem(list, &number);
+        },
+    };
+    const std::function<void()> ends[] = {
+        [this] { DestroyWindow(list); },
+        [this] { DestroyWindow(face); },
+        [this] { ToCombo(HCM_SETDROP, 0); },
+        [] {},
+    };
+    for (const DWORD style : { fields, DWORD{ 0 } }) {
+        for (const auto& give : gifts) {
+            for (const auto& end : ends) {
+                SCOPED_TRACE(testing::Message() << style << ", " << &give - gifts << ", " << &end - ends);
+                const BlockLeakCheck blocks;
+                Make("#120%ni%ni", style, 160, 120);
+                AddNumbers({ 1, 2 });
+                face = Face();
+                list = List();
+                give();
+                end();
+                End();
+            }
+        }
+    }
+}
+
+HCombCtl gNoCombo; // something of a host's that lies where a combo's record would
+
+LRESULT CALLBACK AnswerWithARecord(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return message == WWM_GETSTATE ? AsParam(&gNoCombo) : DefWindowProcA(hwnd, message, wParam, lParam);
+}
+
+TEST_F(ComboEnd, ListWhoseParentIsNoComboAnyMoreGoesByItself)
+{
+    WNDCLASSA info = {};
+    info.lpfnWndProc = AnswerWithARecord;
+    info.hInstance = GetModuleHandleA(nullptr);
+    info.lpszClassName = "Another"; // its name stands in front of the combo's
+    RegisterClassA(&info);
+    for (const DWORD style : { edits, fields }) {
+        Prepare(style);
+        const HWND other =
+            CreateWindowExA(0, "Another", "", WS_CHILD, 0, 0, 10, 10, parent.hwnd(), nullptr, info.hInstance, nullptr);
+        SendMessageA(list, WWM_SETPARENT, reinterpret_cast<WPARAM>(other), 0);
+        ASSERT_EQ(other, +RecordOf<HListCtl>(list)->hParent);
+        gNoCombo.hDrop = list;
+        DestroyWindow(list);
+        EXPECT_FALSE(IsWindow(list));
+        EXPECT_EQ(list, +gNoCombo.hDrop) << "it was written to";
+        End();
+        DestroyWindow(other);
+    }
+    UnregisterClassA("Another", info.hInstance);
+}
+
 } // namespace

@@ -322,4 +322,28 @@ TEST_F(ComboItems, WidthIsSetForADropListOnly)
     EXPECT_EQ(0, Send(HCM_GETDROPWIDTH));
 }
 
+TEST_F(ComboItems, NoSizeOfTheListIsBeyondWhatCanBePlaced)
+{
+    Make("%120%ss", HCS_DROPDOWN);
+    EXPECT_EQ(1, Send(HCM_SETDROP, 0x7FFFFFFF));
+    EXPECT_EQ(0x00FFFFFF, Send(HCM_GETDROPHEIGHT));
+    EXPECT_EQ(1, Send(HCM_SETDROPWIDTH, 0x7FFFFFFF));
+    EXPECT_EQ(0x00FFFFFF, Send(HCM_GETDROPWIDTH));
+}
+
+TEST_F(ComboItems, NewHeightLaysOutTheFace)
+{
+    Make("%120%ss", HCS_DROPDOWN | HCS_EDIT);
+    for (const bool byText : { false, true }) {
+        RECT text = {};
+        SendPtr(HEM_GETRECT, 0, &text);
+        EXPECT_EQ(2, text.left);
+        text.left = 0;
+        SendPtr(HEM_SETRECT, 0, &text);
+        byText ? SendPtr(WM_SETTEXT, 0, "%90%ss") : Send(HCM_SETDROP, 80);
+        SendPtr(HEM_GETRECT, 0, &text);
+        EXPECT_EQ(2, text.left) << byText;
+    }
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 // Keys and the focus of a combo, sent as they arrive at the face, and by a real keyboard.
 #include "combo_window.h"
+#include "support/held_keys.h"
 
 namespace {
 
@@ -80,6 +81,7 @@ TEST_F(ComboKeys, LeavingClearsATextThatIsNoItem)
         { "%120%ss", edits, "" },
         { "%120%ss%ni", edits | HCS_3DBORDER, "typed" },
         { "%120%ss%ss", edits, "typed" },
+        { "#120%ss%ns", edits, "typed" }, // the letter of the code counts alone
     };
     for (const LeaveCase& line : cases) {
         MakeFocused(line.style, line.text);
@@ -146,14 +148,16 @@ TEST_F(ComboKeys, F5PressesTheExtraButton)
 TEST_F(ComboKeys, TabMovesOnInTheDialog)
 {
     MakeFocused(edits);
-    int moves = 0;
+    Ints moves;
     parent.OnMessage(WM_NEXTDLGCTL, [&](WPARAM back, LPARAM) {
-        EXPECT_EQ(0u, back);
-        ++moves;
+        moves.push_back(static_cast<int>(back));
         return 0;
     });
     EXPECT_EQ(1, Key(VK_TAB));
-    EXPECT_EQ(1, moves);
+    EXPECT_EQ((Ints{ 0 }), moves);
+    const HeldKeys held({ VK_SHIFT });
+    EXPECT_EQ(1, Key(VK_TAB));
+    EXPECT_EQ((Ints{ 0, 1 }), moves);
     EXPECT_EQ(Ints(), Told());
 }
 
@@ -357,6 +361,45 @@ TEST_F(ComboKeys, FaceWithoutItsComboDoesNothing)
         CreateWindowExA(0, "HEdit", "%ss", WS_CHILD, 0, 0, 10, 10, combo, nullptr, GetModuleHandleA(nullptr), nullptr);
     EXPECT_EQ(3, HCFilter(other, WM_GETTEXTLENGTH, 0, 0)) << "the default's answer, not the edit's";
     DestroyWindow(other);
+}
+
+TEST_F(ComboKeys, EachRowKeyOfAClosedListTellsThatARowIsTaken)
+{
+    for (const WORD vk : { WORD{ VK_PRIOR }, WORD{ VK_NEXT }, WORD{ VK_UP }, WORD{ VK_DOWN } }) {
+        MakeFocused(edits);
+        Send(CB_SETCURSEL, 1);
+        Told();
+        EXPECT_EQ(1, Key(vk));
+        EXPECT_EQ((Ints{ HCN_SELENDOK, HCN_SELCHANGE }), Told()) << "key " << vk;
+    }
+}
+
+WNDPROC           gComboProc;
+std::vector<UINT> gCame;
+
+LRESULT CALLBACK NoteFocus(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == HCM_CHILDFOCUS || message == HCM_CHILDBLUR) {
+        gCame.push_back(message);
+    } else if (message == WM_COMMAND && LOWORD(wParam) == comboEditId) {
+        gCame.push_back(HIWORD(wParam));
+    }
+    return CallWindowProcA(gComboProc, hwnd, message, wParam, lParam);
+}
+
+TEST_F(ComboKeys, FaceTakesTheFocusItselfBeforeTheComboHearsOfIt)
+{
+    MakeFocused(edits);
+    Blur();
+    gCame.clear();
+    gComboProc =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrA(combo, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(NoteFocus)));
+    Focus();
+    EXPECT_EQ((std::vector<UINT>{ HEN_SETFOCUS, HCM_CHILDFOCUS }), gCame);
+    gCame.clear();
+    Blur();
+    EXPECT_EQ((std::vector<UINT>{ HEN_KILLFOCUS, HCM_CHILDBLUR }), gCame);
+    SetWindowLongPtrA(combo, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(gComboProc));
 }
 
 } // namespace

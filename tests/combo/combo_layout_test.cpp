@@ -159,4 +159,16 @@ TEST_F(ComboLayout, FontGoesToAllParts)
     DeleteObject(font);
 }
 
+TEST_F(ComboLayout, NewFontKeepsTheTextOffTheBorder)
+{
+    Make("%120%ss", edits);
+    RECT text = {};
+    SendPtr(HEM_GETRECT, 0, &text);
+    text.left = 0;
+    SendPtr(HEM_SETRECT, 0, &text);
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(SYSTEM_FONT)), 0);
+    SendPtr(HEM_GETRECT, 0, &text);
+    EXPECT_EQ(2, text.left);
+}
+
 } // namespace

@@ -1,9 +1,18 @@
 // The mouse on a combo's buttons: pressed, held outside, released, hot.
 #include "combo_window.h"
+#include "foundation/startup.h"
 
 namespace {
 
 constexpr DWORD edits = HCS_DROPDOWN | HCS_EDIT | HCS_3DBORDER;
+
+int gPainted; // buttons, by the painter below
+
+int CALLBACK CountParts(int, HDC, RECT*, int, int, int)
+{
+    ++gPainted;
+    return 1;
+}
 
 class ComboMouse : public ComboWindow {
 protected:
@@ -186,6 +195,52 @@ TEST_F(ComboMouse, OtherNotificationsOfThePartsStayInside)
     Send(WM_COMMAND, MAKEWPARAM(comboEditId, EN_UPDATE), AsParam(Face()));
     Send(WM_COMMAND, MAKEWPARAM(comboEditId, EN_CHANGE), AsParam(Face()));
     EXPECT_EQ((Ints{ HCN_EDITUPDATE, HCN_EDITCHANGE }), Told());
+}
+
+TEST_F(ComboMouse, PointerThatLeavesTakesTheMarkAlong)
+{
+    MakeItems(edits);
+    const RECT drop = HCDropButtonRect(Ctl());
+    MoveMouse(combo, static_cast<int>(drop.left) + 4, 10);
+    EXPECT_EQ(HCF_BTNHOT, Flags());
+    MoveMouse(parent.hwnd(), 700, 500);
+    EXPECT_TRUE(PumpUntil([&] { return Flags() == 0; }));
+}
+
+TEST_F(ComboMouse, ButtonsAreRedrawnAtEachChangeAndOnlyThen)
+{
+    MakeItems(edits | HCS_XBUTTON);
+    pfnDrawPart = CountParts;
+    const auto paintedBy = [&](const std::function<void()>& work) {
+        PumpPending();
+        gPainted = 0;
+        work();
+        return gPainted;
+    };
+    EXPECT_EQ(1, paintedBy([&] { Move(OnDrop()); }));
+    EXPECT_EQ(0, paintedBy([&] { Move(OnDrop()); }));
+    EXPECT_EQ(2, paintedBy([&] { Move(OnX()); })) << "one isn't hot any more, and one is";
+    EXPECT_EQ(0, paintedBy([&] { Move(OnX()); }));
+    EXPECT_EQ(1, paintedBy([&] { Send(WM_MOUSELEAVE); }));
+    Down(OnX());
+    EXPECT_EQ(0, paintedBy([&] { Move(OnX()); }));
+    EXPECT_EQ(1, paintedBy([&] { Move(outside); }));
+    EXPECT_EQ(0, paintedBy([&] { Move(outside); }));
+    EXPECT_EQ(1, paintedBy([&] { Move(OnX()); }));
+    Up(outside);
+}
+
+TEST_F(ComboMouse, CancelModeLeavesTheMouseToADisabledCombo)
+{
+    MakeItems(edits);
+    EnableWindow(combo, FALSE);
+    SetCapture(combo);
+    Send(WM_CANCELMODE);
+    EXPECT_EQ(combo, GetCapture());
+    EnableWindow(combo, TRUE);
+    SetCapture(combo);
+    Send(WM_CANCELMODE);
+    EXPECT_EQ(nullptr, GetCapture());
 }
 
 } // namespace

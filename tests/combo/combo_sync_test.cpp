@@ -317,4 +317,77 @@ TEST_F(ComboSync, ChangeOfEitherPartCounts)
     EXPECT_EQ(1, Send(WWM_GETCHANGED));
 }
 
+// The type letter of texts is also that of numbers of 16 bits and of calendar words.
+class ComboShorts : public ComboSync {
+protected:
+    void MakeShorts(const std::vector<short>& numbers, DWORD style = edits)
+    {
+        Make("#120%ns*0*", style);
+        for (const short number : numbers) {
+            HCAddItemEx(combo, &number, nullptr);
+        }
+    }
+};
+
+TEST_F(ComboShorts, NumbersThatEndInAZeroByteDiffer)
+{
+    MakeShorts({ 256, 512, 1, 2 });
+    const char* const texts[] = { "256", "512", "1", "2" };
+    for (int row = 0; row < 4; ++row) {
+        PickInList(row);
+        EXPECT_EQ(texts[row], Text());
+        EXPECT_EQ((Ints{ HCN_SELCHANGE }), Told()) << texts[row];
+        PickInList(row);
+        EXPECT_EQ(Ints(), Told()) << texts[row];
+    }
+}
+
+TEST_F(ComboShorts, NullEditDiffersFromZero)
+{
+    MakeShorts({ 0 });
+    SendPtr(HEM_SETDATA, 0, nullptr);
+    PickInList(0);
+    EXPECT_EQ("0", Text());
+    EXPECT_EQ((Ints{ HCN_SELCHANGE }), Told());
+}
+
+TEST_F(ComboShorts, NumbersHaveNoTabs)
+{
+    MakeShorts({ 9, 265 }, edits | HCS_TABS);
+    Send(CB_SETCURSEL, 0);
+    EXPECT_EQ("9", Text());
+    Send(CB_SETCURSEL, 1);
+    EXPECT_EQ("265", Text());
+}
+
+TEST_F(ComboShorts, TypedNumberSelectsItsValueAndNoBeginning)
+{
+    MakeShorts({ 25, 30 });
+    Focus();
+    Type("2");
+    EXPECT_EQ(-1, Current());
+    Type("30");
+    EXPECT_EQ(1, Current());
+    Blur();
+    EXPECT_EQ("30", Text());
+}
+
+TEST_F(ComboShorts, CalendarWordsDifferInTheirDays)
+{
+    Make("#120%asdd/mm/yyyy", edits);
+    for (const WORD day : { WORD{ 3 }, WORD{ 9 }, WORD{ 10 } }) {
+        const WORD date[8] = { 2024, 5, day };
+        HCAddItemEx(combo, date, nullptr);
+    }
+    Texts shown;
+    for (int row = 0; row < 3; ++row) {
+        PickInList(row);
+        EXPECT_EQ(ItemText(row), Text());
+        EXPECT_EQ((Ints{ HCN_SELCHANGE }), Told()) << row;
+        shown.push_back(Text());
+    }
+    EXPECT_NE(shown[0], shown[1]);
+    EXPECT_NE(shown[1], shown[2]);
+}
+
 } // namespace

@@ -125,4 +125,14 @@ TEST_F(DropPaint, FieldWithoutAListShowsNothing)
     EXPECT_EQ(0, result);
 }
 
+TEST_F(DropPaint, EditOfShortNumbersShowsTheNumberOfACode)
+{
+    combo = Create("HComb", "%100%ns%nl", HCS_EDIT | HCS_DROPDOWN | HCS_TABS, 7, usual);
+    drop = Ctl()->hDrop;
+    constexpr short number = 9 + 256; // its first byte is that of a tab
+    HCAddItemEx(combo, &number, &green);
+    EXPECT_TRUE(SamePixels(AsEdit(&number), Draw(&green, asCode)));
+    EXPECT_TRUE(SamePixels(AsEdit(nullptr), Draw(&unknown, asCode)));
+}
+
 } // namespace

@@ -332,4 +332,14 @@ TEST_F(DropLists, ReturnAndEscapeClose)
     EXPECT_EQ((Ints{ HCN_CLOSEUP }), Told());
 }
 
+TEST_F(DropLists, HostMayMoveTheListWhileItIsToldThatItOpens)
+{
+    MakeCombo();
+    parent.On(HCN_DROPDOWN, [&] { SetWindowPos(drop, nullptr, 333, 222, 0, 0, SWP_NOSIZE | SWP_NOZORDER); });
+    Open();
+    ExpectOpen();
+    EXPECT_EQ(333, DropRect().left);
+    EXPECT_EQ(222, DropRect().top);
+}
+
 } // namespace

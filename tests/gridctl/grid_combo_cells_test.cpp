@@ -1,119 +1,9 @@
-// Columns of combos, with an edit (kind c) and with a field (kind d): what their cells show, how they are edited, and
-// the list that drops in a cell.
-#include "combo/combo_control.h"
-#include "gridctl/cell_controls.h"
-#include "gridctl/grid_editing.h"
-#include "support/mouse_hooks.h"
-#include "support/pixels.h"
+// Columns of combos, with an edit (kind c) and with a field (kind d): what their cells show and how they are edited.
+#include "gridctl/grid_combos.h"
 
 #include <cstring>
-#include <functional>
-#include <vector>
 
 namespace {
-
-struct Kind {
-    char kind;
-    bool code;
-};
-
-constexpr Kind kinds[] = { { 'c', false }, { 'c', true }, { 'd', false }, { 'd', true } };
-
-std::string NameOf(const Kind& kind)
-{
-    return std::string(1, kind.kind) + (kind.code ? " with codes" : "");
-}
-
-class GridComboCells : public GridEditing {
-protected:
-    using Ints = std::vector<int>;
-
-    GridComboCells() { seen.NotificationsOnly(); }
-    ~GridComboCells() override
-    {
-        if (IsWindow(grid)) {
-            DestroyWindow(grid);
-        }
-        EXPECT_EQ(0, LiveHooks());
-        EXPECT_EQ(nullptr, GetCapture());
-    }
-    // Four rows of a column of combos with the items red 3, green 1 and blue 2, which stores a text or its code, and of
-    // a text.
-    void MakeColumn(const Kind& kind, DWORD ctlStyle = 0)
-    {
-        HGField* const field =
-            kind.code ? HGFieldCreate("Colour", HFF_CODE, 80, 60, 's', 's', 'n', 'l', 16, kind.kind, ctlStyle, "", 0)
-                      : HGFieldCreate("Colour", 0, 80, 60, 's', 's', 0, 0, 16, kind.kind, ctlStyle, "", 0);
-        code_ = kind.code;
-        MakeGrid(GridOf({ field, Text() }), 4);
-        AddItems({ "red", "green", "blue" });
-        // A list that opens beneath the pointer has a marked row.
-        MoveMouse(parent.hwnd(), 700, 500);
-        SetFocus(grid);
-        Forget();
-    }
-    void AddItems(std::initializer_list<const char*> names)
-    {
-        constexpr LONG codes[] = { 3, 1, 2, 9 };
-        int            i = 0;
-        for (const char* const name : names) {
-            EXPECT_EQ(i, HCAddItemEx(ChildOf(0), name, code_ ? &codes[i] : nullptr));
-            ++i;
-        }
-    }
-    // The item with its own way of being stored.
-    void Store(int row, const char* name, LONG code)
-    {
-        HGSetCellData(grid, 0, row, code_ ? static_cast<const void*>(&code) : name);
-    }
-    LONG        Stored(int row) { return LoadAs<LONG>(HGCellPtr(ctl->pData, 0, row)); }
-    HCombCtl*   Combo() { return RecordOf<HCombCtl>(ChildOf(0)); }
-    HWND        Drop() { return Combo()->hDrop; }
-    HWND        Face() { return Combo()->hChild; }
-    bool        IsOpen() { return Send(ChildOf(0), CB_GETDROPPEDSTATE) != 0; }
-    std::string Shown() { return TextOf(ChildOf(0)); }
-    void        ClickRow(int row)
-    {
-        RECT rect = {};
-        SendPtr(Drop(), HLM_GETITEMRECT, static_cast<WPARAM>(row), &rect);
-        ClickAt(Drop(), 10, static_cast<int>(rect.top + rect.bottom) / 2);
-    }
-    Ints Told()
-    {
-        Ints codes;
-        for (const Seen& line : seen.All()) {
-            codes.push_back(static_cast<int>(line.code));
-        }
-        seen.Clear();
-        return codes;
-    }
-    void ExpectOpenInCell(int row)
-    {
-        RECT list;
-        RECT cell;
-        GetWindowRect(Drop(), &list);
-        HGCellRect(ctl, &cell, 0, row, true);
-        MapWindowPoints(grid, nullptr, reinterpret_cast<POINT*>(&cell), 2);
-        EXPECT_TRUE(IsOpen());
-        EXPECT_TRUE(IsWindowVisible(Drop()));
-        EXPECT_EQ(cell.bottom, list.top);
-        EXPECT_EQ(Face(), GetFocus());
-        EXPECT_EQ(1, LiveHooks());
-    }
-    bool IsCoded() const { return code_; }
-    void ForEachKind(const std::function<void()>& test)
-    {
-        for (const Kind& kind : kinds) {
-            SCOPED_TRACE(NameOf(kind));
-            MakeColumn(kind);
-            test();
-            DestroyWindow(grid);
-        }
-    }
-
-private:
-    bool code_ = false;
-};
 
 TEST_F(GridComboCells, ChildIsADroppingComboOfTheColumnsHeight)
 {
@@ -323,153 +213,6 @@ TEST_F(GridComboCells, TypedCharacterFindsAnItemOfTheField)
     }
 }
 
-TEST_F(GridComboCells, F4DropsTheListInTheCell)
-{
-    ForEachKind([&] {
-        StandOn(0, 1);
-        TypeKey(VK_F4);
-        ExpectOpenInCell(1);
-        EXPECT_EQ((Ints{ HGN_EDITFOCUS, HGN_DROPOPEN }), Told());
-        TypeKey(VK_F4);
-        EXPECT_FALSE(IsOpen());
-        EXPECT_EQ((Ints{ HGN_DROPCLOSE }), Told());
-        EXPECT_EQ(Face(), GetFocus());
-    });
-}
-
-TEST_F(GridComboCells, AltAndDownToggleTheList)
-{
-    ForEachKind([&] {
-        StandOn(0, 1);
-        TypeKey(VK_F2);
-        TypeKey(VK_DOWN, withAlt);
-        ExpectOpenInCell(1);
-        TypeKey(VK_DOWN, withAlt);
-        EXPECT_FALSE(IsOpen());
-        EXPECT_EQ(Face(), GetFocus());
-        EXPECT_EQ((Cell{ 0, 1 }), Current());
-    });
-}
-
-TEST_F(GridComboCells, ReturnTakesTheRowAndStaysInTheCell)
-{
-    ForEachKind([&] {
-        StandOn(0, 1);
-        TypeKey(VK_F4);
-        TypeKey(VK_DOWN);
-        TypeKey(VK_DOWN);
-        Told();
-        TypeKey(VK_RETURN);
-        EXPECT_FALSE(IsOpen());
-        EXPECT_EQ((Ints{ HGN_DROPPICK, HGN_DROPCLOSE }), Told());
-        EXPECT_EQ((Cell{ 0, 1 }), Current());
-        EXPECT_EQ("green", Shown());
-        EXPECT_EQ(0, parent.Count(HGN_CELLCHANGED));
-        TypeKey(VK_RETURN);
-        EXPECT_EQ("green", CellText(0, 1));
-        EXPECT_NE((Cell{ 0, 1 }), Current());
-    });
-}
-
-TEST_F(GridComboCells, EscapeClosesTheListFirstAndThenEndsTheEdit)
-{
-    ForEachKind([&] {
-        Store(1, "blue", 2);
-        StandOn(0, 1);
-        TypeKey(VK_F4);
-        TypeKey(VK_UP);
-        EXPECT_EQ("green", Shown());
-        Told();
-        TypeKey(VK_ESCAPE);
-        EXPECT_FALSE(IsOpen());
-        EXPECT_EQ((Ints{ HGN_DROPCLOSE }), Told());
-        EXPECT_EQ(Face(), GetFocus());
-        EXPECT_EQ("green", Shown());
-        TypeKey(VK_ESCAPE);
-        EXPECT_EQ(grid, GetFocus());
-        EXPECT_EQ("blue", Shown());
-        EXPECT_EQ("blue", CellText(0, 1));
-        EXPECT_EQ(0, parent.Count(HGN_CELLCHANGED));
-    });
-}
-
-TEST_F(GridComboCells, TabClosesTheListAndStores)
-{
-    ForEachKind([&] {
-        StandOn(0, 1);
-        TypeKey(VK_F4);
-        TypeKey(VK_DOWN);
-        Told();
-        TypeKey(VK_TAB);
-        EXPECT_FALSE(IsOpen());
-        EXPECT_EQ((Ints{ HGN_DROPCLOSE, HGN_EDITBLUR, HGN_CELLCHANGED, HGN_MOVING, HGN_MOVED }), Told());
-        EXPECT_EQ("red", CellText(0, 1));
-        EXPECT_EQ(grid, GetFocus());
-    });
-}
-
-TEST_F(GridComboCells, ClickOnARowOfTheListTakesIt)
-{
-    ForEachKind([&] {
-        StandOn(0, 1);
-        TypeKey(VK_F4);
-        Told();
-        ClickRow(2);
-        EXPECT_FALSE(IsOpen());
-        EXPECT_EQ((Ints{ HGN_CHILDCHANGE, HGN_DROPPICK, HGN_DROPCLOSE }), Told());
-        EXPECT_EQ("blue", Shown());
-        EXPECT_EQ(Face(), GetFocus());
-        TypeKey(VK_TAB);
-        EXPECT_EQ("blue", CellText(0, 1));
-    });
-}
-
-TEST_F(GridComboCells, ButtonOfTheStandingEditorDropsTheList)
-{
-    ForEachKind([&] {
-        StandOn(0, 1);
-        RECT client;
-        GetClientRect(Editor(), &client);
-        ClickAt(Editor(), static_cast<int>(client.right) - 4, static_cast<int>(client.bottom) / 2);
-        ExpectOpenInCell(1);
-        ClickAt(grid, 300, 150);
-        EXPECT_FALSE(IsOpen());
-        EXPECT_EQ((Cell{ 0, 1 }), Current()) << "the click only closes";
-    });
-}
-
-TEST_F(GridComboCells, ExtraButtonEndsTheEdit)
-{
-    for (const Kind& kind : kinds) {
-        SCOPED_TRACE(NameOf(kind));
-        MakeColumn(kind, HCS_XBUTTON);
-        StandOn(0, 1);
-        TypeKey(VK_F4);
-        TypeKey(VK_DOWN);
-        Told();
-        TypeKey(VK_F5);
-        EXPECT_EQ((Ints{ HGN_DROPCLOSE, HGN_EDITBLUR, HGN_CELLCHANGED, HGN_EDITDONE }), Told());
-        EXPECT_EQ("red", CellText(0, 1));
-        EXPECT_EQ(grid, GetFocus());
-        DestroyWindow(grid);
-    }
-}
-
-TEST_F(GridComboCells, FocusThatGoesElsewhereClosesTheListAndStores)
-{
-    ForEachKind([&] {
-        StandOn(0, 1);
-        TypeKey(VK_F4);
-        TypeKey(VK_DOWN);
-        Told();
-        SetFocus(parent.hwnd());
-        EXPECT_FALSE(IsOpen());
-        EXPECT_EQ("red", CellText(0, 1));
-        EXPECT_FALSE(IsWindowVisible(ChildOf(0)));
-        EXPECT_EQ((Ints{ HGN_DROPCLOSE, HGN_CELLCHANGED, HGN_KILLFOCUS, HGN_EDITBLUR }), Told());
-    });
-}
-
 TEST_F(GridComboCells, RefusedRowStaysInTheEditor)
 {
     ForEachKind([&] {
@@ -505,43 +248,6 @@ TEST_F(GridComboCells, CtrlAndAnArrowDownLeaveTheCell)
         TypeKey(VK_F2);
         TypeKey(VK_DOWN, withCtrl);
         EXPECT_NE(1, Current().row);
-    });
-}
-
-TEST_F(GridComboCells, GridMayGoInEachNotificationOfTheList)
-{
-    for (const int code : { HGN_DROPOPEN, HGN_DROPCLOSE, HGN_DROPPICK, HGN_CHILDCHANGE, HGN_EDITFOCUS, HGN_EDITBLUR }) {
-        for (const Kind& kind : kinds) {
-            SCOPED_TRACE(NameOf(kind) + " in " + std::to_string(code));
-            MakeColumn(kind);
-            StandOn(0, 1);
-            const HWND drop = Drop();
-            parent.On(code, [&] { DestroyWindow(grid); });
-            TypeKey(VK_F4);
-            if (IsWindow(grid)) {
-                ClickRow(1);
-            }
-            if (IsWindow(grid)) {
-                SetFocus(parent.hwnd());
-            }
-            parent.On(code, nullptr);
-            EXPECT_FALSE(IsWindow(grid));
-            EXPECT_FALSE(IsWindow(drop));
-            EXPECT_EQ(0, LiveHooks());
-        }
-    }
-}
-
-TEST_F(GridComboCells, ColumnWithAnOpenListMayBeRemoved)
-{
-    ForEachKind([&] {
-        StandOn(0, 1);
-        TypeKey(VK_F4);
-        const HWND drop = Drop();
-        Send(grid, HGM_DELETEFIELD, 0);
-        EXPECT_FALSE(IsWindow(drop));
-        EXPECT_EQ(0, LiveHooks());
-        EXPECT_EQ(1, HGColCount(ctl->pData));
     });
 }
 
@@ -606,19 +312,6 @@ TEST_F(GridComboCells, TextOfNoItemMakesACodedCellNull)
     EXPECT_TRUE(HGIsCellNull(grid, 0, 1));
 }
 
-TEST_F(GridComboCells, F5GoesToTheStandingEditorWithTheFocus)
-{
-    for (const Kind& kind : kinds) {
-        SCOPED_TRACE(NameOf(kind));
-        MakeColumn(kind, HCS_XBUTTON);
-        StandOn(0, 1);
-        TypeKey(VK_F5);
-        EXPECT_EQ((Ints{ HGN_EDITFOCUS, HGN_EDITBLUR, HGN_EDITDONE }), Told());
-        EXPECT_FALSE(IsOpen());
-        DestroyWindow(grid);
-    }
-}
-
 TEST_F(GridComboCells, NoKeyReachesTheComboOfAReadOnlyGrid)
 {
     ForEachKind([&] {
@@ -641,6 +334,20 @@ TEST_F(GridComboCells, CellProceduresHandStateToTheCombo)
         EXPECT_EQ(reinterpret_cast<void*>(HGGetField(ctl->pData, 0)->pCtl),
                   reinterpret_cast<void*>(Send(ChildOf(0), WWM_GETSTATE)));
     });
+}
+
+TEST_F(GridComboCells, EditorOfShortNumbersWithCodesShowsTheNumber)
+{
+    MakeGrid(GridOf({ HGFieldCreate("N", HFF_CODE, 80, 60, 'n', 's', 'n', 'l', 0, 'c', 0, "", 0), Text() }), 3);
+    // Its first byte is that of a tab.
+    constexpr short number = 9 + 256;
+    constexpr LONG  code = 1;
+    HCAddItemEx(ChildOf(0), &number, &code);
+    HGSetCellData(grid, 0, 1, &code);
+    MoveTo(0, 1);
+    EXPECT_EQ("265", Shown());
+    MoveTo(0, 2);
+    EXPECT_EQ("", Shown());
 }
 
 } // namespace

@@ -193,4 +193,30 @@ TEST_F(ListHosts, RangeWhoseEndsAreOutOfViewIsRepainted)
     ReleaseButton(list, 5, 500);
 }
 
+// The scroll bar that comes with the items changes the window's size, so the owner is asked within the layout too.
+TEST_F(ListHosts, ListIsDestroyedInAnyQuestionForItsHeightWhileItFills)
+{
+    int  asked = 0;
+    int  last = 1;
+    bool destroyed = true;
+    for (; destroyed && last < 100; ++last) {
+        Make("%ss", HLS_OWNERDRAW);
+        asked = 0;
+        parent.OnMessage(WM_MEASUREITEM, [&](WPARAM, LPARAM lParam) {
+            reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 16;
+            if (++asked == last) {
+                DestroyWindow(list);
+            }
+            return LRESULT{ 1 };
+        });
+        for (int i = 0; i < 20 && IsWindow(list); ++i) {
+            HLAddItem(list, "text");
+        }
+        destroyed = !IsWindow(list);
+        parent.OnMessage(WM_MEASUREITEM, nullptr);
+    }
+    EXPECT_FALSE(destroyed);
+    EXPECT_GT(asked, 20) << "more than once an item";
+}
+
 } // namespace

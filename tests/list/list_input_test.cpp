@@ -17,6 +17,11 @@ protected:
         PumpPending();
         seen.Clear();
     }
+    void SendUnder(int held, UINT message, WPARAM wParam)
+    {
+        const HeldKeys keys({ held });
+        Send(message, wParam);
+    }
     void ClickItem(int index, unsigned modifiers = withNone) { ClickAt(list, 5, MiddleOf(index), modifiers); }
 };
 
@@ -99,8 +104,9 @@ TEST_F(ListInput, KeysWithoutATargetNotify)
                          { VK_TAB, withShift, HLN_BACKTAB },
                          { VK_F1, withNone, HLN_HELP } };
     WPARAM    next = 99;
-    parent.OnMessage(WM_NEXTDLGCTL, [&](WPARAM wParam, LPARAM) {
+    parent.OnMessage(WM_NEXTDLGCTL, [&](WPARAM wParam, LPARAM lParam) {
         next = wParam;
+        EXPECT_EQ(0, lParam) << "a direction, no window";
         return LRESULT{ 0 };
     });
     MakeWith(0, 5, 3);
@@ -253,18 +259,14 @@ TEST_F(ListInput, CtrlClickTogglesInAnExtendedSelection)
     EXPECT_EQ(1, Current());
 }
 
-// The display server may take a key for released when the mouse moves, so the key is down for this thread alone.
 TEST_F(ListInput, CtrlDragDeselectsWhatItBeganToDeselect)
 {
     MakeWith(HLS_EXTSEL, 6, 10);
     Select({ 1, 2, 3, 5 });
-    BYTE keys[256] = {};
-    GetKeyboardState(keys);
-    keys[VK_CONTROL] = 0x80;
-    SetKeyboardState(keys);
-    Send(WM_LBUTTONDOWN, MK_LBUTTON | MK_CONTROL, MAKELPARAM(5, MiddleOf(1)));
-    keys[VK_CONTROL] = 0;
-    SetKeyboardState(keys);
+    {
+        const HeldKeys held({ VK_CONTROL });
+        Send(WM_LBUTTONDOWN, MK_LBUTTON | MK_CONTROL, MAKELPARAM(5, MiddleOf(1)));
+    }
     EXPECT_EQ((Ints{ 2, 3, 5 }), Selected());
     Send(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, MiddleOf(3)));
     EXPECT_EQ(0, HLIsSelected(list, 2)) << "the range under way shows before it is stored";
@@ -388,6 +390,128 @@ TEST_F(ListInput, ListDestroyedInANotificationIsLeftAlone)
     parent.On(HLN_SELCHANGE, [&] { DestroyWindow(list); });
     Key(VK_DOWN);
     EXPECT_FALSE(IsWindow(list));
+}
+
+TEST_F(ListInput, ClickOrKeyOnAnEmptyListSelectsNothing)
+{
+    struct Row {
+        const char*           what;
+        std::function<void()> work;
+    };
+    const Row rows[] = {
+        { "Down", [&] { Key(VK_DOWN); } },
+        { "Space", [&] { Key(VK_SPACE); } },
+        { "Shift+Down", [&] { SendUnder(VK_SHIFT, WM_KEYDOWN, VK_DOWN); } },
+        { "click", [&] { ClickAt(list, 5, 5); } },
+        { "Ctrl+click", [&] { SendUnder(VK_CONTROL, WM_LBUTTONDOWN, 0); } },
+    };
+    for (const DWORD style : { HLS_MULTISEL, HLS_EXTSEL }) {
+        for (const Row& row : rows) {
+            SCOPED_TRACE(testing::Message() << row.what << " style " << style);
+            Make("%ss", style);
+            row.work();
+            Send(WM_LBUTTONUP);
+            EXPECT_EQ(0, Send(HLM_GETSELCOUNT));
+            Add({ "a", "b" });
+            EXPECT_EQ((Ints{}), Selected());
+        }
+    }
+}
+
+TEST_F(ListInput, SpaceWithoutACurrentItemSelectsNothing)
+{
+    for (const DWORD style : { HLS_MULTISEL, HLS_EXTSEL }) {
+        MakeWith(style, 5, 3);
+        Send(HLM_SETCURRENT, static_cast<WPARAM>(-1));
+        Key(VK_SPACE);
+        EXPECT_EQ((Ints{}), Selected()) << "style " << style;
+    }
+}
+
+TEST_F(ListInput, SpaceSelectsTheCurrentItemAloneOrTheRangeToIt)
+{
+    MakeWith(HLS_EXTSEL, 8, 10);
+    Send(HLM_SETCURRENT, 5);
+    Select({ 1 });
+    TypeKey(VK_SPACE);
+    EXPECT_EQ((Ints{ 5 }), Selected());
+    TypeKey(VK_DOWN, withShift);
+    TypeKey(VK_DOWN, withShift);
+    Select({ 9 });
+    TypeKey(VK_SPACE, withShift);
+    EXPECT_EQ((Ints{ 5, 6, 7 }), Selected());
+    TypeKey(VK_SPACE);
+    EXPECT_EQ((Ints{ 7 }), Selected());
+    EXPECT_EQ(7, +Ctl()->nAnchor);
+}
+
+TEST_F(ListInput, CtrlShiftClickGoesOnWithWhatTheLastCtrlClickBegan)
+{
+    MakeWith(HLS_EXTSEL, 8, 8);
+    ClickItem(1);
+    ClickItem(4, withCtrl);
+    ClickItem(6, withCtrl | withShift);
+    EXPECT_EQ((Ints{ 1, 4, 5, 6 }), Selected());
+    EXPECT_EQ(4, +Ctl()->nAnchor) << "it stays";
+    ClickItem(1, withCtrl);
+    ClickItem(5, withCtrl | withShift);
+    EXPECT_EQ((Ints{ 6 }), Selected()) << "the last Ctrl-click deselected";
+    EXPECT_EQ(1, +Ctl()->nAnchor);
+}
+
+TEST_F(ListInput, TypedCharacterNotifiesOnlyWhereItFindsAnItem)
+{
+    Make();
+    Add({ "apple", "banana" });
+    Focus();
+    Told();
+    Send(WM_CHAR, 'b');
+    EXPECT_EQ(1, Current());
+    EXPECT_EQ((Ints{ HLN_SELCHANGE }), Told());
+    EXPECT_TRUE(Ctl()->wFlags & CF_CHANGED);
+    Send(HLM_SETFLAGS, CF_CHANGED, 0);
+    Send(WM_CHAR, 'z');
+    EXPECT_EQ(1, Current());
+    EXPECT_EQ((Ints{}), Told());
+    EXPECT_FALSE(Ctl()->wFlags & CF_CHANGED);
+}
+
+TEST_F(ListInput, FindTextWithAStartBelowZeroBeginsAtTheFirstItem)
+{
+    Make();
+    Add({ "ab", "x", "ab" });
+    EXPECT_EQ(0, SendPtr(HLM_FINDTEXT, static_cast<WPARAM>(-1), "ab"));
+    EXPECT_EQ(0, SendPtr(HLM_FINDTEXT, static_cast<WPARAM>(-2), "ab"));
+}
+
+TEST_F(ListInput, MouseMarksNothingWhileAKeyMovesTheCurrentItem)
+{
+    for (const int key : { VK_DOWN, VK_UP, VK_NEXT, VK_PRIOR, VK_END, VK_HOME }) {
+        MakeWith(HLS_HOTTRACK, 5, 10);
+        {
+            const HeldKeys held({ key });
+            Send(WM_MOUSEMOVE, 0, MAKELPARAM(5, MiddleOf(3)));
+        }
+        EXPECT_EQ(-1, +Ctl()->nHot) << "key " << key;
+        Send(WM_MOUSEMOVE, 0, MAKELPARAM(5, MiddleOf(3)));
+        EXPECT_EQ(3, +Ctl()->nHot);
+    }
+}
+
+TEST_F(ListInput, DragThatStaysOnTheLastItemScrollsItIntoViewWhole)
+{
+    Make("%ss", HLS_NOINTEGRAL);
+    ShowRows(3, 4);
+    Fill(5);
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, MiddleOf(2)));
+    Send(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, 500));
+    EXPECT_EQ(4, Current());
+    EXPECT_EQ(1, Top()) << "it shows in part";
+    Send(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, 500));
+    EXPECT_EQ(2, Top());
+    Send(WM_LBUTTONUP, 0, MAKELPARAM(5, 500));
+    Send(WM_MOUSEMOVE, 0, MAKELPARAM(5, 500));
+    EXPECT_EQ(2, Top());
 }
 
 } // namespace

@@ -338,4 +338,92 @@ TEST_F(ListItems, OwnerDrawnListTellsOfEachDeletion)
     EXPECT_EQ(code, gone.item.itemData) << "a code of this type goes in place of a pointer";
 }
 
+TEST_F(ListItems, InsertionLaysOutUnlessRedrawIsOff)
+{
+    Make("%ni");
+    Ctl()->cRows = 77;
+    Send(HLM_SETREDRAW, 0);
+    AddNumbers({ 1 });
+    EXPECT_EQ(77, +Ctl()->cRows);
+    Send(HLM_SETREDRAW, 1);
+    AddNumbers({ 2 });
+    EXPECT_NE(77, +Ctl()->cRows);
+}
+
+TEST_F(ListItems, ManyItemsEndTheHostsRedrawBatch)
+{
+    Make("%ni");
+    Send(HLM_SETREDRAW, 0);
+    const int data[] = { 1, 2 };
+    HLAddItems(list, 2, data);
+    EXPECT_FALSE(Send(HLM_GETFLAGS) & HLF_NOREDRAW);
+}
+
+TEST_F(ListItems, InsertedStringsDataHasTheFormatOfTheListAndItsCodeNone)
+{
+    Make("%bi%biup;down");
+    HLInsertStringEx(list, -1, "up", "up");
+    int code = 77;
+    HLGetCode(list, 0, &code);
+    EXPECT_EQ(1, Number(0));
+    EXPECT_EQ(0, code) << "no text for true without the format";
+}
+
+TEST_F(ListItems, EmptyListNeitherLaysOutNorInvalidates)
+{
+    Make("%ni");
+    AddNumbers({ 1, 2, 3 });
+    Ctl()->cRows = 77;
+    const Invalidated seenOf = InvalidatedBy([&] { HLEmptyList(list); });
+    EXPECT_TRUE(IsRectEmpty(&seenOf.area));
+    EXPECT_EQ(77, +Ctl()->cRows);
+}
+
+TEST_F(ListItems, GetItemsFillsTextCodesIntoBuffersInTurn)
+{
+    Make("%ni%ss");
+    const int data = 1;
+    HLAddItemEx(list, &data, "one");
+    HLAddItemEx(list, &data, "two");
+    char      first[8] = "";
+    char      second[8] = "";
+    char*     out[] = { first, second };
+    const int unused = 0;
+    EXPECT_EQ(2, HLGetItems(list, 0, 2, out, HLI_ALL, &unused));
+    EXPECT_STREQ("one", first);
+    EXPECT_STREQ("two", second);
+}
+
+TEST_F(ListItems, GetItemsByIndexSkipsThoseBelowZeroAndCountsThoseBehindTheEnd)
+{
+    Make("%ni");
+    AddNumbers({ 10, 20 });
+    const int indexes[] = { -1, 1, 99 };
+    int       out[3] = { 77, 77, 77 };
+    EXPECT_EQ(2, HLGetItems(list, 3, 4, out, HLI_BYINDEX, indexes));
+    EXPECT_EQ(1, out[0]);
+    EXPECT_EQ(99, out[1]);
+    out[1] = 77;
+    EXPECT_EQ(2, HLGetItems(list, 3, 1, out, HLI_BYINDEX, indexes));
+    EXPECT_EQ(20, out[0]);
+    EXPECT_EQ(77, out[1]) << "there is nothing to copy";
+}
+
+TEST_F(ListItems, OwnerOfOtherCodesIsToldTheDataOfADeletion)
+{
+    std::string gone;
+    parent.OnMessage(WM_DELETEITEM, [&](WPARAM, LPARAM lParam) {
+        gone = reinterpret_cast<const char*>(reinterpret_cast<DELETEITEMSTRUCT*>(lParam)->itemData);
+        return LRESULT{ 1 };
+    });
+    for (const char* const text : { "%ss%ni", "%ss" }) {
+        gone.clear();
+        Make(text, HLS_OWNERDRAW);
+        const int code = 5;
+        HLAddItemEx(list, "first", &code);
+        HLDeleteItem(list, 0);
+        EXPECT_EQ("first", gone) << text;
+    }
+}
+
 } // namespace

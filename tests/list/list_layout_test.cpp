@@ -408,4 +408,76 @@ TEST_F(ListLayout, TabStopOfZeroBecomesFiftyFiveAndNoStopSeventy)
     EXPECT_EQ(70, Ctl()->pTabs[0]);
 }
 
+TEST_F(ListLayout, MoreTabStopsThanMemoryHoldsAreNone)
+{
+    Make("%ss", HLS_TABS);
+    const int stops[] = { 20, 90 };
+    SendPtr(HLM_SETTABS, 2, stops);
+    EXPECT_EQ(1, Send(HLM_SETTABS, 0x40000001)); // times four it is 4 in 32 bits
+    EXPECT_EQ(0, +Ctl()->cTabs);
+    EXPECT_EQ(nullptr, +Ctl()->pTabs);
+}
+
+TEST_F(ListLayout, PageOfTheVerticalBarIsOneRowMoreThanShow)
+{
+    const auto page = [&](int bar) {
+        SCROLLINFO info = {};
+        info.cbSize = sizeof info;
+        info.fMask = SIF_PAGE;
+        GetScrollInfo(list, bar, &info);
+        return static_cast<int>(info.nPage);
+    };
+    Make();
+    ShowRows(4);
+    Fill(30);
+    EXPECT_EQ(Ctl()->cRows + 1, page(SB_VERT));
+    MakeColumns(3, 60, 40);
+    EXPECT_EQ(0, page(SB_HORZ));
+}
+
+TEST_F(ListLayout, ScrolledFieldIsErasedOnlyWithoutItems)
+{
+    Make("%ss", HLS_FIELD | HLS_NOSCROLL, 100, 30);
+    Fill(5);
+    bool painted = false;
+    parent.OnMessage(WM_CTLCOLORLISTBOX, [&](WPARAM, LPARAM) {
+        painted = true;
+        return reinterpret_cast<LRESULT>(GetStockObject(WHITE_BRUSH));
+    });
+    EXPECT_FALSE(InvalidatedBy([&] { Send(HLM_SCROLL, 1); }).erases);
+    EXPECT_TRUE(painted) << "at once";
+    HLEmptyList(list);
+    EXPECT_TRUE(InvalidatedBy([&] { Send(HLM_SCROLL, static_cast<WPARAM>(-1)); }).erases);
+}
+
+TEST_F(ListLayout, PageOfFewRowsIsOne)
+{
+    for (const int rows : { 1, 2 }) {
+        Make();
+        ShowRows(rows);
+        Fill(10);
+        Send(WM_VSCROLL, SB_PAGEDOWN);
+        EXPECT_EQ(1, Top()) << rows << " rows";
+        Send(WM_VSCROLL, SB_PAGEDOWN);
+        Send(WM_VSCROLL, SB_PAGEUP);
+        EXPECT_EQ(1, Top()) << rows << " rows";
+    }
+}
+
+TEST_F(ListLayout, HeightOfAMoveWithoutASizeIsNotTrimmed)
+{
+    Make();
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(SYSTEM_FONT)));
+    WINDOWPOS pos = {};
+    pos.hwnd = list;
+    pos.cx = 150;
+    pos.cy = 5 * RowHeight() + 5;
+    pos.flags = SWP_NOSIZE;
+    SendPtr(WM_WINDOWPOSCHANGING, 0, &pos);
+    EXPECT_EQ(5 * RowHeight() + 5, pos.cy);
+    pos.flags = 0;
+    SendPtr(WM_WINDOWPOSCHANGING, 0, &pos);
+    EXPECT_EQ(5 * RowHeight() + 2, pos.cy);
+}
+
 } // namespace

@@ -112,4 +112,112 @@ TEST_F(ListManyItems, HundredThousandItemsFillSelectAndGo)
     }
 }
 
+TEST_F(ListManyItems, EntriesOfNoItemMoveAsTheyDoOneByOne)
+{
+    const Ints more = { 5, 1, 4, 2, 3 };
+    const Ints chosen[] = { { 0, 2 }, { -1, 0, 2 }, { 1 } };
+    for (const DWORD sort : { DWORD{ 0 }, DWORD{ HLS_SORTDATA } }) {
+        for (const Ints& selected : chosen) {
+            Ints after[2];
+            for (const bool atOnce : { false, true }) {
+                Make("%ni", sort | HLS_MULTISEL);
+                AddNumbers({ 1, 2, 3 });
+                const int none = 99;
+                for (const int index : selected) {
+                    index < 0 ? HLSelectData(list, &none, HLSEL_SET) : HLSelectItem(list, index, HLSEL_SET);
+                }
+                HDLDeleteItem(HLGetList(list), 2); // the list doesn't hear of it
+                HDLDeleteItem(HLGetList(list), 1);
+                if (atOnce) {
+                    HLAddItems(list, 5, more.data());
+                } else {
+                    AddNumbers(more);
+                }
+                after[atOnce] = Selected();
+            }
+            EXPECT_EQ(after[0], after[1]) << "sort " << sort << ", " << selected.size() << " selected";
+        }
+    }
+}
+
+// Each of these would take a minute if it took a walk for every item.
+class ListWalks : public ListManyItems {
+protected:
+    static constexpr int count = 100000;
+
+    void MakeLong(DWORD style)
+    {
+        Make("%ni%ni", style);
+        Ints data(count);
+        for (int i = 0; i < count; ++i) {
+            data[static_cast<size_t>(i)] = (i * 7919) % count;
+        }
+        begin = GetTickCount();
+        ASSERT_EQ(count, HLAddItemsEx(list, count, data.data(), data.data()));
+    }
+    void ExpectQuick() const { EXPECT_LT(GetTickCount() - begin, 15000u); }
+
+    DWORD begin = 0;
+};
+
+TEST_F(ListWalks, SortedLoadBesideASelectedEntryBehindTheEndIsOneSort)
+{
+    Make("%ni%ni", HLS_MULTISEL | HLS_SORTDATA);
+    AddNumbers({ 1, 2, 3 }, { 1, 2, 3 });
+    Select({ 2 });
+    HDLEmpty(HLGetList(list));
+    Ints data(count);
+    for (int i = 0; i < count; ++i) {
+        data[static_cast<size_t>(i)] = (i * 7919) % count;
+    }
+    begin = GetTickCount();
+    EXPECT_EQ(count, HLAddItemsEx(list, count, data.data(), data.data()));
+    ExpectQuick();
+    EXPECT_EQ((Ints{ count + 2 }), Selected());
+}
+
+TEST_F(ListWalks, ClickOnManySelectedItemsSearchesTheCurrentCodeOnce)
+{
+    MakeLong(HLS_EXTSEL | HLS_CODECURRENT);
+    HLSelectItems(list, HLSEL_SET, HLI_ALL, 0, nullptr);
+    Send(HLM_SETCURRENT, count - 1);
+    Send(HLM_SETTOP, 0);
+    begin = GetTickCount();
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, MiddleOf(1)));
+    Send(WM_LBUTTONUP, 0, MAKELPARAM(5, MiddleOf(1)));
+    ExpectQuick();
+    EXPECT_EQ((Ints{ 1, count - 1 }), Selected()) << "the drag that begins decides about what lies between";
+}
+
+TEST_F(ListWalks, DeletingAllButTheCurrentItemSearchesItsCodeOnce)
+{
+    MakeLong(HLS_CODECURRENT);
+    Send(HLM_SETCURRENT, count - 1);
+    begin = GetTickCount();
+    EXPECT_EQ(count - 1, HLDeleteItems(list, HLI_UNSELECTED, 0, nullptr));
+    ExpectQuick();
+    EXPECT_EQ(0, Current());
+    EXPECT_EQ(1, HLDeleteItems(list, HLI_SELECTED, 0, nullptr));
+    EXPECT_EQ(-1, Current());
+}
+
+TEST_F(ListManyItems, SetListBeginsAtTheTopWithoutACurrentItem)
+{
+    Make("%ni", HLS_HOTTRACK);
+    ShowRows(3);
+    Ints data(20, 5);
+    HLAddItems(list, 20, data.data());
+    Send(HLM_SETCURRENT, 9);
+    Send(HLM_SETTOP, 8);
+    Ctl()->nHot = 9;
+    const HWND owner = WindowTest::Create("HList", "%ni", 0, 8, { 10, 150, 100, 60 });
+    HLAddItems(owner, 20, data.data());
+    EXPECT_EQ(0, Send(WWM_ISNULL));
+    HLSetList(list, HLGetList(owner));
+    EXPECT_EQ(0, Top());
+    EXPECT_EQ(0, +Ctl()->nScrollPos);
+    EXPECT_EQ(-1, +Ctl()->nHot);
+    EXPECT_EQ(1, Send(WWM_ISNULL));
+}
+
 } // namespace

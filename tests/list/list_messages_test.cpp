@@ -305,4 +305,63 @@ TEST_F(ListMessages, ClassIsRegisteredWithoutCursorAndBrush)
     EXPECT_EQ(nullptr, info.hbrBackground);
 }
 
+TEST_F(ListMessages, WindowTextFreesTheTabStopsAndGoesToTheTop)
+{
+    Make("%ss", HLS_TABS);
+    ShowRows(3);
+    Fill(20);
+    const int stops[] = { 20, 90 };
+    SendPtr(HLM_SETTABS, 2, stops);
+    Send(HLM_SETTOP, 5);
+    EXPECT_EQ(1, SendPtr(WM_SETTEXT, 0, "%ss"));
+    EXPECT_EQ(0, +Ctl()->cTabs);
+    EXPECT_EQ(nullptr, +Ctl()->pTabs);
+    EXPECT_EQ(0, Top());
+}
+
+TEST_F(ListMessages, MessagesThatChangeTheLookInvalidate)
+{
+    struct Row {
+        const char* what;
+        UINT        message;
+        WPARAM      wParam;
+        LPARAM      lParam;
+        bool        invalidates;
+        bool        erases;
+    };
+    const Row rows[] = {
+        { "a format alone", HLM_SETFORMAT, 0, AsParam("00"), false, false },
+        { "a format", HLM_SETFORMAT, 1, AsParam("000"), true, true },
+        { "a column's width", HLM_SETCOLUMNWIDTH, 50, 0, true, true },
+        { "no column's width", HLM_SETCOLUMNWIDTH, 0, 0, true, true },
+        { "a colour", HLM_SETCOLOR, 0, 0x123456, true, false },
+        { "a brush alone", HLM_SETBKBRUSH, 0, 0, false, false },
+        { "a brush", HLM_SETBKBRUSH, 0, 1, true, true },
+        { "a focus brush", HLM_SETFOCUSBRUSH, 0, 1, true, true },
+    };
+    Make("%ni", HLS_MULTICOLUMN | HLS_NOSCROLL);
+    AddNumbers({ 1, 2, 3 });
+    RECT client = {};
+    GetClientRect(list, &client);
+    for (const Row& row : rows) {
+        const Invalidated seenOf = InvalidatedBy([&] { Send(row.message, row.wParam, row.lParam); });
+        EXPECT_EQ(row.erases, seenOf.erases) << row.what;
+        EXPECT_EQ(row.invalidates, EqualRect(&client, &seenOf.area) != 0) << row.what;
+        EXPECT_EQ(row.invalidates, !IsRectEmpty(&seenOf.area)) << row.what;
+    }
+}
+
+TEST_F(ListMessages, NewCurrentItemIsRepaintedWithTheOldOneOnDemand)
+{
+    Make("%ni", HLS_MULTISEL | HLS_NOSCROLL);
+    ShowRows(6);
+    AddNumbers({ 1, 2, 3, 4, 5, 6 });
+    Invalidated seenOf = InvalidatedBy([&] { Send(HLM_SETCURRENT, 1); });
+    EXPECT_TRUE(IsRectEmpty(&seenOf.area));
+    seenOf = InvalidatedBy([&] { Send(HLM_SETCURRENT, 3, 1); });
+    EXPECT_TRUE(seenOf.erases);
+    EXPECT_EQ(ItemRect(1).top, seenOf.area.top);
+    EXPECT_EQ(ItemRect(3).bottom + 1, seenOf.area.bottom);
+}
+
 } // namespace

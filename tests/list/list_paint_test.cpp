@@ -399,4 +399,22 @@ TEST_F(ListDrawValue, OwnerDrawsTheValue)
     EXPECT_EQ(2, drawn[0].rcItem.top);
 }
 
+TEST_F(ListDrawValue, OwnerSeesWhetherThereIsAValue)
+{
+    MakePainted("%ss", HLS_OWNERDRAW);
+    Add({ "a", "b" });
+    ShotOf(list);
+    Send(HLM_SETCURRENT, 0);
+    LRESULT isNull = -1;
+    parent.OnMessage(WM_DRAWITEM, [&](WPARAM, LPARAM) {
+        isNull = Send(WWM_ISNULL);
+        return LRESULT{ 1 };
+    });
+    Draw("b", 1, 100);
+    EXPECT_EQ(0, isNull);
+    Draw(nullptr, 1, 100);
+    EXPECT_EQ(1, isNull);
+    EXPECT_EQ(0, Send(WWM_ISNULL)) << "as it was";
+}
+
 } // namespace

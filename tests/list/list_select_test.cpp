@@ -199,4 +199,63 @@ TEST_F(ListSelect, StyleToHoldTheCodeNeedsANumberOrATypeL)
     }
 }
 
+TEST_F(ListSelect, CurrentItemThatGoesLeavesTheNullValue)
+{
+    struct Row {
+        const char*           what;
+        DWORD                 style;
+        std::function<void()> work;
+    };
+    const int code = 1;
+    const Row rows[] = {
+        { "one deletion", 0, [&] { HLDeleteItem(list, 0); } },
+        { "many deletions", 0, [&] { HLDeleteItems(list, HLI_ALL, 0, nullptr); } },
+        { "by its code", HLS_CODECURRENT, [&] { HLDeleteItems(list, HLI_BYCODE, 1, &code); } },
+        { "a reload", HLS_CODECURRENT, [&] { HLEmptyList(list); } },
+    };
+    for (const Row& row : rows) {
+        Make("%ni%ni", row.style);
+        AddNumbers({ 10, 20 }, { 1, 2 });
+        Send(HLM_SETCURRENT, 0);
+        EXPECT_EQ(0, Send(WWM_ISNULL)) << row.what;
+        row.work();
+        EXPECT_EQ(-1, Current()) << row.what;
+        EXPECT_EQ(1, Send(WWM_ISNULL)) << row.what;
+        Make("%ni%ni", row.style | multiple);
+        AddNumbers({ 10, 20 }, { 1, 2 });
+        row.work();
+        EXPECT_EQ(-1, Current()) << row.what;
+        EXPECT_EQ(0, Send(WWM_ISNULL)) << row.what << ", multiple selection";
+    }
+}
+
+TEST_F(ListSelect, CodeThatIsNotFoundEntersAMultipleSelection)
+{
+    Make("%ni%ni", multiple);
+    AddNumbers({ 10, 20 }, { 1, 2 });
+    const int none = 99;
+    EXPECT_EQ(1, HLSelectCode(list, &none, HLSEL_TOGGLE));
+    EXPECT_EQ((Ints{ -1 }), Selected());
+}
+
+TEST_F(ListSelect, FocusedFieldIsNotToldToChangeByClearing)
+{
+    Make("%ni", HLS_FIELD | HLS_NOSCROLL, 100, 24);
+    AddNumbers({ 1, 2 });
+    Send(HLM_SETCURRENT, 1);
+    EXPECT_EQ(1, HLSelectItem(list, 1, HLSEL_CLEAR));
+    Focus();
+    EXPECT_EQ(0, HLSelectItem(list, 1, HLSEL_CLEAR));
+}
+
+TEST_F(ListSelect, SelectItemsVisitsAllItemsOfSingleSelectionWhereItCountsNone)
+{
+    Make("%ni", single);
+    AddNumbers({ 1, 2, 3 });
+    Send(HLM_SETCURRENT, 0);
+    EXPECT_EQ(3, HLSelectItems(list, HLSEL_SET, HLI_ALL, 0, nullptr));
+    EXPECT_EQ(2, HLSelectItems(list, HLSEL_SET, HLI_UNSELECTED, 0, nullptr));
+    EXPECT_EQ(0, Current());
+}
+
 } // namespace

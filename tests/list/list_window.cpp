@@ -1,6 +1,19 @@
 // The fixture of the list control's window tests.
 #include "list_window.h"
 
+namespace {
+
+WNDPROC gListProc;
+int     gErased;
+
+LRESULT CALLBACK CountErasing(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    gErased += message == WM_ERASEBKGND;
+    return CallWindowProcA(gListProc, hwnd, message, wParam, lParam);
+}
+
+} // namespace
+
 HWND ListWindow::Make(const char* text, DWORD style, int width, int height)
 {
     if (list && IsWindow(list)) {
@@ -125,4 +138,19 @@ ListWindow::Ints ListWindow::Told()
     }
     seen.Clear();
     return codes;
+}
+
+Invalidated ListWindow::InvalidatedBy(const std::function<void()>& work) const
+{
+    UpdateWindow(list);
+    gErased = 0;
+    gListProc =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrA(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountErasing)));
+    work();
+    Invalidated result = {};
+    GetUpdateRect(list, &result.area, FALSE);
+    UpdateWindow(list);
+    SetWindowLongPtrA(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(gListProc));
+    result.erases = gErased > 0;
+    return result;
 }

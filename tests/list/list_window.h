@@ -2,10 +2,18 @@
 #pragma once
 
 #include "list/list_internal.h"
+#include "support/held_keys.h"
 #include "support/window_test.h"
 
+#include <functional>
 #include <string>
 #include <vector>
+
+// What some work has invalidated of a list, and whether that is erased first.
+struct Invalidated {
+    RECT area;
+    bool erases;
+};
 
 class ListWindow : public WindowTest {
 protected:
@@ -39,6 +47,7 @@ protected:
     void        Blur() const { SetFocus(parent.hwnd()); }
     void        Key(WORD vk) const { Send(WM_KEYDOWN, vk); }
     Ints        Told(); // the notifications since the last call
+    Invalidated InvalidatedBy(const std::function<void()>& work) const;
 
     HWND list = nullptr;
 };
