@@ -62,15 +62,6 @@ TEST_F(MeasureLines, MeasuresOneLineWithoutLineEnd)
     EXPECT_EQ(static_cast<DWORD>(MAKELONG(line.cx, line.cy)), Measure("caption"));
 }
 
-TEST_F(MeasureLines, ExpandsTabs)
-{
-    RECT plain = {};
-    DrawTextA(screen_.hdc, "a\tb", -1, &plain, DT_CALCRECT | DT_SINGLELINE);
-    const SIZE line = LineSize("a\tb");
-    ASSERT_GT(line.cx, plain.right);
-    EXPECT_EQ(line.cx, LOWORD(Measure("a\tb")));
-}
-
 TEST_F(MeasureLines, GivesZeroForNothing)
 {
     EXPECT_EQ(0u, Measure(""));

@@ -76,8 +76,8 @@ TEST_F(SiblingClip, TakesOtherClassesOutThatBeginAlike)
 
 TEST_F(SiblingClip, TakesTheVisibleChildrenOfTheWindowOutToo)
 {
-    const HWND child = CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 50, 50, 20, 20, drawing_, nullptr,
-                                       nullptr, nullptr);
+    const HWND child =
+        CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 50, 50, 20, 20, drawing_, nullptr, nullptr, nullptr);
     EXPECT_FALSE(IsDrawn(55, 55));
     EXPECT_TRUE(IsDrawn(75, 55));
     ShowWindow(child, SW_HIDE);

@@ -185,8 +185,8 @@ struct KeyRow {
 
 TEST_F(TimedScrollTest, TellsTheFirstKeyThatIsDown)
 {
-    constexpr KeyRow rows[] = { { VK_LBUTTON, 1 }, { VK_RBUTTON, 2 }, { VK_MBUTTON, 16 }, { VK_CONTROL, 8 },
-                                { VK_SHIFT, 4 },   { 0, 0 } };
+    constexpr KeyRow rows[] = { { VK_LBUTTON, 1 }, { VK_RBUTTON, 2 }, { VK_MBUTTON, 16 },
+                                { VK_CONTROL, 8 }, { VK_SHIFT, 4 },   { 0, 0 } };
     BYTE             old[256] = {};
     GetKeyboardState(old);
     MoveMouse(control_, 10, controlHeight + 45);

@@ -140,7 +140,8 @@ TEST(DllPictures, ComeFromTheLibraryWhereTheHostHasNone)
 TEST(DllPictures, AreIconsOfTheLibraryToo)
 {
     Pic pic = {};
-    ASSERT_EQ(nullptr, FindResourceA(nullptr, "#3000", MAKEINTRESOURCEA(14))) << "the program has none"; // RT_GROUP_ICON
+    ASSERT_EQ(nullptr, FindResourceA(nullptr, "#3000", MAKEINTRESOURCEA(14)))
+        << "the program has none"; // RT_GROUP_ICON
     ASSERT_EQ(1, LoadPic(&pic, GetModuleHandleA(nullptr), "#3000"));
     EXPECT_EQ(DWORD{ PIC_ICON }, pic.nKind);
     EXPECT_NE(0, FreePic(&pic, 0));

@@ -171,8 +171,8 @@ TEST_P(SortAddedOfFewItems, ComparesNoMoreThanAddingThemOneByOne)
 {
     const BothWays lists;
     lists.Add(Ascending(200, 0));
-    Items      items = Ascending(GetParam().count, 0);
-    const int  first = lists.atOnce->cItems;
+    Items       items = Ascending(GetParam().count, 0);
+    const int   first = lists.atOnce->cItems;
     void* const before = lists.atOnce->pTail;
     for (Item& item : items) {
         item.key += GetParam().firstKey;

@@ -103,15 +103,17 @@ struct ClassRow {
 
 TEST(WidgetsInit, RegistersTheClassesForTheWholeProcess)
 {
+    // clang-format off
     const ClassRow rows[] = {
-        { "HButt", 0x408B, HButtWnd, 2, hCurArrow, false, 6 },
+        { "HButt",    0x408B, HButtWnd, 2, hCurArrow, false, 6 },
         { "HEdit_SS", 0x400B, HEditWnd, 1, hCurIBeam, false, 0 },
-        { "HEdit", 0x400B, HEditWnd, 1, hCurIBeam, false, 0 },
-        { "HList", 0x400B, HListWnd, 1, nullptr, false, 0 },
-        { "HComb", 0x4003, HCombWnd, 2, hCurArrow, false, 6 },
-        { "HDrop", 0x480B, HDropWnd, 2, nullptr, false, 0 },
-        { "HGrid", 0x4008, HGridWnd, 1, hCurGrid, true, 6 },
+        { "HEdit",    0x400B, HEditWnd, 1, hCurIBeam, false, 0 },
+        { "HList",    0x400B, HListWnd, 1, nullptr,   false, 0 },
+        { "HComb",    0x4003, HCombWnd, 2, hCurArrow, false, 6 },
+        { "HDrop",    0x480B, HDropWnd, 2, nullptr,   false, 0 },
+        { "HGrid",    0x4008, HGridWnd, 1, hCurGrid,  true,  6 },
     };
+    // clang-format on
     for (const ClassRow& row : rows) {
         WNDCLASSA info = {};
         ASSERT_NE(0, GetClassInfoA(hInstance, row.name, &info)) << row.name;

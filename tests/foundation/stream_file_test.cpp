@@ -119,21 +119,6 @@ TEST_F(FileStream, WithoutMemoryLeavesTheFileAlone)
     EXPECT_EQ(BytesFrom("abc"), Contents());
 }
 
-TEST_F(FileStream, LetsOthersReadItAndNobodyWriteIt)
-{
-    Make(BytesFrom("abc"));
-    const StreamPtr read(SOpenFile(name));
-    const StreamPtr second(SOpenFile(name));
-    EXPECT_NE(nullptr, second);
-    EXPECT_EQ(nullptr, SNewFile(name)) << "what is read isn't written";
-}
-
-TEST_F(FileStream, ThatIsWrittenHasOneWriter)
-{
-    const StreamPtr written(SNewFile(name));
-    EXPECT_EQ(nullptr, SNewFile(name));
-}
-
 TEST_F(FileStream, HasNoSizeToBeWrittenIntoAnother)
 {
     Make(BytesFrom("abc"));
