@@ -98,7 +98,8 @@ int WINAPI HAGet(HArray* array, DWORD index, void* out);
 /** @return The element at index in place, until the array grows; null if index is not in use. */
 void* WINAPI HAGetPtr(HArray* array, DWORD index);
 /**
- * Stores an element at any index, growing the array; elements that come between are zero.
+ * Stores an element at any index, growing the array. Elements that come between hold what was there: zeros, or what
+ * HAPop has left.
  *
  * @param item  The bytes of the element; null stores zeros.
  * @return 0, or -1 if the room cannot be made.
@@ -193,7 +194,7 @@ HLList* WINAPI HLListDup(HLList* list);
 int WINAPI HLListDestroy(HLList* list);
 /** Frees all nodes. @return 1; 0 for null. */
 int WINAPI HLListEmpty(HLList* list);
-/** Adds an item: in its place in a sorted list, at the end otherwise. @return Its index, or -1. */
+/** Adds an item: in its place in a sorted list, at the end otherwise. @return As HLListInsert, or else HLListAppend. */
 int WINAPI HLListAdd(HLList* list, const void* item);
 /** Appends an item. @return Number of nodes - 1 after the step (also where no node could be made); -1 for null. */
 int WINAPI HLListAppend(HLList* list, const void* item);
@@ -326,7 +327,8 @@ Stream* WINAPI SReadStream(Stream* stream);
  *
  * @param dest  Gets length and bytes.
  * @param src   Goes to position 0 and then to the end; below 65535 bytes, since 0xFFFF stands for no stream.
- * @return 0; -1 if a piece fell short, or for an src that isn't a memory stream (0xFFFF is written then).
+ * @return 0; -1 if a piece fell short, or for an src that isn't a memory stream (0xFFFF is written then, 0
+ *         for a resource).
  */
 int WINAPI SWriteStream(Stream* dest, Stream* src);
 /** Frees the block of a memory stream; cbData stays. @return 0; -1 for null or another kind. */
@@ -677,7 +679,7 @@ int WINAPI HCDLGetDataSize(DataList* dl, int index);
 #define CF_CHANGED 0x2000
 // A header of the platform, which windows.h includes or not, has another CF_NULL (0) that concerns no control.
 #undef CF_NULL
-/** The value is null. A bit of wFlags (a grid uses the bit otherwise). */
+/** The value is null. A bit of wFlags (grids and combos use the bit otherwise). */
 #define CF_NULL 0x4000
 
 // Control records, grid records and row nodes lie on two-byte boundaries on every architecture.
@@ -723,7 +725,7 @@ typedef LRESULT(CALLBACK* WWHANDLER)(HWND hwnd, UINT message, WPARAM wParam, LPA
 #define WWM_SETSTYLE 1152
 /** Vetoes the notification that is being sent. Gives 1. */
 #define WWM_CANCEL 1155
-/** Gives 1 if CF_NULL is set, else 0. */
+/** Gives 1 if CF_NULL is set, else 0; of a grid or a combo that tells nothing about a value. */
 #define WWM_ISNULL 1156
 
 /**
@@ -764,7 +766,12 @@ HBRUSH WINAPI FireCtlColorMsg(void* record, int kind, HDC hdc);
 int WINAPI GetParentMod(HWND hwnd);
 /** @return Average character width (low word) and height (high word) of a font in pixels; null: the system font. */
 DWORD WINAPI GetBaseUnits(HFONT hFont);
-/** EnumChildWindows callback that takes siblings out of a clip region. data: DC, window, screen RECT. @return 1. */
+/**
+ * EnumChildWindows callback that takes siblings out of a clip region.
+ *
+ * @param data  Pointer to DC, window and screen RECT, one behind the other; null: nothing happens.
+ * @return 1.
+ */
 BOOL CALLBACK ClipSibs(HWND hwnd, LPARAM data);
 /**
  * Scrolls a control while the mouse is dragged outside it; pumps messages until the button comes up.
@@ -775,7 +782,12 @@ BOOL CALLBACK ClipSibs(HWND hwnd, LPARAM data);
 void WINAPI TimedScroll(void* record, int horizontal);
 /** @return The overwrite mode of all edit controls. */
 int WINAPI GetOverwriteMode(void);
-/** Sets the overwrite mode of all edit controls. @return The old mode. */
+/**
+ * Sets the overwrite mode of all edit controls. The caret of a field with the focus changes with HEM_SETOVERWRITE, not
+ * with this.
+ *
+ * @return The old mode.
+ */
 int WINAPI SetOverwriteMode(int mode);
 
 /*
@@ -918,7 +930,7 @@ void WINAPI RCtoS(HWND hwnd, RECT* rect);
 /**
  * Draws a 3-D frame.
  *
- * @param rect  The outside; becomes the inside.
+ * @param rect  The outside; becomes the inside. Null: nothing happens.
  * @param kind  0 plain line, 1 raised, 2 ridge, 3 sunken, 4 raised by two pixels; others draw nothing.
  * @param fill  Non-zero: the inside is filled with the brush in dc.
  */
@@ -966,8 +978,9 @@ typedef struct Pic {
 /**
  * Finds a picture by its name and counts one use more of it; each picture is loaded once.
  *
- * Tried in this order: "IM" and a number, an image of the library's strip; a bitmap, then an icon among the resources of
- * module, then of the library; a file, first as ".BMP", then as ".ICO" where the name has no dot.
+ * Tried in this order: any name that begins with "IM" is an image of the library's strip, by the number that follows,
+ * else the first; a bitmap, then an icon among the resources of module, then of the library; a file, first as ".BMP",
+ * then as ".ICO" where the name has no dot.
  *
  * @param pic     Filled in; without a picture all zero.
  * @param module  Whose resources are tried first; null: the program's.

@@ -89,7 +89,7 @@ struct NullPictures {
     Pic pressed;
 };
 extern NullPictures gNullPictures; // of all buttons
-bool HBPaint(HButtCtl* ctl, HDC hdc, const RECT& rect, int state, HBRUSH brush);
+bool HBPaint(HButtCtl* ctl, HDC hdc, const RECT& rect, int state, HBRUSH brush, bool isCell);
 bool HBPaintWindow(HButtCtl* ctl, HDC hdc);
 
 // Sounds. The player is bound when the first sound is found; tests put their own in its place.

@@ -22,18 +22,25 @@ struct ButtonPaint {
     HDC       hdc;
     RECT      rect;
     int       state;
-    HBRUSH    brush; // of the caller's; may be null
+    HBRUSH    brush;  // of the caller's; may be null
+    bool      isCell; // of a grid: what the button itself is in the middle of doesn't show
 };
 
-bool HasFocus(const HButtCtl* ctl)
+bool LooksPressed(const ButtonPaint& paint)
 {
-    return GetFocus() == ctl->hWnd;
+    return !paint.isCell && HasFlag(paint.ctl, HBF_PRESSED);
+}
+
+bool LooksFocused(const ButtonPaint& paint)
+{
+    return !paint.isCell && GetFocus() == paint.ctl->hWnd;
 }
 
 // Drawing by others
 
-bool IsDrawnByOwner(HButtCtl* ctl, HDC hdc, const RECT& rect, int* state)
+bool IsDrawnByOwner(ButtonPaint& paint)
 {
+    const HButtCtl* const ctl = paint.ctl;
     if (!HasStyle(ctl, HBS_OWNERDRAW)) {
         return false;
     }
@@ -41,12 +48,12 @@ bool IsDrawnByOwner(HButtCtl* ctl, HDC hdc, const RECT& rect, int* state)
     draw.CtlType = ODT_BUTTON;
     draw.CtlID = ctl->wId;
     draw.itemAction = ODA_SELECT | ODA_FOCUS;
-    draw.itemState = (HasFlag(ctl, HBF_PRESSED) ? UINT{ ODS_SELECTED } : 0) | (HasFocus(ctl) ? UINT{ ODS_FOCUS } : 0);
+    draw.itemState = (LooksPressed(paint) ? UINT{ ODS_SELECTED } : 0) | (LooksFocused(paint) ? UINT{ ODS_FOCUS } : 0);
     draw.hwndItem = ctl->hWnd;
-    draw.hDC = hdc;
-    draw.rcItem = rect;
-    draw.itemData = reinterpret_cast<ULONG_PTR>(state);
-    const SelectedObject font(hdc, ctl->hFont);
+    draw.hDC = paint.hdc;
+    draw.rcItem = paint.rect;
+    draw.itemData = reinterpret_cast<ULONG_PTR>(&paint.state);
+    const SelectedObject font(paint.hdc, ctl->hFont);
     return SendMessageA(ctl->hParent, WM_DRAWITEM, ctl->wId, reinterpret_cast<LPARAM>(&draw)) != 0;
 }
 
@@ -70,7 +77,7 @@ bool IsDrawnAsPart(HButtCtl* ctl, HDC hdc, RECT* rect)
 WORD FaceFlags(const ButtonPaint& paint)
 {
     const HButtCtl* const ctl = paint.ctl;
-    const bool            down = HasFlag(ctl, HBF_PRESSED) || (KindOf(ctl) >= HBS_CHECK && paint.state != 0);
+    const bool            down = LooksPressed(paint) || (KindOf(ctl) >= HBS_CHECK && paint.state != 0);
     WORD                  flags = DPB_INNERRECT;
     flags |= HasStyle(ctl, unnamedStyle) ? unnamedFlag : WORD{ 0 };
     flags |= KindOf(ctl) == HBS_DEFPUSH ? WORD{ DPB_DEFAULT } : WORD{ 0 };
@@ -117,16 +124,17 @@ bool PaintFace(ButtonPaint& paint)
 // Picture and caption
 
 // Bounded: a state that has no picture shows none, also one that the parent has made up when it was asked to draw.
-const Pic* PictureOf(const HButtCtl* ctl, int state)
+const Pic* PictureOf(const ButtonPaint& paint)
 {
-    const bool pressed = HasFlag(ctl, HBF_PRESSED);
+    const HButtCtl* const ctl = paint.ctl;
+    const bool            pressed = LooksPressed(paint);
     if (ctl->cPics == 0) {
         return nullptr;
     }
     if (HasFlag(ctl, CF_NULL)) {
         return pressed ? &gNullPictures.pressed : &gNullPictures.normal;
     }
-    const unsigned wanted = static_cast<unsigned>(state);
+    const unsigned wanted = static_cast<unsigned>(paint.state);
     const unsigned index = pressed && HasStyle(ctl, HBS_UPDOWN) ? (wanted + 1) % ctl->cPics : wanted;
     return index < ctl->cPics ? &ctl->pPics[index] : nullptr;
 }
@@ -162,9 +170,12 @@ UINT HBTextFlags(const HButtCtl* ctl)
 
 void DrawGreyed(const ButtonPaint& paint, const RECT& rect, int stockBrush)
 {
+    // A length, a width or a height of 0 would have the record measured as if it were the text.
+    if (IsRectEmpty(&rect)) {
+        return;
+    }
     HButtCtl* const ctl = paint.ctl;
     ctl->rcGray = rect;
-    // A length of 0 would have the record measured as if it were the text.
     const int length = static_cast<int>(std::strlen(ctl->pszCaption));
     GrayStringA(paint.hdc, static_cast<HBRUSH>(GetStockObject(stockBrush)), HBDrawText, reinterpret_cast<LPARAM>(ctl),
                 length, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
@@ -201,13 +212,13 @@ void DrawCaption(const ButtonPaint& paint, const RECT& rect)
 void DrawFocus(const ButtonPaint& paint, const ButtonPlaces& places)
 {
     HButtCtl* const ctl = paint.ctl;
-    if (HasStyle(ctl, HBS_NOFOCUS)) {
+    if (paint.isCell || HasStyle(ctl, HBS_NOFOCUS)) {
         return;
     }
     RECT rect = ctl->pszCaption ? places.text : places.picture;
     InflateRect(&rect, 1, 0);
     const bool stands = HasStyle(ctl, HBS_TRANSPARENT) && HasFlag(ctl, HBF_FOCUSDRAWN);
-    const bool focused = HasFocus(ctl);
+    const bool focused = LooksFocused(paint);
     // Where one stands on a transparent button, it is there already, or goes by being drawn once more.
     if (focused != stands) {
         DrawFocusRect(paint.hdc, &rect);
@@ -225,7 +236,7 @@ bool PaintContent(ButtonPaint& paint)
     }
     HButtCtl* const      ctl = paint.ctl;
     const SelectedObject font(paint.hdc, ctl->hFont);
-    const Pic* const     pic = PictureOf(ctl, paint.state);
+    const Pic* const     pic = PictureOf(paint);
     const ButtonContent  content{ CaptionSize(ctl, paint.hdc), PictureSize(pic), ctl->bTextPos, ctl->bPicPos,
                                   ctl->bRelPos };
     const ButtonPlaces   places = HBLayout(paint.rect, content);
@@ -277,17 +288,16 @@ BOOL CALLBACK HBDrawText(HDC dc, LPARAM record, int /*length*/)
     return TRUE;
 }
 
-bool HBPaint(HButtCtl* ctl, HDC hdc, const RECT& rect, int state, HBRUSH brush)
+bool HBPaint(HButtCtl* ctl, HDC hdc, const RECT& rect, int state, HBRUSH brush, bool isCell)
 {
-    int        shown = state;
-    const bool done = IsDrawnByOwner(ctl, hdc, rect, &shown);
+    ButtonPaint paint{ ctl, hdc, rect, state, brush, isCell };
+    const bool  done = IsDrawnByOwner(paint);
     if (!IsAlive(ctl)) {
         return false;
     }
     if (done) {
         return true;
     }
-    ButtonPaint paint{ ctl, hdc, rect, shown, brush };
     return HasStyle(ctl, HBS_TRANSPARENT) ? PaintContent(paint) : PaintOffScreen(paint);
 }
 
@@ -300,7 +310,7 @@ bool HBPaintWindow(HButtCtl* ctl, HDC hdc)
     if (!IsAlive(ctl)) {
         return false;
     }
-    return done || HBPaint(ctl, hdc, client, ctl->bState, nullptr);
+    return done || HBPaint(ctl, hdc, client, ctl->bState, nullptr, false);
 }
 
 bool HBDrawValue(HButtCtl* ctl, HDC hdc, const RECT* rect, HBRUSH brush, const void* value)
@@ -309,7 +319,7 @@ bool HBDrawValue(HButtCtl* ctl, HDC hdc, const RECT* rect, HBRUSH brush, const v
     const bool      wasNull = HasFlag(ctl, CF_NULL);
     const int       set = value ? GetBoolValue(ctl->chLinkType, value) * StatesOfValue(ctl) : 0;
     SetFlag(ctl, CF_NULL, !value);
-    if (!HBPaint(ctl, hdc, *rect, value ? set % ctl->cStates : ctl->bState, brush)) {
+    if (!HBPaint(ctl, hdc, *rect, value ? set % ctl->cStates : ctl->bState, brush, true)) {
         return false;
     }
     SetFlag(ctl, CF_NULL, wasNull);

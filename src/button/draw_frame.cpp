@@ -121,7 +121,7 @@ void HDrawFrame(HDC dc, RECT* rect, HPEN penTopLeft, HPEN penBottomRight, bool f
 
 void WINAPI Draw3DBorder(HDC dc, RECT* rect, int kind, int fill)
 {
-    if (kind < 0 || kind >= borderCount) {
+    if (!rect || kind < 0 || kind >= borderCount) {
         return;
     }
     const Border& border = borders[kind];

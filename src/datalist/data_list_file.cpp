@@ -128,7 +128,7 @@ void SortLists(DataList* dl)
     if (!pair.leader || SortModeOf(dl) == SortMode::None) {
         return;
     }
-    HLListSortAdded(pair.leader, 0, pair.follower);
+    HLListSortAdded(pair.leader, 0, nullptr, pair.follower);
     if (pair.follower) {
         KeepOrderOfPartners(pair, pair.leaderHasCodes ? dl->cClass2 : dl->cClass,
                             pair.leaderHasCodes ? dl->cType2 : dl->cType);

@@ -42,9 +42,10 @@ int AppendRun(const ListPair& pair, int start, int count, HDLITEMAT itemAt, cons
 
 int AddRun(const ListPair& pair, int start, int count, HDLITEMAT itemAt, const void* context)
 {
-    const int first = pair.leader->cItems;
-    const int taken = AppendRun(pair, start, count, itemAt, context);
-    HLListSortAdded(pair.leader, first, pair.follower);
+    const int   first = pair.leader->cItems;
+    void* const before = pair.leader->pTail;
+    const int   taken = AppendRun(pair, start, count, itemAt, context);
+    HLListSortAdded(pair.leader, first, before, pair.follower);
     return taken;
 }
 

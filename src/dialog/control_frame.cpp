@@ -2,21 +2,12 @@
 #include "dialog/control_frame.h"
 
 #include "dialog/message_table.h"
+#include "dialog/record_bits.h"
 #include "foundation/memory.h"
 
 namespace {
 
 int gOverwriteMode;
-
-bool HasFlag(const ControlHeader* header, WORD bit)
-{
-    return (header->wFlags & bit) != 0;
-}
-
-void SetFlag(ControlHeader* header, WORD bit, bool on)
-{
-    header->wFlags = static_cast<WORD>(on ? header->wFlags | bit : header->wFlags & ~bit);
-}
 
 // Common messages
 

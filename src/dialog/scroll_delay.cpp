@@ -14,6 +14,12 @@ constexpr int   acrossNear = 10;
 constexpr int   acrossFar = 30;
 constexpr int   msecPerUnit = 10;
 
+// Below 96 dots an inch the roundings to pixels and back can lead a unit further out than the farthest distance.
+DWORD PauseAt(int distance, int farthest)
+{
+    return static_cast<DWORD>(std::max(farthest - distance, 0) * msecPerUnit);
+}
+
 } // namespace
 
 DWORD ScrollDelay(const RECT& client, POINT point, bool horizontal)
@@ -23,7 +29,7 @@ DWORD ScrollDelay(const RECT& client, POINT point, bool horizontal)
         if (dy > ScaleY(downFar)) {
             return 0;
         }
-        return dy < ScaleY(downNear) ? slowest : static_cast<DWORD>((downFar - UnscaleY(dy)) * msecPerUnit);
+        return dy < ScaleY(downNear) ? slowest : PauseAt(UnscaleY(dy), downFar);
     }
     if (!horizontal) {
         return 0;
@@ -33,5 +39,5 @@ DWORD ScrollDelay(const RECT& client, POINT point, bool horizontal)
     if (dx > ScaleX(acrossFar)) {
         return 0;
     }
-    return dx < ScaleX(acrossNear) ? slowest : static_cast<DWORD>((acrossFar - UnscaleX(dx)) * msecPerUnit);
+    return dx < ScaleX(acrossNear) ? slowest : PauseAt(UnscaleX(dx), acrossFar);
 }

@@ -30,7 +30,7 @@ bool IsSeeThrough(HWND sibling)
 BOOL CALLBACK ClipSibs(HWND hwnd, LPARAM data)
 {
     const SiblingClip* const clip = reinterpret_cast<const SiblingClip*>(data);
-    if (hwnd == clip->hwnd || !IsWindowVisible(hwnd) || IsSeeThrough(hwnd)) {
+    if (!clip || hwnd == clip->hwnd || !IsWindowVisible(hwnd) || IsSeeThrough(hwnd)) {
         return TRUE;
     }
     RECT sibling = {};

@@ -30,7 +30,7 @@ int HAReserve(HArray* array, uint64_t count, Growth* growth)
     }
     // Bounded: a count whose bytes cannot be told in a size fails here instead of wrapping.
     const uint64_t excess = count - array->cAlloc - 1;
-    const uint64_t room = array->cAlloc + growStep + excess - excess % growStep;
+    const uint64_t room = uint64_t{array->cAlloc} + growStep + excess - excess % growStep;
     if (room > UINT32_MAX || room > SIZE_MAX / array->cbItem) {
         return -1;
     }

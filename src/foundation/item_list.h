@@ -58,6 +58,7 @@ private:
 // HLListInsert of a node that exists already.
 int HLListInsertNode(HLList* list, int index, void* node);
 // Takes the nodes from index first on, which were appended to a sorted list, to the places where HLListAdd would have
-// put them one after the other, in n log n compares for any order of values. follower, a list of the same length or
-// null, has its nodes moved alike. pfnItem must give the item itself, not a copy, and never null.
-void HLListSortAdded(HLList* list, int first, HLList* follower);
+// put them one after the other, in n log n compares for any order of values, and in one compare each if all belong at
+// the end. before: the tail that they were appended to, null for none. follower, a list of the same length or null, has
+// its nodes moved alike. pfnItem must give the item itself, not a copy, and never null.
+void HLListSortAdded(HLList* list, int first, void* before, HLList* follower);

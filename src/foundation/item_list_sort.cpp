@@ -47,12 +47,10 @@ void FillEntries(const SortJob& job)
 // above all before it, so only the items that were inserted and the appended ones that were the highest so far are
 // sorted. An appended one that wasn't is bound to the tail that it found: a value behind a higher one, which an
 // unsorted list may have, or behind a not-a-number, which compares above everything and below nothing, itself included.
-// False if no item leaves the end of the list.
-bool BindEntries(SortJob* job, int first)
+void BindEntries(SortJob* job, int first)
 {
-    bool moves = false;
-    int  tail = none;
-    int  highest = none;
+    int tail = none;
+    int highest = none;
     for (int i = 0; i < job->list->cItems; i++) {
         const bool appended = i < first || tail == none || Order(*job, i, tail) > 0;
         const bool isHighest = appended && Order(*job, i, i) == 0 && (highest == none || Order(*job, i, highest) > 0);
@@ -64,9 +62,7 @@ bool BindEntries(SortJob* job, int first)
         }
         highest = isHighest ? i : highest;
         tail = appended ? i : tail;
-        moves = moves || !appended;
     }
-    return moves;
 }
 
 void StartRing(HLList* list)
@@ -119,6 +115,19 @@ void Relink(const SortJob& job)
     }
 }
 
+// Whether each node behind one is above the one in front of it, so that adding it leaves it where it is.
+bool AscendsBehind(HLList* list, void* node)
+{
+    while (node != list->pTail) {
+        void* const next = HNodeLink(node);
+        if (list->pfnCompare(list, list->pfnItem(list, next), node) <= 0) {
+            return false;
+        }
+        node = next;
+    }
+    return true;
+}
+
 // False without memory for the index.
 bool SortByIndex(HLList* list, int first, HLList* follower)
 {
@@ -129,12 +138,11 @@ bool SortByIndex(HLList* list, int first, HLList* follower)
     if (hasRoom) {
         SortJob job = { list, follower, entries, numbers, 0, none };
         FillEntries(job);
-        if (BindEntries(&job, first)) {
-            // Of equals, the one that was added later comes first.
-            HMergeSort(job.movable, numbers + count, job.movableCount,
-                       [&job](int earlier, int later) { return Order(job, later, earlier) <= 0; });
-            Relink(job);
-        }
+        BindEntries(&job, first);
+        // Of equals, the one that was added later comes first.
+        HMergeSort(job.movable, numbers + count, job.movableCount,
+                   [&job](int earlier, int later) { return Order(job, later, earlier) <= 0; });
+        Relink(job);
     }
     HBlockFree(numbers);
     HBlockFree(entries);
@@ -160,7 +168,7 @@ void* CutFrom(HLList* list, int first)
     return rest;
 }
 
-// The steps as they are, for want of memory.
+// The steps as they are, for a single item or for want of memory.
 void AddOneByOne(HLList* list, int first, HLList* follower)
 {
     void* node = CutFrom(list, first);
@@ -179,13 +187,17 @@ void AddOneByOne(HLList* list, int first, HLList* follower)
 
 } // namespace
 
-void HLListSortAdded(HLList* list, int first, HLList* follower)
+void HLListSortAdded(HLList* list, int first, void* before, HLList* follower)
 {
     const int count = HLListCount(list);
     if (first < 0 || first >= count || !(list->wFlags & HLL_SORTED)) {
         return;
     }
-    if (!SortByIndex(list, first, follower)) {
+    if (AscendsBehind(list, before ? before : list->pHead)) {
+        return;
+    }
+    const bool isSingle = first + 1 == count;
+    if (isSingle || !SortByIndex(list, first, follower)) {
         AddOneByOne(list, first, follower);
     }
 }

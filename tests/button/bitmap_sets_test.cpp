@@ -303,6 +303,26 @@ TEST(BitmapSetImageList, HasNoMaskWithoutAMaskColor)
     ImageList_Destroy(list);
 }
 
+int BitsPerPixel(HBITMAP bitmap)
+{
+    BITMAP info{};
+    GetObjectA(bitmap, sizeof info, &info);
+    return info.bmBitsPixel;
+}
+
+TEST(BitmapSetImageList, HasTheDepthOfTheBitmap)
+{
+    HBITMAP    bitmap = nullptr;
+    HIMAGELIST list = nullptr;
+    ASSERT_EQ(BitmapSetLoad(hInstance, &bitmap, strip100, imageUnits), 1);
+    ASSERT_EQ(BitmapSetImageList(hInstance, &list, strip100, imageUnits, maskColor), 1);
+    const OwnedObject<HBITMAP> owned(bitmap);
+    IMAGEINFO                  info{};
+    ASSERT_NE(ImageList_GetImageInfo(list, 0, &info), 0);
+    EXPECT_EQ(BitsPerPixel(info.hbmImage), BitsPerPixel(bitmap));
+    ImageList_Destroy(list);
+}
+
 TEST_F(BitmapSetTree, IsEmptyAfterAReset)
 {
     const AtDpi dpi(192);
@@ -317,6 +337,13 @@ TEST_F(BitmapSetTree, WritesASecondSetIntoTheRoot)
     const AtDpi dpi(192);
     EXPECT_TRUE(SamePixels(Resource(2004), Loaded(strip100, imageUnits)));
     EXPECT_EQ(Loaded(2002, 0).width, 14); // its own node stayed empty
+}
+
+TEST_F(BitmapSetTree, VariantThatDoesNotExistLeavesTheBitmapAtOneHundredPercent)
+{
+    BitmapSetRegister(hInstance, 2002, 9999, 0);
+    const AtDpi dpi(168);
+    EXPECT_TRUE(SamePixels(Stretched(2002, ScaleX(7), ScaleY(4)), Loaded(2002, 0)));
 }
 
 TEST_F(BitmapSetTree, FreesItsNodes)

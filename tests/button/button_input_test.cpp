@@ -28,6 +28,22 @@ TEST_F(ButtonInput, MouseDownPressesAndTakesFocusAndCapture)
     EXPECT_EQ(1, Clicks());
 }
 
+TEST_F(ButtonInput, WhatLiesBehindIsPaintedFirst)
+{
+    Make("x");
+    InvalidateRect(parent.hwnd(), nullptr, TRUE);
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    EXPECT_FALSE(GetUpdateRect(parent.hwnd(), nullptr, FALSE)) << "at a press";
+    Send(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    for (const DWORD style : { DWORD{ HBS_TRANSPARENT }, DWORD{ 0 } }) {
+        Make("x", style);
+        Focus();
+        InvalidateRect(parent.hwnd(), nullptr, TRUE);
+        Send(WM_KILLFOCUS);
+        EXPECT_EQ(!style, GetUpdateRect(parent.hwnd(), nullptr, FALSE) != 0) << "when a focus goes, " << style;
+    }
+}
+
 TEST_F(ButtonInput, EndOfAPressReleasesTheCaptureOfWhoeverHasIt)
 {
     Make("x");

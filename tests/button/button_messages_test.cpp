@@ -98,6 +98,33 @@ TEST_F(ButtonMessages, NoPictureIsTheDefaultOne)
     EXPECT_EQ(nullptr, Handle(0)) << "a push button has none";
 }
 
+TEST_F(ButtonMessages, NoPictureIsTheDefaultOneOfAThreeStateToo)
+{
+    Make("333;x;IM1", HBS_THREESTATE);
+    EXPECT_EQ(-1, SetPic(0, 0)) << "the last use of a picture of the strip";
+    EXPECT_NE(nullptr, Handle(0));
+    EXPECT_EQ(DWORD{ PIC_DIB }, Ctl()->pPics[0].nKind);
+}
+
+TEST_F(ButtonMessages, PictureThatOthersStillUseIsNotGivenBack)
+{
+    Make("333;x;HC1:HC1", HBS_CHECK);
+    const HANDLE shared = Handle(1);
+    Validate();
+    EXPECT_EQ(0, SetPic(0, 0, nullptr));
+    EXPECT_TRUE(IsInvalid());
+    EXPECT_EQ(DWORD{ OBJ_BITMAP }, GetObjectType(shared));
+}
+
+TEST_F(ButtonMessages, LeastCountOfStatesIsDoubledUnderUpDown)
+{
+    Make("333;x;IM1:IM2:IM3:IM4:IM1:IM2", HBS_CHECK | HBS_UPDOWN);
+    EXPECT_EQ(0, Send(HBM_SETPICCOUNT, 0));
+    EXPECT_EQ(4, Send(HBM_GETSTATECOUNT));
+    Make("1;x", HBS_PUSH | HBS_UPDOWN);
+    EXPECT_EQ(2, Send(HBM_GETSTATECOUNT));
+}
+
 TEST_F(ButtonMessages, MorePicturesAreEmptyOnes)
 {
     Make("333;x;IM1:IM2", HBS_CHECK);

@@ -170,6 +170,21 @@ TEST_F(ButtonSound, MessageSetsAResourceOrAFile)
     EXPECT_EQ(0, SendPtr(HBM_SETSOUND, 0, "no such sound"));
 }
 
+TEST_F(ButtonSound, ResourceComesBeforeAFile)
+{
+    Make("441;x;;buttest");
+    const HRSRC found = FindResourceA(GetModuleHandleA(nullptr), "TESTSOUND", MAKEINTRESOURCEA(400));
+    Send(HBM_SETSOUND, reinterpret_cast<WPARAM>(found));
+    EXPECT_STREQ("buttest.WAV", Ctl()->pszSound);
+    Send(HBM_CLICK);
+    ASSERT_EQ(1u, gPlayed.size());
+    EXPECT_NE(nullptr, gPlayed[0].memory);
+    Send(HBM_SETSOUND);
+    Send(HBM_CLICK);
+    ASSERT_EQ(2u, gPlayed.size());
+    EXPECT_EQ("buttest.WAV", gPlayed[1].file);
+}
+
 TEST_F(ButtonSound, PrefixCountsInAMessageTooButOnce)
 {
     Make("x");
@@ -209,6 +224,27 @@ TEST_F(ButtonSound, WithoutAPlayerButtonsAreSilent)
     EXPECT_EQ(1, Clicks());
     EXPECT_EQ(nullptr, reinterpret_cast<void*>(pfnPlaySound));
     EXPECT_TRUE(gPlayed.empty());
+}
+
+template <DWORD version>
+DWORD WINAPI VersionOf()
+{
+    return version;
+}
+
+TEST_F(ButtonSound, PlayerIsBoundFromVersion3Point10On)
+{
+    pfnPlaySound = nullptr;
+    {
+        const ImportHook hook("GetVersion", VersionOf<0x0903>);
+        Make("441;x;;buttest");
+        EXPECT_EQ(nullptr, Ctl()->pszSound);
+        EXPECT_EQ(nullptr, reinterpret_cast<void*>(pfnPlaySound));
+    }
+    const ImportHook hook("GetVersion", VersionOf<0x0A03>);
+    Make("441;x;;buttest");
+    EXPECT_STREQ("buttest.WAV", Ctl()->pszSound);
+    EXPECT_NE(nullptr, reinterpret_cast<void*>(pfnPlaySound));
 }
 
 TEST_F(ButtonSound, NamesThatAreTooLongAreNotFound)

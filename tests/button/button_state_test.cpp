@@ -172,6 +172,42 @@ TEST_F(ButtonState, ClickOfAPlainButtonOnlyTells)
     EXPECT_FALSE(IsPressed());
 }
 
+TEST_F(ButtonState, AutomaticClickTellsWhilePressedAndAPlainOneAfterTheRelease)
+{
+    for (const DWORD style : { DWORD{ HBS_CHECK | HBS_AUTO }, DWORD{ HBS_CHECK } }) {
+        bool pressed = false;
+        Make("x", style);
+        parent.On(HBN_CLICKED, [&] { pressed = IsPressed(); });
+        Send(HBM_CLICK);
+        EXPECT_EQ(1, Clicks());
+        EXPECT_EQ((style & HBS_AUTO) != 0, pressed);
+        EXPECT_FALSE(IsPressed());
+    }
+    parent.On(HBN_CLICKED, nullptr);
+}
+
+TEST_F(ButtonState, LinkHoldsTheNewValueWhenTheClickIsTold)
+{
+    WORD value = 0;
+    WORD told = 99;
+    Make("333w;x;IM1:IM2", HBS_CHECK | HBS_AUTO);
+    SendPtr(HBM_SETLINK, 0, &value);
+    parent.On(HBN_CLICKED, [&] { told = value; });
+    Send(HBM_CLICK);
+    EXPECT_EQ(1, told);
+    parent.On(HBN_CLICKED, nullptr);
+}
+
+TEST_F(ButtonState, ClickOfAnUpDownButtonStepsTheValueNotTheState)
+{
+    Make("333;x;IM1:IM2:IM3:IM4", HBS_CHECK | HBS_AUTO | HBS_UPDOWN);
+    for (const int expected : { 1, 0, 1 }) {
+        Send(HBM_CLICK);
+        EXPECT_EQ(expected, Value());
+        EXPECT_EQ(2 * expected, State());
+    }
+}
+
 TEST_F(ButtonState, PlatformsClickTellsNobody)
 {
     Make("x", HBS_CHECK | HBS_AUTO);
@@ -198,6 +234,10 @@ TEST_F(ButtonState, StyleReplacesTheKind)
     EXPECT_EQ(HBS_DEFPUSH, Send(HBM_GETKIND));
     EXPECT_FALSE(Ctl()->dwStyle & 0xF0);
     EXPECT_TRUE(IsInvalid());
+    Validate();
+    Send(BM_SETSTYLE, HBS_PUSH, 0);
+    EXPECT_EQ(HBS_PUSH, Send(HBM_GETKIND));
+    EXPECT_FALSE(IsInvalid()) << "repainted only if asked";
     Make("x", HBS_PUSH | HBS_NOFOCUS);
     EXPECT_EQ(0, Send(BM_SETSTYLE, HBS_DEFPUSH));
     EXPECT_EQ(HBS_PUSH, Send(HBM_GETKIND));
@@ -305,6 +345,15 @@ TEST_F(ButtonGroup, TabStopComesToTheOneThatIsSet)
     SetWindowLongA(button, GWL_STYLE, GetWindowLongA(button, GWL_STYLE) & ~WS_TABSTOP);
     Send(BM_SETCHECK, 1);
     EXPECT_TRUE(HasTabStop(button));
+}
+
+TEST_F(ButtonGroup, NoTabStopComesToAButtonThatWasMadeWithout)
+{
+    Radio("a", WS_GROUP);
+    Button(HBS_CHECK | HBS_AUTO);
+    Plain(WS_GROUP);
+    Send(BM_SETCHECK, 1);
+    EXPECT_FALSE(HasTabStop(button));
 }
 
 TEST_F(ButtonGroup, WalkEndsInAGroupThatTheButtonIsNoPartOf)

@@ -304,6 +304,16 @@ TEST_F(ButtonType, TypeTextReplacesAll)
     EXPECT_EQ(0, State()) << "a state that is no more isn't kept";
 }
 
+TEST_F(ButtonType, NewTextOfEitherKindRepaints)
+{
+    Make("441;Old");
+    for (const char* const text : { "plain", "345;New;IM1" }) {
+        Validate();
+        EXPECT_EQ(1, SendPtr(WM_SETTEXT, 0, text));
+        EXPECT_TRUE(IsInvalid()) << text;
+    }
+}
+
 TEST_F(ButtonType, CaptionMayBeSetFromItself)
 {
     Make("441;7own caption");

@@ -241,6 +241,16 @@ TEST(Draw3DBorder, AnyOtherKindDrawsNothingAndLeavesTheRectangleAlone)
     }
 }
 
+TEST(Draw3DBorder, WithoutARectangleDrawsNothing)
+{
+    Canvas canvas(9, 8);
+    canvas.Fill(paper);
+    for (int kind = 0; kind < 5; ++kind) {
+        Draw3DBorder(canvas.hdc(), nullptr, kind, 1);
+    }
+    EXPECT_TRUE(canvas.Shot().IsAll(paper, { 0, 0, 9, 8 }));
+}
+
 TEST(Draw3DBorder, FillsTheInsideOfTheInnermostFrame)
 {
     Canvas                    canvas(9, 8);

@@ -7,6 +7,7 @@
 #include "foundation/startup.h"
 #include "support/gdi_leaks.h"
 #include "support/guarded_memory.h"
+#include "support/import_hook.h"
 
 #include <gtest/gtest.h>
 
@@ -112,6 +113,21 @@ TEST_F(PictureCache, ResourceOfTrueColoursHasNoPalette)
     GetObjectA(pic.hImage, sizeof info, &info);
     EXPECT_EQ(4, info.bmWidth);
     EXPECT_EQ(2, info.bmHeight);
+    EXPECT_NE(0, FreePic(&pic, 0));
+}
+
+DWORD WINAPI OldVersion()
+{
+    return 0xC0000004;
+}
+
+TEST_F(PictureCache, ResourceIsThePlatformsBitmapOnSystemsBeforeNt)
+{
+    const ImportHook hook("GetVersion", OldVersion);
+    const Pic        pic = Load("HC2");
+    EXPECT_EQ(DWORD{ PIC_BITMAP }, pic.nKind);
+    EXPECT_EQ(nullptr, pic.hPalette);
+    EXPECT_EQ(DWORD{ OBJ_BITMAP }, GetObjectType(pic.hImage));
     EXPECT_NE(0, FreePic(&pic, 0));
 }
 

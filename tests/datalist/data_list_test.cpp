@@ -504,6 +504,27 @@ TEST_F(ListFormats, TellOfNegativeNumbers)
     EXPECT_EQ(1, negative);
 }
 
+TEST_F(ListFormats, MakeTheTextForEditingWhenAsked)
+{
+    const DataListPtr dl = ListOf(unsortedList, longPair, noPair, "0000");
+    Insert(dl, { Value(LONG{ 5 }), {} });
+    char out[32];
+    HDLFormatItem(dl.get(), 0, out, sizeof out, nullptr, 0);
+    EXPECT_STREQ("0005", out);
+    HDLFormatItem(dl.get(), 0, out, sizeof out, nullptr, 1);
+    EXPECT_STREQ("5", out);
+}
+
+TEST_F(ListFormats, CutATextAtTheSizeOfItsPlace)
+{
+    const DataListPtr dl = ListOf(unsortedList, datePair, noPair, "yyyy-mm-dd");
+    Insert(dl, { Value(LONG{ 20240229 }), {} });
+    char out[] = "0123456789";
+    HDLFormatItem(dl.get(), 0, out, 5, nullptr, 0);
+    EXPECT_STREQ("2024", out);
+    EXPECT_EQ('5', out[5]);
+}
+
 TEST_F(ListFormats, GiveAnEmptyTextWithoutTheItemOrForWhatHasNoText)
 {
     const DataListPtr dl = ListOf(unsortedList, Pair{ 'n', 'M' });

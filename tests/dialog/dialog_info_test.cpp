@@ -3,6 +3,7 @@
 
 #include "foundation/memory.h"
 #include "support/block_leaks.h"
+#include "support/import_hook.h"
 
 namespace {
 
@@ -123,6 +124,26 @@ TEST_F(ClearedDialog, HasNoChildren)
     EXPECT_EQ(TRUE, ClearDialog(parent.hwnd()));
     EXPECT_EQ(0, ChildCount());
     EXPECT_TRUE(IsWindow(parent.hwnd()));
+}
+
+int gDestroyed;
+
+BOOL WINAPI DestroyNothing(HWND)
+{
+    ++gDestroyed;
+    return FALSE;
+}
+
+TEST_F(ClearedDialog, KeepsWhatStandsBehindAChildThatCanNotBeDestroyed)
+{
+    Fill();
+    gDestroyed = 0;
+    {
+        const ImportHook hook("DestroyWindow", DestroyNothing);
+        EXPECT_EQ(FALSE, ClearDialog(parent.hwnd()));
+    }
+    EXPECT_EQ(1, gDestroyed);
+    EXPECT_EQ(6, ChildCount());
 }
 
 TEST_F(ClearedDialog, IsErasedAndPaintedAtOnceAfterRedrawIsOnAgain)

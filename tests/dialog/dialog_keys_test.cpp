@@ -303,6 +303,27 @@ TEST_F(TabDialog, MoveIntoThePageGivesThePageTheFocusFirst)
               gNotes);
 }
 
+TEST_F(TabDialog, TabIsOfferedToTheDirectChildOfThePageAlone)
+{
+    const HWND outer = Add(page, "STATIC", "", 105, WS_TABSTOP);
+    const HWND inner = Add(outer, "Coded", "", 106);
+    FillPage();
+    gCodes.code = DLGC_WANTTAB;
+    SetFocus(inner);
+    NoteDialogs();
+    EXPECT_EQ(1, Pass(inner, WM_KEYDOWN, VK_TAB));
+    EXPECT_EQ((std::vector<Note>{ { page, WM_NEXTDLGCTL, 0, 0 } }), gNotes);
+    EXPECT_EQ(0, gCodes.tabs);
+}
+
+TEST_F(TabDialog, TabOfThePageItselfStaysInThePage)
+{
+    FillPage();
+    SetFocus(OnPage(103));
+    EXPECT_EQ(1, Pass(page, WM_KEYDOWN, VK_TAB));
+    EXPECT_EQ(101, FocusId());
+}
+
 TEST_F(TabDialog, WithoutAPageIsAnOrdinaryDialog)
 {
     FillPage();

@@ -158,6 +158,20 @@ TEST(DialogTemplate, ReadsANumberInPlaceOfAMenuAsAText)
     EXPECT_EQ(Wide("U"), longer.title);
 }
 
+TEST(DialogTemplate, ReadsANumberInPlaceOfTheClassAsAText)
+{
+    TestTemplate from;
+    from.className = { 0xFFFF, 7 };
+    from.title = Wide("T");
+    Bytes bytes = BytesOf(from);
+    bytes.erase(bytes.begin() + 24, bytes.begin() + 26); // the end that a number doesn't have
+    EXPECT_FALSE(Template(bytes).read) << "the title is the end of the class";
+    bytes.insert(bytes.end(), { 'U', 0, 0, 0 });
+    const Template longer(bytes);
+    ASSERT_TRUE(longer.read);
+    EXPECT_EQ(Wide("U"), longer.title);
+}
+
 TEST(DialogTemplate, TellsEachItem)
 {
     const Template read(Several());

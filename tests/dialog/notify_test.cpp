@@ -77,6 +77,17 @@ TEST_F(NotifyTest, NotifyParentNeedsNoRecord)
     EXPECT_SEEN(expected);
 }
 
+TEST_F(NotifyTest, NotifyParentGivesTheAnswerOfTheParent)
+{
+    const HWND owner = CreateWithRecord();
+    const HWND hwnd = CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 5, 5, owner, nullptr, nullptr, nullptr);
+    handler = [](UINT message, WPARAM, LPARAM, int* pDefault) -> LRESULT {
+        *pDefault = message != WM_COMMAND;
+        return 77;
+    };
+    EXPECT_EQ(77, NotifyParent(hwnd, 9));
+}
+
 struct ColorRow {
     int  kind;
     UINT message;

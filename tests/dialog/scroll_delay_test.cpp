@@ -68,4 +68,16 @@ TEST(ScrollDelay, MeasuresInDesignUnits)
     EXPECT_EQ(150u, ScrollDelay(client, { 330, 50 }, true));
 }
 
+TEST(ScrollDelay, IsNeverBelowZeroWhereRoundingLeadsFurtherOut)
+{
+    {
+        const ScreenResolution screen(90);
+        ASSERT_EQ(41, UnscaleY(ScaleY(40)));
+        EXPECT_EQ(0u, ScrollDelay(client, { 10, 138 }, false));
+    }
+    const ScreenResolution screen(72);
+    ASSERT_EQ(31, UnscaleX(ScaleX(30)));
+    EXPECT_EQ(0u, ScrollDelay(client, { 323, 50 }, true));
+}
+
 } // namespace

@@ -65,6 +65,25 @@ TEST_F(SiblingClip, SkipsStaticsAndButtonsThatHaveAStyle)
     }
 }
 
+TEST_F(SiblingClip, TakesOtherClassesOutThatBeginAlike)
+{
+    RegisterControl(0, StyledProc, 0, 0, GetModuleHandleA(nullptr), nullptr, nullptr, nullptr, nullptr, "HButton");
+    SetWindowLongPtrA(Sibling("HButton", { 100, 100, 20, 20 }), GWLP_USERDATA, 1);
+    EXPECT_FALSE(IsDrawn(55, 55));
+    DestroyWindow(parent.hwnd());
+    UnregisterClassA("HButton", GetModuleHandleA(nullptr));
+}
+
+TEST_F(SiblingClip, TakesTheVisibleChildrenOfTheWindowOutToo)
+{
+    const HWND child =
+        CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 50, 50, 20, 20, drawing_, nullptr, nullptr, nullptr);
+    EXPECT_FALSE(IsDrawn(55, 55));
+    EXPECT_TRUE(IsDrawn(75, 55));
+    ShowWindow(child, SW_HIDE);
+    EXPECT_TRUE(IsDrawn(55, 55));
+}
+
 TEST_F(SiblingClip, AlwaysGoesOn)
 {
     struct {
@@ -73,7 +92,9 @@ TEST_F(SiblingClip, AlwaysGoesOn)
         RECT screen;
     } data = { nullptr, drawing_, {} };
     EXPECT_EQ(TRUE, ClipSibs(drawing_, reinterpret_cast<LPARAM>(&data)));
-    EXPECT_EQ(TRUE, ClipSibs(Sibling("STATIC", { 0, 0, 5, 5 }), reinterpret_cast<LPARAM>(&data)));
+    const HWND sibling = Sibling("STATIC", { 0, 0, 5, 5 });
+    EXPECT_EQ(TRUE, ClipSibs(sibling, reinterpret_cast<LPARAM>(&data)));
+    EXPECT_EQ(TRUE, ClipSibs(sibling, 0)) << "without a window that draws";
 }
 
 } // namespace

@@ -1,12 +1,33 @@
 // The loop of a drag outside a control.
 #include "dialog/test_control.h"
 
+#include "support/import_hook.h"
 #include "support/screen_resolution.h"
 
 namespace {
 
+constexpr int controlWidth = 400;
 constexpr int controlHeight = 200;
 constexpr int runaway = 5000; // moves after which a loop that doesn't end is stopped
+
+// What follows from a message that takes long.
+void LetPass(DWORD milliseconds)
+{
+    for (const DWORD start = GetTickCount(); GetTickCount() - start < milliseconds;) {
+    }
+}
+
+DWORD WINAPI OldVersion()
+{
+    return 0xC0000004;
+}
+
+struct Parameters {
+    WPARAM wParam;
+    LPARAM lParam;
+
+    bool operator==(const Parameters&) const = default;
+};
 
 struct Move {
     DWORD  time;
@@ -25,7 +46,10 @@ protected:
                          wParam,
                          { static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)) } });
             }
-            ups_ += message == WM_LBUTTONUP || message == WM_RBUTTONUP;
+            if (message == WM_LBUTTONUP || message == WM_RBUTTONUP) {
+                ++ups_;
+                lastUp_ = { wParam, lParam };
+            }
             *pDefault = 1;
             return 0;
         };
@@ -62,6 +86,7 @@ protected:
     HWND                   control_;
     std::vector<Move>      moves_;
     int                    ups_ = 0;
+    Parameters             lastUp_ = {};
     int                    endAt_ = 1;
     std::function<void()>  onEnd_ = [this] { PostMessageA(control_, WM_LBUTTONUP, 0, 0); };
     const ScreenResolution screen_{ 96 };
@@ -90,6 +115,60 @@ TEST_F(TimedScrollTest, At45PixelsBelowMovesWithoutPause)
     EXPECT_LT(Duration(), 5 * 50u) << "five ticks of the clock";
 }
 
+TEST_F(TimedScrollTest, At15PixelsBesideMovesEvery150MillisecondsIfItScrollsAcross)
+{
+    DragAt(controlWidth + 15, 20, 4, 1);
+    EXPECT_GE(ShortestPause(), 150u);
+    EXPECT_LT(ShortestPause(), 200u);
+    DragAt(controlWidth + 15, 20, 6, 0);
+    EXPECT_LT(Duration(), 5 * 50u) << "and without a pause if it doesn't";
+}
+
+TEST_F(TimedScrollTest, KeepsItsPaceWhenTheControlGrowsUnderThePointer)
+{
+    const auto inner = handler;
+    handler = [&](UINT message, WPARAM wParam, LPARAM lParam, int* pDefault) {
+        if (message == WM_MOUSEMOVE && moves_.size() == 1) {
+            SetWindowPos(control_, nullptr, 0, 0, controlWidth, 2 * controlHeight, SWP_NOMOVE | SWP_NOZORDER);
+        }
+        return inner(message, wParam, lParam, pDefault);
+    };
+    DragAt(20, controlHeight + 25, 4);
+    EXPECT_GE(ShortestPause(), 150u);
+}
+
+TEST_F(TimedScrollTest, DoesNothingOnSystemsBeforeNt)
+{
+    const ImportHook hook("GetVersion", OldVersion);
+    DragAt(20, controlHeight + 45, 1);
+    EXPECT_EQ(0u, moves_.size());
+}
+
+TEST_F(TimedScrollTest, MovesAgainBetweenMessagesThatTakeLong)
+{
+    int        users = 0;
+    int        usersBeforeTheSecond = 0;
+    const auto inner = handler;
+    handler = [&](UINT message, WPARAM wParam, LPARAM lParam, int* pDefault) {
+        if (message == WM_USER) {
+            LetPass(250);
+            if (++users < 2) {
+                PostMessageA(control_, WM_USER, 0, 0);
+            }
+        }
+        usersBeforeTheSecond = message == WM_MOUSEMOVE && moves_.size() == 1 ? users : usersBeforeTheSecond;
+        return inner(message, wParam, lParam, pDefault);
+    };
+    MoveMouse(control_, 20, controlHeight + 45);
+    moves_.clear();
+    PostMessageA(control_, WM_USER, 0, 0);
+    endAt_ = 2;
+    TimedScroll(&record, 0);
+    EXPECT_EQ(1, usersBeforeTheSecond);
+    PumpPending();
+    EXPECT_EQ(2, users);
+}
+
 TEST_F(TimedScrollTest, TellsThePointerInClientCoordinates)
 {
     DragAt(-7, -45, 1);
@@ -99,21 +178,30 @@ TEST_F(TimedScrollTest, TellsThePointerInClientCoordinates)
     EXPECT_EQ(0u, moves_[0].keys);
 }
 
+struct KeyRow {
+    int    vk;
+    WPARAM bit;
+};
+
 TEST_F(TimedScrollTest, TellsTheFirstKeyThatIsDown)
 {
-    BYTE keys[256] = {};
-    BYTE old[256] = {};
+    constexpr KeyRow rows[] = { { VK_LBUTTON, 1 }, { VK_RBUTTON, 2 }, { VK_MBUTTON, 16 },
+                                { VK_CONTROL, 8 }, { VK_SHIFT, 4 },   { 0, 0 } };
+    BYTE             old[256] = {};
     GetKeyboardState(old);
-    keys[VK_SHIFT] = 0x80;
-    keys[VK_CONTROL] = 0x80;
-    SetKeyboardState(keys);
     MoveMouse(control_, 10, controlHeight + 45);
-    SetKeyboardState(keys);
-    moves_.clear();
-    TimedScroll(&record, 0);
+    for (size_t first = 0; first < std::size(rows); ++first) {
+        BYTE keys[256] = {};
+        for (size_t i = first; i < std::size(rows) && rows[i].vk; ++i) {
+            keys[rows[i].vk] = 0x80;
+        }
+        moves_.clear();
+        SetKeyboardState(keys);
+        TimedScroll(&record, 0);
+        ASSERT_FALSE(moves_.empty());
+        EXPECT_EQ(rows[first].bit, moves_[0].keys) << "key " << rows[first].vk << " and those behind it";
+    }
     SetKeyboardState(old);
-    ASSERT_FALSE(moves_.empty());
-    EXPECT_EQ(static_cast<WPARAM>(MK_CONTROL), moves_[0].keys);
 }
 
 TEST_F(TimedScrollTest, HandsTheButtonUpOnAndEnds)
@@ -129,6 +217,19 @@ TEST_F(TimedScrollTest, EndsAtTheRightButtonToo)
     onEnd_ = [this] { PostMessageA(control_, WM_RBUTTONUP, 0, 0); };
     DragAt(20, controlHeight + 45, 1);
     EXPECT_EQ(1, ups_);
+}
+
+TEST_F(TimedScrollTest, HandsTheButtonUpOfAnotherWindowToThatWindow)
+{
+    Parameters got = {};
+    parent.OnMessage(WM_LBUTTONUP, [&](WPARAM wParam, LPARAM lParam) {
+        got = { wParam, lParam };
+        return 0;
+    });
+    onEnd_ = [this] { PostMessageA(parent.hwnd(), WM_LBUTTONUP, MK_CONTROL, MAKELPARAM(3, 4)); };
+    DragAt(20, controlHeight + 45, 1);
+    EXPECT_EQ((Parameters{ MK_CONTROL, MAKELPARAM(3, 4) }), got);
+    EXPECT_EQ(0, ups_);
 }
 
 TEST_F(TimedScrollTest, DropsRealMovesAndDispatchesTheRest)
@@ -160,6 +261,7 @@ TEST_F(TimedScrollTest, ACancelEndsItWithAPostedButtonUp)
     EXPECT_EQ(0, ups_) << "the message is posted, not sent";
     PumpPending();
     EXPECT_EQ(1, ups_);
+    EXPECT_EQ((Parameters{ 0, MAKELPARAM(20, controlHeight + 45) }), lastUp_);
 }
 
 TEST_F(TimedScrollTest, EndsWithTheWindow)

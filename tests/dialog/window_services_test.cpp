@@ -1,6 +1,8 @@
 // What a control asks about the window that it lives in.
 #include "dialog/test_control.h"
 
+#include "foundation/gdi_guards.h"
+
 namespace {
 
 class WindowServices : public TestControl {};
@@ -94,6 +96,20 @@ TEST_F(WindowServices, UpdateTopPaintsTheTopWindow)
     InvalidateRect(parent.hwnd(), nullptr, FALSE);
     HUpdateTop(child);
     EXPECT_EQ(1, painted);
+}
+
+LONG WidthOf(HDC hdc, UINT format)
+{
+    RECT rect = {};
+    DrawTextA(hdc, "a\tb", -1, &rect, DT_CALCRECT | DT_SINGLELINE | format);
+    return rect.right;
+}
+
+TEST(HMeasureLines, ExpandsTabs)
+{
+    const WindowDC screen(nullptr);
+    ASSERT_GT(WidthOf(screen.hdc, DT_EXPANDTABS), WidthOf(screen.hdc, 0));
+    EXPECT_EQ(WidthOf(screen.hdc, DT_EXPANDTABS), LOWORD(HMeasureLines(screen.hdc, "a\tb")));
 }
 
 TEST_F(WindowServices, AllEditControlsFollowTheOverwriteMode)

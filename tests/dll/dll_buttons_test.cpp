@@ -137,4 +137,14 @@ TEST(DllPictures, ComeFromTheLibraryWhereTheHostHasNone)
     EXPECT_EQ(0, LoadPic(&pic, GetModuleHandleA(nullptr), "no such picture"));
 }
 
+TEST(DllPictures, AreIconsOfTheLibraryToo)
+{
+    Pic pic = {};
+    ASSERT_EQ(nullptr, FindResourceA(nullptr, "#3000", MAKEINTRESOURCEA(14)))
+        << "the program has none"; // RT_GROUP_ICON
+    ASSERT_EQ(1, LoadPic(&pic, GetModuleHandleA(nullptr), "#3000"));
+    EXPECT_EQ(DWORD{ PIC_ICON }, pic.nKind);
+    EXPECT_NE(0, FreePic(&pic, 0));
+}
+
 } // namespace

@@ -63,7 +63,7 @@ TEST(DllStart, HasRunWhenTheHostCallsIt)
 
 TEST(DllStart, RegistersItsClassesForTheWholeProcess)
 {
-    for (const char* name : { "HButt", "HEdit_SS", "HEdit", "HGrid" }) {
+    for (const char* name : { "HButt", "HEdit_SS", "HEdit", "HList", "HComb", "HDrop", "HGrid" }) {
         WNDCLASSA info = {};
         EXPECT_NE(0, GetClassInfoA(GetModuleHandleA(nullptr), name, &info)) << name;
     }

@@ -66,6 +66,18 @@ TEST(Dll, NeedsOnlyLibrariesThatEveryWindowsHas)
     }
 }
 
+TEST(Dll, AsksForFunctionsThatNotEveryWindowsHasAtRunTime)
+{
+    const PeFile dll(WIDGETS_DLL_PATH);
+    ASSERT_TRUE(dll.IsValid());
+    const Names imported = dll.ImportedNames("USER32.dll");
+    EXPECT_TRUE(std::ranges::find(imported, "CreateWindowExA") != imported.end());
+    for (const std::string& name : imported) {
+        EXPECT_EQ(std::string::npos, name.find("Monitor")) << name;
+        EXPECT_FALSE(name.starts_with("EnumDisplay")) << name;
+    }
+}
+
 // The calls of these tests stand in this program's own import table.
 TEST(Dll, EachExportIsUsedByATestOfThisProgram)
 {

@@ -126,6 +126,19 @@ TEST_F(HandleArray, SetFarBehindTheEndLeavesZerosBetween)
     EXPECT_EQ(7, At(100));
 }
 
+TEST_F(HandleArray, SetFarBehindPoppedElementsLeavesTheirBytes)
+{
+    Make();
+    Push(1);
+    Push(2);
+    Push(3);
+    HAPop(array);
+    HAPop(array);
+    const int value = 7;
+    EXPECT_EQ(0, HASet(array, 4, &value));
+    EXPECT_EQ((Ints{ 1, 2, 3, 0, 7 }), All());
+}
+
 TEST_F(HandleArray, SetInsideKeepsTheCount)
 {
     Make();
@@ -157,6 +170,17 @@ TEST_F(HandleArray, RoomOfMoreBytesThanThereAreFails)
     HArray local;
     EXPECT_EQ(-1, HAInit(&local, 0xFFFFFFFF, 0xFFFFFFFF, 0, 0));
     EXPECT_EQ(nullptr, local.pItems);
+}
+
+TEST_F(HandleArray, RoomBeyondTheHighestCountFails)
+{
+    Make(32);
+    Push(5);
+    array->cAlloc = 0xFFFFFFE0; // as if so many had been stored
+    EXPECT_EQ(-1, HASet(array, 0xFFFFFFE0, nullptr));
+    EXPECT_EQ(0xFFFFFFE0, array->cAlloc);
+    array->cAlloc = 32;
+    EXPECT_EQ((Ints{ 5 }), All());
 }
 
 TEST_F(HandleArray, InsertOpensAGap)
@@ -227,6 +251,13 @@ TEST_F(HandleArray, PopGivesTheLastElementAndTakesItOff)
     EXPECT_EQ(nullptr, HAPopRef(array));
 }
 
+TEST_F(HandleArray, PushOfNothingAddsNothing)
+{
+    Make(32);
+    EXPECT_EQ(nullptr, HAPush(array, nullptr));
+    EXPECT_EQ(0u, array->cUsed);
+}
+
 TEST_F(HandleArray, GetCopiesAnElementInUseOnly)
 {
     Make(32);
@@ -267,6 +298,28 @@ TEST_F(HandleArray, NothingIsEmptiedAndFreedWithoutAnArray)
 {
     EXPECT_EQ(0, HAEmpty(nullptr));
     EXPECT_EQ(0, HAFree(nullptr));
+}
+
+TEST_F(HandleArray, WithoutAnArrayEverythingFails)
+{
+    int value = 7;
+    EXPECT_EQ(-1, HAInit(nullptr, sizeof value, 0, 0, 0));
+    EXPECT_EQ(-1, HAGet(nullptr, 0, &value));
+    EXPECT_EQ(nullptr, HAGetPtr(nullptr, 0));
+    EXPECT_EQ(-1, HASet(nullptr, 0, &value));
+    EXPECT_EQ(-1, HAInsert(nullptr, 0, &value));
+    EXPECT_EQ(nullptr, HAPush(nullptr, &value));
+    EXPECT_EQ(nullptr, HAPop(nullptr));
+    EXPECT_EQ(nullptr, HAPopRef(nullptr));
+    EXPECT_EQ(-1, HARemove(nullptr, 0));
+    EXPECT_EQ(7, value);
+}
+
+TEST_F(HandleArray, SharedRecordsAreSharedBlocksToo)
+{
+    Make(0, 0, 1);
+    EXPECT_EQ(8256u, LastBlockFlags());
+    EXPECT_EQ(sizeof(HArray), LastBlockSize());
 }
 
 TEST_F(HandleArray, SharedArraysAskForSharedBlocks)

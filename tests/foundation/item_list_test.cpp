@@ -49,6 +49,31 @@ int CALLBACK FreeOfAnEmptyList(HLList* list, void* node)
     return gFreeNode(list, node);
 }
 
+// One callback of each kind, told apart from the defaults by their addresses alone.
+void* CALLBACK NoNode(HLList*, const void*)
+{
+    return nullptr;
+}
+
+int CALLBACK KeepNode(HLList*, void*)
+{
+    return 0;
+}
+
+HLList* CreateWithOwnCallbacks()
+{
+    return HLListCreate(8, NoNode, CountedCompare, CompareInts, KeepNode, CountedItem, 0);
+}
+
+void ExpectOwnCallbacks(const HLList* list)
+{
+    EXPECT_EQ(&NoNode, list->pfnAlloc);
+    EXPECT_EQ(&CountedCompare, list->pfnCompare);
+    EXPECT_EQ(&CompareInts, list->pfnDataCompare);
+    EXPECT_EQ(&KeepNode, list->pfnFree);
+    EXPECT_EQ(&CountedItem, list->pfnItem);
+}
+
 class ItemList : public testing::Test {
 protected:
     void SetUp() override
@@ -126,6 +151,12 @@ TEST_F(ItemList, IsCreatedEmptyWithDefaultsForNullCallbacks)
     EXPECT_NE(nullptr, list->pfnItem);
     EXPECT_EQ(nullptr, list->pfnDataCompare);
     ExpectRing();
+}
+
+TEST_F(ItemList, KeepsEachCallbackThatItIsGiven)
+{
+    list = CreateWithOwnCallbacks();
+    ExpectOwnCallbacks(list);
 }
 
 TEST_F(ItemList, TakesOnlyTheLowestBitOfSorted)
@@ -247,6 +278,13 @@ TEST_F(ItemList, InsertWithoutMemoryIsMinusOneEverywhere)
     }
     FailAllocation(0);
     EXPECT_EQ((Texts{ "a", "b" }), All());
+}
+
+TEST_F(ItemList, TakesNothingWithoutAList)
+{
+    EXPECT_EQ(-1, HLListAdd(nullptr, "a"));
+    EXPECT_EQ(-1, HLListAppend(nullptr, "a"));
+    EXPECT_EQ(-1, HLListInsert(nullptr, 0, "a"));
 }
 
 TEST_F(ItemList, LookupOfTheLastOfNoneGivesNothingAndAnIndexBelow)
@@ -523,6 +561,15 @@ TEST_F(ItemList, DupHasTheSameSettingsAndItems)
     EXPECT_EQ((Texts{ "a", "b" }), All());
     EXPECT_NE(original->pHead, list->pHead);
     HLListDestroy(original);
+}
+
+TEST_F(ItemList, DupHasTheSameCallbacks)
+{
+    list = CreateWithOwnCallbacks();
+    HLList* const copy = HLListDup(list);
+    ASSERT_NE(nullptr, copy);
+    ExpectOwnCallbacks(copy);
+    HLListDestroy(copy);
 }
 
 TEST_F(ItemList, EmptyFreesEveryNode)

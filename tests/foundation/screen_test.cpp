@@ -135,6 +135,7 @@ TEST(Screen, EveryConversionAsksFirst)
         [] { DpiPercent(); },
         [] { ScreenWidthUnits(); },
         [] { ScreenHeightUnits(); },
+        [] { ScreenFits(1, 1); },
     };
     for (size_t i = 0; i < std::size(conversions); ++i) {
         DpiReset();
@@ -146,6 +147,9 @@ TEST(Screen, EveryConversionAsksFirst)
     EXPECT_EQ(1, fDpiRead);
     DpiReset();
     ScaleRect(&rect);
+    EXPECT_EQ(1, fDpiRead);
+    DpiReset();
+    UnscaleRect(&rect);
     EXPECT_EQ(1, fDpiRead);
 }
 

@@ -95,6 +95,7 @@ struct ClassRow {
     const char* name;
     UINT        style;
     WNDPROC     wndProc;
+    int         extraWords; // of the size of a pointer
     HCURSOR     cursor;
     bool        hasIcon;
     INT_PTR     background;
@@ -102,17 +103,23 @@ struct ClassRow {
 
 TEST(WidgetsInit, RegistersTheClassesForTheWholeProcess)
 {
+    // clang-format off
     const ClassRow rows[] = {
-        { "HEdit_SS", 0x400B, HEditWnd, hCurIBeam, false, 0 },
-        { "HEdit", 0x400B, HEditWnd, hCurIBeam, false, 0 },
-        { "HGrid", 0x4008, HGridWnd, hCurGrid, true, 6 },
+        { "HButt",    0x408B, HButtWnd, 2, hCurArrow, false, 6 },
+        { "HEdit_SS", 0x400B, HEditWnd, 1, hCurIBeam, false, 0 },
+        { "HEdit",    0x400B, HEditWnd, 1, hCurIBeam, false, 0 },
+        { "HList",    0x400B, HListWnd, 1, nullptr,   false, 0 },
+        { "HComb",    0x4003, HCombWnd, 2, hCurArrow, false, 6 },
+        { "HDrop",    0x480B, HDropWnd, 2, nullptr,   false, 0 },
+        { "HGrid",    0x4008, HGridWnd, 1, hCurGrid,  true,  6 },
     };
+    // clang-format on
     for (const ClassRow& row : rows) {
         WNDCLASSA info = {};
         ASSERT_NE(0, GetClassInfoA(hInstance, row.name, &info)) << row.name;
         EXPECT_EQ(row.style, info.style) << row.name;
         EXPECT_EQ(row.wndProc, info.lpfnWndProc) << row.name;
-        EXPECT_EQ(static_cast<int>(sizeof(LONG_PTR)), info.cbWndExtra) << row.name;
+        EXPECT_EQ(row.extraWords * static_cast<int>(sizeof(LONG_PTR)), info.cbWndExtra) << row.name;
         EXPECT_EQ(0, info.cbClsExtra) << row.name;
         EXPECT_EQ(row.cursor, info.hCursor) << row.name;
         EXPECT_EQ(row.hasIcon, info.hIcon != nullptr) << row.name;
@@ -123,6 +130,14 @@ TEST(WidgetsInit, RegistersTheClassesForTheWholeProcess)
 TEST(WidgetsInit, KeepsTheCursorOfTheGrid)
 {
     EXPECT_NE(nullptr, hCurGrid);
+    EXPECT_EQ(LoadCursorA(hInstance, MAKEINTRESOURCEA(4301)), hCurGrid);
+}
+
+TEST(WidgetsInit, GivesTheGridItsIcon)
+{
+    WNDCLASSA info = {};
+    ASSERT_NE(0, GetClassInfoA(hInstance, "HGrid", &info));
+    EXPECT_EQ(LoadIconA(hInstance, MAKEINTRESOURCEA(3000)), info.hIcon);
 }
 
 TEST(RegisterControl, TakesTheFieldsInTheOrderOfTheStructure)

@@ -119,6 +119,15 @@ TEST_F(FileStream, WithoutMemoryLeavesTheFileAlone)
     EXPECT_EQ(BytesFrom("abc"), Contents());
 }
 
+TEST_F(FileStream, HasNoSizeToBeWrittenIntoAnother)
+{
+    Make(BytesFrom("abc"));
+    const StreamPtr file(SOpenFile(name));
+    HostStream      host;
+    EXPECT_EQ(-1, SWriteStream(host.Get(), file.get()));
+    EXPECT_EQ((Bytes{ 0xFF, 0xFF }), host.bytes) << "the mark of no stream";
+}
+
 TEST_F(FileStream, IsFoundWithItsPath)
 {
     Make({ 1 });

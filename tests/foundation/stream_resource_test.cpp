@@ -42,6 +42,13 @@ TEST_F(ResourceStream, EndsWhereTheResourceEnds)
     EXPECT_EQ(0, SRead(stream.get(), bytes.data(), 1));
 }
 
+TEST_F(ResourceStream, IsWrittenIntoAnotherAsAnEmptyOne)
+{
+    HostStream host;
+    EXPECT_EQ(-1, SWriteStream(host.Get(), stream.get()));
+    EXPECT_EQ((Bytes{ 0, 0 }), host.bytes);
+}
+
 TEST_F(ResourceStream, IsNullUnderAnotherNameTypeOrModule)
 {
     EXPECT_EQ(nullptr, SOpenRes(module, nullptr, type));

@@ -153,6 +153,13 @@ TEST_F(StreamInStream, IsWrittenAsItsLengthAndPiecesOf256Bytes)
     EXPECT_EQ(600, SSeekRel(src.get(), 0)) << "the source stands at its end";
 }
 
+TEST_F(StreamInStream, OfManyBytesIsWrittenByTheLow16BitsOfItsSize)
+{
+    const StreamPtr src = StreamOf(Bytes(0x10003, 7));
+    EXPECT_EQ(0, SWriteStream(host.Get(), src.get()));
+    EXPECT_EQ((Bytes{ 3, 0, 7, 7, 7 }), host.bytes);
+}
+
 TEST_F(StreamInStream, IsReadIntoAMemoryStreamOfItsOwn)
 {
     host.bytes = { 3, 0, 'a', 'b', 'c', 'd' };
