@@ -2,8 +2,10 @@
 
 if(WIDGETS_CONFIG STREQUAL native-asan)
     add_test(NAME ${WIDGETS_CONFIG}.include_layers COMMAND ${PROJECT_SOURCE_DIR}/tools/check_layers.sh)
-    # Files that scripts have written are what the scripts write.
     find_program(WIDGETS_PYTHON python3 REQUIRED)
+    add_test(NAME ${WIDGETS_CONFIG}.edge_cases COMMAND ${WIDGETS_PYTHON} tools/check_edge_cases.py
+        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+    # Files that scripts have written are what the scripts write.
     add_test(NAME ${WIDGETS_CONFIG}.reference
         COMMAND ${WIDGETS_PYTHON} tools/make_reference.py --check include/widgets/widgets.h docs/reference.md
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})

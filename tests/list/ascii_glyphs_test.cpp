@@ -98,10 +98,10 @@ TEST_F(AsciiGlyphsTest, LinesFromTheRightAreLeftToThePlatform)
     EXPECT_TRUE(Draw("text"));
 }
 
-class ListRepaint : public ListWindow {};
+class ListGlyphs : public ListWindow {};
 
 // One row is too few for glyphs to be looked up.
-TEST_F(ListRepaint, ManyRowsShowWhatEachShowsAlone)
+TEST_F(ListGlyphs, ManyRowsShowWhatEachShowsAlone)
 {
     Make("%ss", HLS_NOSCROLL, 200, 400);
     for (int i = 0; i < 20; ++i) {
@@ -121,7 +121,7 @@ TEST_F(ListRepaint, ManyRowsShowWhatEachShowsAlone)
     EXPECT_FALSE(once.IsAll(GetSysColor(COLOR_WINDOW), once.Bounds()));
 }
 
-TEST_F(ListRepaint, AsksTheParentForItsBrushOnce)
+TEST_F(ListGlyphs, AsksTheParentForItsBrushOnce)
 {
     Make("%ss", HLS_NOSCROLL, 200, 100);
     Add({ "one", "two" });
