@@ -4,6 +4,7 @@
 
 #include "griddata/item_buffer.h"
 
+#include <algorithm>
 #include <cstring>
 
 HWND gUnstored;
@@ -77,6 +78,14 @@ LRESULT LoadCodeText(HWND editor, const HGField* field, const void* code)
     return SendMessageA(editor, HEM_SETDATA, 0, reinterpret_cast<LPARAM>(item));
 }
 
+// A block for what the editor gives, zeroed. Bounded: a control gives all bytes of its own type, which may be longer than
+// the column's values where these are of the second pair.
+char* NewValueBuffer(const HGField* field)
+{
+    constexpr size_t longestFixedType = 36;
+    return static_cast<char*>(HBlockAlloc(std::max(static_cast<size_t>(field->cbSize), longestFixedType) + 1));
+}
+
 // Fills buffer from the editor; false if the editor reports the null value.
 bool ReadValue(HWND editor, const HGField* field, char* buffer)
 {
@@ -95,7 +104,7 @@ bool StillHolds(HGridCtl* ctl, HWND editor, const char* value)
 {
     const HGField* const field = ctl->hEditor == editor ? EditedField(ctl) : nullptr;
     const size_t size = field && field->cbSize >= 1 ? static_cast<size_t>(field->cbSize) : 0;
-    char* const buffer = size ? static_cast<char*>(HBlockAlloc(size + 1)) : nullptr;
+    char* const buffer = size ? NewValueBuffer(field) : nullptr;
     if (!buffer) {
         return size != 0;
     }
@@ -239,7 +248,7 @@ int HGReadEditor(HGridCtl* ctl)
     if (!IsWindow(hwnd) || EditedField(ctl) != field) {
         return 1;
     }
-    char* const buffer = static_cast<char*>(HBlockAlloc(static_cast<size_t>(field->cbSize) + 1));
+    char* const buffer = NewValueBuffer(field);
     if (!buffer) {
         return 1;
     }

@@ -245,4 +245,18 @@ TEST_F(StoredCells, CopiedCellMayLoseItsRowWhileTheSourceIsAsked)
     EXPECT_EQ(5, NumberAt(0, 1));
 }
 
+// The second pair decides on the size of the cells, the first one on the editor.
+TEST_F(CellSteps, EditorOfALongerTypeIsReadWithinMemory)
+{
+    MakeGrid(GridOf({ HGFieldCreate("Odd", HFF_CODE, 80, 0, 'n', 'd', 'n', 'b', 0, 'e', 0, "", 0), Text() }), 2);
+    ASSERT_EQ(1, +HGGetField(ctl->pData, 0)->cbSize);
+    StandOn(0, 0);
+    TypeText("3");
+    ASSERT_EQ(Editor(), GetFocus());
+    MoveTo(1, 1);
+    EXPECT_EQ((Cell{ 1, 1 }), Current());
+    EXPECT_EQ(0, *HGCellPtr(ctl->pData, 0, 0)) << "the first byte of the number three";
+    EXPECT_EQ(0, HGIsCellNull(grid, 0, 0));
+}
+
 } // namespace
