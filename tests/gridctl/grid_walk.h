@@ -105,6 +105,7 @@ private:
     std::vector<WalkRow>     before_;
     std::vector<WalkRow>     edited_; // the edited row with each value
     std::vector<WalkRow>     other_;  // rows of the other data
+    const HGridData*         otherData_ = nullptr;
     std::vector<std::string> records_;
     std::vector<WalkRow>     last_;
     bool                     hasLast_ = false;

@@ -96,6 +96,7 @@ HGridData* WalkRows::MakeOtherData()
         HLListAdd(data->pRows, bytes.data());
     }
     replaced = true;
+    otherData_ = data;
     return data;
 }
 
@@ -234,7 +235,8 @@ void WalkRows::LookAtCounts(const std::vector<WalkRow>& rows, const std::string&
 void WalkRows::Look(const HGridCtl* ctl, const std::string& when)
 {
     const std::vector<WalkRow> rows = Loaded(ctl);
-    if (replaced) {
+    // The old columns end their controls, and tell of it, while the old record is still the grid's.
+    if (replaced && ctl->pData == otherData_) {
         if (rows != other_) {
             Complain(when + ": the rows of the other data have changed");
         }
