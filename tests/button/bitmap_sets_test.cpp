@@ -6,6 +6,7 @@
 #include "foundation/startup.h"
 #include "support/gdi_leaks.h"
 #include "support/guarded_memory.h"
+#include "support/screen_resolution.h"
 
 #include <gtest/gtest.h>
 
@@ -124,8 +125,8 @@ TEST(ImageStrip, HasImagesOfThirteenUnitsAtEachResolution)
 {
     for (const StripCase& expected : stripCases) {
         SCOPED_TRACE(expected.dpi);
-        const AtDpi dpi(expected.dpi);
-        HIMAGELIST  list = nullptr;
+        const ScreenResolution dpi(expected.dpi);
+        HIMAGELIST             list = nullptr;
         ASSERT_EQ(BitmapSetImageList(hInstance, &list, strip100, imageUnits, maskColor), 1);
         int width = 0;
         int height = 0;
@@ -139,7 +140,7 @@ TEST(ImageStrip, HasImagesOfThirteenUnitsAtEachResolution)
 
 TEST(ImageStrip, IsTwentyByTwentyAt144Dpi)
 {
-    const AtDpi dpi(144);
+    const ScreenResolution dpi(144);
     EXPECT_EQ(ScaleX(13), 20);
     const Pixels strip = Loaded(strip100, imageUnits);
     EXPECT_EQ(strip.width, 20 * stripImages);
@@ -228,10 +229,10 @@ TEST(ImageStrip, LeavesThePaperAroundAMarkAlone)
 TEST(BitmapSetLoad, TakesTheBitmapAsItStandsWhenItsPercentageFits)
 {
     {
-        const AtDpi dpi(96);
+        const ScreenResolution dpi(96);
         EXPECT_TRUE(SamePixels(Resource(strip100), Loaded(strip100, imageUnits)));
     }
-    const AtDpi dpi(192);
+    const ScreenResolution dpi(192);
     EXPECT_TRUE(SamePixels(Resource(strip200), Loaded(strip100, imageUnits)));
 }
 
@@ -239,7 +240,7 @@ TEST(BitmapSetLoad, StretchesTheNearestBitmapBelow)
 {
     for (const StripCase& expected : stripCases) {
         SCOPED_TRACE(expected.dpi);
-        const AtDpi dpi(expected.dpi);
+        const ScreenResolution dpi(expected.dpi);
         EXPECT_TRUE(SamePixels(Stretched(expected.source, expected.width, expected.height),
                                Loaded(strip100, imageUnits)));
     }
@@ -247,29 +248,29 @@ TEST(BitmapSetLoad, StretchesTheNearestBitmapBelow)
 
 TEST(BitmapSetLoad, MixesNoColorsWhenItStretches)
 {
-    const AtDpi dpi(144);
+    const ScreenResolution dpi(144);
     const std::string picture = AsText(Loaded(strip100, imageUnits), StripLetters());
     EXPECT_EQ(picture.find('?'), std::string::npos);
 }
 
 TEST(BitmapSetLoad, StretchesABitmapWithoutASetFromOneHundredPercent)
 {
-    const AtDpi  dpi(144);
-    const Pixels marks = Loaded(2007, 0);
+    const ScreenResolution dpi(144);
+    const Pixels           marks = Loaded(2007, 0);
     EXPECT_EQ(marks.width, 12);
     EXPECT_EQ(marks.height, 3);
 }
 
 TEST(BitmapSetLoad, LeavesTheBitmapAsItIsWhenNoImageFitsIntoIt)
 {
-    const AtDpi dpi(144);
+    const ScreenResolution dpi(144);
     EXPECT_TRUE(SamePixels(Resource(2007), Loaded(2007, 9)));
 }
 
 TEST(BitmapSetLoad, FailsWithoutTheBitmap)
 {
     for (const int resolution : { 96, 144 }) {
-        const AtDpi dpi(resolution);
+        const ScreenResolution dpi(resolution);
         HBITMAP     bitmap = nullptr;
         EXPECT_EQ(BitmapSetLoad(hInstance, &bitmap, 9999, 13), 0);
         EXPECT_EQ(bitmap, nullptr);
@@ -280,7 +281,7 @@ TEST(BitmapSetLoad, KeepsNoGdiObjects)
 {
     const GdiLeakCheck check;
     for (const int resolution : { 96, 120, 144 }) {
-        const AtDpi dpi(resolution);
+        const ScreenResolution dpi(resolution);
         EXPECT_GT(Loaded(strip100, imageUnits).width, 0);
     }
 }
@@ -325,7 +326,7 @@ TEST(BitmapSetImageList, HasTheDepthOfTheBitmap)
 
 TEST_F(BitmapSetTree, IsEmptyAfterAReset)
 {
-    const AtDpi dpi(192);
+    const ScreenResolution dpi(192);
     EXPECT_EQ(Loaded(strip100, imageUnits).width, 26 * stripImages);
     EXPECT_TRUE(SamePixels(Stretched(strip100, 338, 26), Loaded(strip100, imageUnits)));
 }
@@ -334,7 +335,7 @@ TEST_F(BitmapSetTree, WritesASecondSetIntoTheRoot)
 {
     BitmapSetRegister(hInstance, strip100, strip200, 0);
     BitmapSetRegister(hInstance, 2002, 2004, 0);
-    const AtDpi dpi(192);
+    const ScreenResolution dpi(192);
     EXPECT_TRUE(SamePixels(Resource(2004), Loaded(strip100, imageUnits)));
     EXPECT_EQ(Loaded(2002, 0).width, 14); // its own node stayed empty
 }
@@ -342,7 +343,7 @@ TEST_F(BitmapSetTree, WritesASecondSetIntoTheRoot)
 TEST_F(BitmapSetTree, VariantThatDoesNotExistLeavesTheBitmapAtOneHundredPercent)
 {
     BitmapSetRegister(hInstance, 2002, 9999, 0);
-    const AtDpi dpi(168);
+    const ScreenResolution dpi(168);
     EXPECT_TRUE(SamePixels(Stretched(2002, ScaleX(7), ScaleY(4)), Loaded(2002, 0)));
 }
 
@@ -364,7 +365,7 @@ TEST_F(BitmapSetTree, StaysAsItWasWithoutMemory)
     FailAllocation(1);
     BitmapSetRegister(hInstance, strip100, strip200, 0);
     FailAllocation(0);
-    const AtDpi dpi(192);
+    const ScreenResolution dpi(192);
     EXPECT_TRUE(SamePixels(Stretched(strip100, 338, 26), Loaded(strip100, imageUnits)));
 }
 
@@ -372,10 +373,10 @@ TEST_F(BitmapSetTree, PicksTheBitmapOfFourHundredPercentFromThreeHundredOn)
 {
     BitmapSetRegister(hInstance, 2002, 2003, 2010);
     {
-        const AtDpi dpi(284); // 296 percent
+        const ScreenResolution dpi(284); // 296 percent
         EXPECT_EQ(Loaded(2002, 0).width, ScaleX(7));
         EXPECT_TRUE(SamePixels(Stretched(2003, ScaleX(7), ScaleY(4)), Loaded(2002, 0)));
     }
-    const AtDpi dpi(384);
+    const ScreenResolution dpi(384);
     EXPECT_TRUE(SamePixels(Resource(2010), Loaded(2002, 0)));
 }

@@ -1,31 +1,20 @@
 // Buttons at one and a half times the usual resolution: the images of the strip grow, gaps stay.
 #include "button_window.h"
 
-#include "button/draw.h"
 #include "button/drawing_test_support.h"
-#include "foundation/startup.h"
-
-#include <utility>
+#include "support/larger_images.h"
 
 namespace {
 
-constexpr WORD stripSet = 2010;
-constexpr int  imageSide = 20; // of the images at 144 dpi
+constexpr int imageSide = LargerImages::side;
 
 class ButtonAt144Dpi : public ButtonWindow {
 protected:
-    ButtonAt144Dpi() : dpi_(144)
-    {
-        EXPECT_EQ(1, BitmapSetImageList(hInstance, &images_, stripSet, imageUnits, maskColor));
-        std::swap(hCheckImages, images_);
-    }
     ~ButtonAt144Dpi() override
     {
         if (button && IsWindow(button)) {
             DestroyWindow(button);
         }
-        std::swap(hCheckImages, images_);
-        ImageList_Destroy(images_);
         DeleteObject(paper_);
     }
     void MakeFlat(const char* text, DWORD style = HBS_PUSH)
@@ -51,9 +40,8 @@ protected:
     }
 
 private:
-    AtDpi      dpi_;
-    HIMAGELIST images_ = nullptr;
-    HBRUSH     paper_ = CreateSolidBrush(paper);
+    LargerImages images_;
+    HBRUSH       paper_ = CreateSolidBrush(paper);
 };
 
 TEST_F(ButtonAt144Dpi, ImagesOfTheStripAreTwentyByTwenty)

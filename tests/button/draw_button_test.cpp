@@ -6,6 +6,7 @@
 #include "foundation/gdi_guards.h"
 #include "foundation/startup.h"
 #include "support/gdi_leaks.h"
+#include "support/screen_resolution.h"
 
 #include <gtest/gtest.h>
 
@@ -519,9 +520,9 @@ TEST_F(SortMarkTest, StandsAPixelFurtherInOnARaisedFace)
 
 TEST_F(SortMarkTest, GrowsWithTheResolutionButForItsOffsetsOfOnePixel)
 {
-    const AtDpi  dpi(192);
-    const Canvas expected(width, height);
-    const Canvas canvas(width, height);
+    const ScreenResolution dpi(192);
+    const Canvas           expected(width, height);
+    const Canvas           canvas(width, height);
     DrawBlank(expected, DPB_HEADER);
     DrawBlank(canvas, DPB_HEADER | DPB_SORTUP);
     const int x = width - 22;

@@ -1,7 +1,6 @@
-// What tests of drawing share: pictures in letters, and a screen resolution of one's own.
+// What tests of drawing share: pictures in letters.
 #pragma once
 
-#include "foundation/screen.h"
 #include "support/pixels.h"
 
 #include <windows.h>
@@ -31,29 +30,3 @@ inline std::string AsText(const Pixels& pixels, const Letters& letters)
     }
     return text;
 }
-
-// The library sees this resolution until the end of the scope.
-class AtDpi {
-public:
-    explicit AtDpi(int dpi) : read_(fDpiRead), x_(nDpiX), y_(nDpiY), percent_(nDpiPercent)
-    {
-        fDpiRead = 1;
-        nDpiX = nDpiY = dpi;
-        nDpiPercent = MulDiv(dpi, 100, 96);
-    }
-    ~AtDpi()
-    {
-        fDpiRead = read_;
-        nDpiX = x_;
-        nDpiY = y_;
-        nDpiPercent = percent_;
-    }
-    AtDpi(const AtDpi&) = delete;
-    AtDpi& operator=(const AtDpi&) = delete;
-
-private:
-    int read_;
-    int x_;
-    int y_;
-    int percent_;
-};

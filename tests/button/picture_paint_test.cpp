@@ -5,6 +5,7 @@
 #include "button/picture_bytes.h"
 #include "foundation/startup.h"
 #include "support/gdi_leaks.h"
+#include "support/screen_resolution.h"
 
 #include <gtest/gtest.h>
 
@@ -121,9 +122,9 @@ TEST(GetPicDimensions, TellsTheSizeOfEachKind)
 
 TEST(GetPicDimensions, StripGrowsWithTheResolution)
 {
-    const Loaded strip("IM1");
-    int          width = 0;
-    const AtDpi  dpi(144);
+    const Loaded           strip("IM1");
+    int                    width = 0;
+    const ScreenResolution dpi(144);
     GetPicDimensions(&strip.pic, &width, nullptr);
     EXPECT_EQ(20, width);
 }

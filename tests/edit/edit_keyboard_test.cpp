@@ -1,8 +1,7 @@
 // Keys, as a keyboard sends them.
 #include "edit_window.h"
+#include "support/held_keys.h"
 #include "support/import_hook.h"
-
-#include <initializer_list>
 
 namespace {
 
@@ -119,23 +118,6 @@ TEST_F(EditKeyboard, CopyNeverTypesACharacter)
     TypeText("d");
     EXPECT_EQ("abcd", Text());
 }
-
-// The keyboard's state as GetKeyState gives it, without a message of its own.
-struct HeldKeys {
-    BYTE before[256];
-    explicit HeldKeys(std::initializer_list<int> keys)
-    {
-        GetKeyboardState(before);
-        BYTE state[256] = {};
-        for (const int vk : keys) {
-            state[vk] = 0x80;
-        }
-        SetKeyboardState(state);
-    }
-    ~HeldKeys() { SetKeyboardState(before); }
-    HeldKeys(const HeldKeys&) = delete;
-    HeldKeys& operator=(const HeldKeys&) = delete;
-};
 
 TEST_F(EditKeyboard, CopyHasTheNextCharacterIgnoredWhateverItIs)
 {

@@ -131,20 +131,6 @@ TEST_F(GridComboCells, EditorWithCodesShowsItsItemAsFarAsTheFirstTab)
     EXPECT_EQ("white", Shown());
 }
 
-TEST_F(GridComboCells, EditorOfNumbersWithCodesShowsTheNumber)
-{
-    MakeGrid(GridOf({ HGFieldCreate("N", HFF_CODE, 80, 60, 'n', 'l', 'n', 'l', 0, 'c', 0, "", 0), Text() }), 3);
-    // Its first byte is that of a tab.
-    constexpr LONG number = 9 + 256;
-    constexpr LONG code = 1;
-    HCAddItemEx(ChildOf(0), &number, &code);
-    HGSetCellData(grid, 0, 1, &code);
-    MoveTo(0, 1);
-    EXPECT_EQ("265", Shown());
-    MoveTo(0, 2);
-    EXPECT_EQ("", Shown());
-}
-
 TEST_F(GridComboCells, KeysInTheClosedComboMoveItsItemAndTabStoresIt)
 {
     ForEachKind([&] {
@@ -336,18 +322,21 @@ TEST_F(GridComboCells, CellProceduresHandStateToTheCombo)
     });
 }
 
-TEST_F(GridComboCells, EditorOfShortNumbersWithCodesShowsTheNumber)
+TEST_F(GridComboCells, EditorOfNumbersWithCodesShowsTheNumber)
 {
-    MakeGrid(GridOf({ HGFieldCreate("N", HFF_CODE, 80, 60, 'n', 's', 'n', 'l', 0, 'c', 0, "", 0), Text() }), 3);
     // Its first byte is that of a tab.
-    constexpr short number = 9 + 256;
-    constexpr LONG  code = 1;
-    HCAddItemEx(ChildOf(0), &number, &code);
-    HGSetCellData(grid, 0, 1, &code);
-    MoveTo(0, 1);
-    EXPECT_EQ("265", Shown());
-    MoveTo(0, 2);
-    EXPECT_EQ("", Shown());
+    constexpr LONG number = 9 + 256;
+    for (const char type : { 's', 'l' }) {
+        SCOPED_TRACE(type);
+        MakeGrid(GridOf({ HGFieldCreate("N", HFF_CODE, 80, 60, 'n', type, 'n', 'l', 0, 'c', 0, "", 0), Text() }), 3);
+        constexpr LONG code = 1;
+        HCAddItemEx(ChildOf(0), &number, &code);
+        HGSetCellData(grid, 0, 1, &code);
+        MoveTo(0, 1);
+        EXPECT_EQ("265", Shown());
+        MoveTo(0, 2);
+        EXPECT_EQ("", Shown());
+    }
 }
 
 } // namespace

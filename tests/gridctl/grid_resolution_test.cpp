@@ -2,40 +2,24 @@
 // grow, and what the mouse catches stays as it is.
 #include "gridctl/grid_mouse.h"
 
-#include "button/draw.h"
-#include "foundation/services.h"
-#include "foundation/startup.h"
+#include "support/larger_images.h"
 #include "support/pixels.h"
-#include "support/screen_resolution.h"
-
-#include <commctrl.h>
-
-#include <utility>
 
 namespace {
 
-constexpr WORD stripSet = 2010;
-constexpr int  imageSide = 20; // of the images at 144 dpi
+constexpr int imageSide = LargerImages::side;
 
 class GridAt144Dpi : public GridMouse {
 protected:
-    GridAt144Dpi() : dpi_(144)
-    {
-        EXPECT_EQ(1, BitmapSetImageList(hInstance, &images_, stripSet, imageUnits, maskColor));
-        std::swap(hCheckImages, images_);
-    }
     ~GridAt144Dpi() override
     {
         if (IsWindow(grid)) {
             DestroyWindow(grid);
         }
-        std::swap(hCheckImages, images_);
-        ImageList_Destroy(images_);
     }
 
 private:
-    ScreenResolution dpi_;
-    HIMAGELIST       images_ = nullptr;
+    LargerImages images_;
 };
 
 TEST_F(GridAt144Dpi, ChecksShowTheImagesOfTwentyByTwenty)
