@@ -486,6 +486,8 @@ TEST_F(ListInput, FindTextWithAStartBelowZeroBeginsAtTheFirstItem)
 
 TEST_F(ListInput, MouseMarksNothingWhileAKeyMovesTheCurrentItem)
 {
+    MakeWith(HLS_HOTTRACK, 5, 10);
+    MoveMouse(list, 400, 300); // away from where the lists below appear
     for (const int key : { VK_DOWN, VK_UP, VK_NEXT, VK_PRIOR, VK_END, VK_HOME }) {
         MakeWith(HLS_HOTTRACK, 5, 10);
         {
