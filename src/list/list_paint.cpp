@@ -178,7 +178,7 @@ void PaintItems(ListPaint paint, const RECT& area)
     const int   first = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.left, area.top);
     const int   last = paint.isField ? ctl->nTop : HLItemFromPoint(ctl, area.right - 1, area.bottom - 1);
     AsciiGlyphs glyphs;
-    if (last - first >= glyphsPayFrom && !HasStyle(ctl, HLS_OWNERDRAW)) {
+    if (last - first + 1 >= glyphsPayFrom && !HasStyle(ctl, HLS_OWNERDRAW)) {
         glyphs = FindAsciiGlyphs(paint.hdc);
         paint.glyphs = &glyphs;
     }
