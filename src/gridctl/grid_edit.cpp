@@ -3,6 +3,7 @@
 #include "gridctl/grid_control.h"
 
 #include "griddata/item_buffer.h"
+#include "typed/data_types.h"
 
 #include <algorithm>
 #include <cstring>
@@ -82,8 +83,8 @@ LRESULT LoadCodeText(HWND editor, const HGField* field, const void* code)
 // the column's values where these are of the second pair.
 char* NewValueBuffer(const HGField* field)
 {
-    constexpr size_t longestFixedType = 36;
-    return static_cast<char*>(HBlockAlloc(std::max(static_cast<size_t>(field->cbSize), longestFixedType) + 1));
+    const int longest = std::max(static_cast<int>(field->cbSize), longestFixedType);
+    return static_cast<char*>(HBlockAlloc(static_cast<size_t>(longest) + 1));
 }
 
 // Fills buffer from the editor; false if the editor reports the null value.

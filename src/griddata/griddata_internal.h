@@ -2,13 +2,14 @@
 #pragma once
 
 #include "griddata/grid_model.h"
+#include "typed/data_types.h"
 
 #include <widgets/widgets.h>
 
 // Version of a new grid, and of the newest files.
 constexpr WORD gridVersion = 18506;
-// Zero bytes behind a row's data: a text that fills its cell ends there, and a code that is read as a longer type.
-constexpr size_t rowGuard = 24;
+// Zero bytes behind a row's data: a text that fills its cell ends there, and a value that is read as a longer type.
+constexpr size_t rowGuard = longestFixedType;
 // Offsets of values are signed 16-bit numbers, and so are the indexes of columns.
 constexpr int offsetLimit = 32767;
 constexpr int columnLimit = 32767;

@@ -3,6 +3,9 @@
 
 #include <widgets/widgets.h>
 
+// The longest value of a type with a fixed size, in bytes.
+constexpr int longestFixedType = 36;
+
 // Orders two stored values of a pair: -1, 0 or 1. Null for a pair without an order.
 HLLDATACOMPARE GetDataCompare(char dataClass, char dataType);
 

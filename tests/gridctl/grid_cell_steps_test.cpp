@@ -259,4 +259,15 @@ TEST_F(CellSteps, EditorOfALongerTypeIsReadWithinMemory)
     EXPECT_EQ(0, HGIsCellNull(grid, 0, 0));
 }
 
+// The last column's value ends with its row.
+TEST_F(CellSteps, CellIsShownToAnEditorOfALongerTypeWithinMemory)
+{
+    MakeGrid(GridOf({ Text(), HGFieldCreate("Odd", HFF_CODE, 80, 0, 'a', 'm', 'n', 'b', 0, 'e', 0, "", 0) }), 2);
+    ASSERT_EQ(1, +HGGetField(ctl->pData, 1)->cbSize);
+    constexpr BYTE dayOfMonth = 7;
+    ASSERT_EQ(1, HGSetCellData(grid, 1, 0, &dayOfMonth));
+    StandOn(1, 0);
+    EXPECT_NE("", TextOf(Editor()));
+}
+
 } // namespace

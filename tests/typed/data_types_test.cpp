@@ -1,6 +1,8 @@
 // The pairs of class and type, their sizes, and the descriptors that name them.
 #include "typed/typed_test_support.h"
 
+#include <algorithm>
+
 namespace {
 
 struct PairSize {
@@ -83,6 +85,17 @@ TEST(GetDataSize, OfTextClassesIsMinusOneWhateverTheType)
         EXPECT_EQ(-1, GetDataSize('s', static_cast<char>(type))) << type;
         EXPECT_EQ(-1, GetDataSize('m', static_cast<char>(type))) << type;
     }
+}
+
+TEST(GetDataSize, IsNeverLongerThanTheLongestFixedType)
+{
+    int longest = 0;
+    for (int dataClass = 0; dataClass < 128; ++dataClass) {
+        for (int type = 0; type < 128; ++type) {
+            longest = std::max(longest, GetDataSize(static_cast<char>(dataClass), static_cast<char>(type)));
+        }
+    }
+    EXPECT_EQ(longestFixedType, longest);
 }
 
 TEST(GetDataSize, GoesByTheColumnOfTheClassForPairsThatAreNotValid)
