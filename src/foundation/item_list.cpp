@@ -207,10 +207,13 @@ int HLListInsertNode(HLList* list, int index, void* node)
         LinkAtEnd(list, node);
         return list->cItems - 1;
     }
-    LinkBehind(list, HLListGetItem(list, index - 1), node);
+    void* const    before = HLListGetItem(list, index - 1);
+    const unsigned changes = nListChanges;
+    LinkBehind(list, before, node);
     list->cItems++;
     list->wFlags &= static_cast<WORD>(~HLL_EMPTY);
     CursorToHead(list);
+    HLListKeepTrail(list, changes, index);
     return index;
 }
 
@@ -219,8 +222,10 @@ int WINAPI HLListRemove(HLList* list, int index)
     if (!list || index < 0 || index >= list->cItems) {
         return 0;
     }
-    void* const before = HLListGetItem(list, index - 1);
-    void* const node = HNodeLink(before);
+    void* const    before = HLListGetItem(list, index - 1);
+    void* const    node = HNodeLink(before);
+    const unsigned changes = nListChanges;
+    HNoteListChange();
     if (before == node) {
         list->pHead = nullptr;
         list->pTail = nullptr;
@@ -232,6 +237,7 @@ int WINAPI HLListRemove(HLList* list, int index)
     list->cItems--;
     CursorToHead(list);
     list->wFlags = static_cast<WORD>(list->cItems ? list->wFlags & ~HLL_EMPTY : list->wFlags | HLL_EMPTY);
+    HLListKeepTrail(list, changes, index);
     list->pfnFree(list, node);
     return 1;
 }
@@ -246,8 +252,9 @@ void* WINAPI HLListGetItem(HLList* list, int index)
         list->iCursor = list->cItems - 1;
         return list->pCursor;
     }
-    if (index < list->iCursor) {
-        CursorToHead(list);
+    constexpr int farAway = 64; // nodes
+    if (index < list->iCursor || index - list->iCursor > farAway) {
+        HLListWalk(list, index);
     }
     for (; list->iCursor < index; list->iCursor++) {
         list->pCursor = HNodeLink(list->pCursor);
@@ -269,6 +276,7 @@ int WINAPI HLListMove(HLList* list, int from, int to)
     } else {
         MoveBack(list, to, beforeFrom, beforeTo);
     }
+    HNoteListChange(); // a move right round the ring changes no link
     list->pTail = HLListGetItem(list, count - 1);
     return to;
 }

@@ -3,6 +3,7 @@
 
 #include <widgets/widgets.h>
 
+#include <atomic>
 #include <cstddef>
 
 static_assert(sizeof(void*) != 4 || (sizeof(HArray) == 24 && offsetof(HArray, pItems) == 20));
@@ -14,9 +15,18 @@ inline void* HNodeLink(const void* node)
     return *static_cast<void* const*>(node);
 }
 
+// Counts what changes the order of nodes in any list: who has noted a place looks whether it is still right.
+extern std::atomic<unsigned> nListChanges;
+
+inline void HNoteListChange()
+{
+    nListChanges.fetch_add(1, std::memory_order_relaxed);
+}
+
 inline void HSetNodeLink(void* node, void* next)
 {
     *static_cast<void**>(node) = next;
+    HNoteListChange();
 }
 
 // The payload of a default node.
@@ -54,6 +64,11 @@ private:
     void*   before_;
     int     place_;
 };
+
+// Takes the cursor of a list to an index that it has, or towards it, by way of nodes noted on earlier walks.
+void HLListWalk(HLList* list, int index);
+// A node came or went at an index, and nothing else since nListChanges was changesBefore: what lies before stays noted.
+void HLListKeepTrail(const HLList* list, unsigned changesBefore, int index);
 
 // HLListInsert of a node that exists already.
 int HLListInsertNode(HLList* list, int index, void* node);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -83,6 +84,45 @@ TEST(DllList, KeepsTextsInOrder)
     EXPECT_NE(nullptr, HLListFind(list, "FIG", 0, &index));
     EXPECT_EQ(1, index);
     EXPECT_EQ(1, HLListDestroy(list));
+}
+
+int NumberAt(HLList* list, int index)
+{
+    int number = 0;
+    std::memcpy(&number, static_cast<char*>(HLListGetItem(list, index)) + sizeof(void*), sizeof number);
+    return number;
+}
+
+// A list of the numbers from 0 on: gives how often one of them wasn't found where it belongs.
+DWORD CALLBACK WorkOnAList(void*)
+{
+    constexpr int count = 1000;
+    HLList* const list = HLListCreate(sizeof(int), nullptr, nullptr, nullptr, nullptr, nullptr, 0);
+    for (int i = 0; i < count; ++i) {
+        HLListAppend(list, &i);
+    }
+    DWORD wrong = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const int place = i * 37 % count;
+        const int number = NumberAt(list, place);
+        wrong += number != place;
+        HLListRemove(list, place);
+        HLListInsert(list, place, &number);
+    }
+    HLListDestroy(list);
+    return wrong;
+}
+
+TEST(DllList, ListsOfTwoThreadsKeepApart)
+{
+    const HANDLE other = CreateThread(nullptr, 0, WorkOnAList, nullptr, 0, nullptr);
+    ASSERT_NE(nullptr, other);
+    EXPECT_EQ(0u, WorkOnAList(nullptr));
+    WaitForSingleObject(other, INFINITE);
+    DWORD wrong = 1;
+    GetExitCodeThread(other, &wrong);
+    CloseHandle(other);
+    EXPECT_EQ(0u, wrong);
 }
 
 TEST(DllList, MovesInsertsAndRemoves)
