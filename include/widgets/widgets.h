@@ -1049,6 +1049,15 @@ int WINAPI GetPicDimensions(const Pic* pic, int* outWidth, int* outHeight);
 /** Sounds play on while the program runs on. Style bit. */
 #define HBS_ASYNCSOUND 0x8000
 
+/** The press came from the space bar. Bit of ControlHeader.wFlags. */
+#define HBF_SPACEDOWN 0x0001
+/** The face looks pressed. Bit of ControlHeader.wFlags. */
+#define HBF_PRESSED 0x0004
+/** A focus rectangle stands on a transparent button. Bit of ControlHeader.wFlags. */
+#define HBF_FOCUSDRAWN 0x0010
+/** A sound file was found. Bit of ControlHeader.wFlags. */
+#define HBF_SOUNDFILE 0x0020
+
 /*
  * Messages of the button. It also answers BM_GETCHECK (240), BM_SETCHECK (241, wParam: value, lParam: notify),
  * BM_GETSTATE (242: 1 while pressed), BM_SETSTATE (243, wParam: pressed; if so, it sounds and clicks too), BM_SETSTYLE
@@ -1469,7 +1478,7 @@ typedef int(CALLBACK* HGDRAWPART)(int part, HDC hdc, RECT* rect, int enabled, in
 #define HGC_COLDRAG 0x0010
 /** The editor is shown over the current cell. Bit of HGridCtl.wFlags. */
 #define HGC_EDITORSHOWN 0x0020
-/** The focus is in the editor. Bit of HGridCtl.wFlags. */
+/** An edit is under way: the focus is in the editor, or left the grid from there. Bit of HGridCtl.wFlags. */
 #define HGC_INEDIT 0x0040
 /** The selection is a range. Bit of HGridCtl.wFlags. */
 #define HGC_RANGE 0x0080
@@ -1656,8 +1665,7 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 /**
  * wParam: non-zero marks the row new. lParam: row data, or 0. Gives the row index + 1; below 1 on failure.
  * Under HGS_NEWROW a blank row comes before the entry row, and the data go into the entry row itself. A row source is
- * offered a blank record, without the data. Each row before an entry row walks all rows: many are best added before the
- * grid has HGS_NEWROW.
+ * offered a blank record, without the data.
  */
 #define HGM_ADDROW 1360
 /** wParam: r. Deletes without notification. Gives 1, or 0. */
@@ -1843,7 +1851,7 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGN_KILLFOCUS 2
 /** The current cell has changed. */
 #define HGN_MOVED 3
-/** A double click, after the move. */
+/** A double click, on a cell after the move to it, or on the cell control. */
 #define HGN_DBLCLK 4
 /** The grid is being destroyed; its rows are still there. */
 #define HGN_DESTROY 5
@@ -2157,6 +2165,29 @@ void WINAPI BoundMinMax(void* ctl);
 /** The row under the mouse is marked. Style bit. */
 #define HLS_HOTTRACK 0x8000
 
+/** The mouse range under way selects, or else deselects. Bit of ControlHeader.wFlags. */
+#define HLF_DRAGSET 0x0001
+/** The focus rectangle is on the screen. Bit of ControlHeader.wFlags. */
+#define HLF_FOCUSRECT 0x0002
+/** The column width was set by HLM_SETCOLUMNWIDTH. Bit of ControlHeader.wFlags. */
+#define HLF_FIXEDCOLUMN 0x0004
+/** The current item is the selection. Bit of ControlHeader.wFlags. */
+#define HLF_SINGLESEL 0x0010
+/** The left button went down on the list and isn't up yet. Bit of ControlHeader.wFlags. */
+#define HLF_TRACKING 0x0020
+/** Neither painting nor layout. Bit of ControlHeader.wFlags. */
+#define HLF_NOREDRAW 0x0040
+/** The items are somebody else's and stay when the list goes. Bit of ControlHeader.wFlags. */
+#define HLF_SHAREDLIST 0x0080
+/** The last row, or in several columns the last column, shows in part. Bit of ControlHeader.wFlags. */
+#define HLF_PARTIAL 0x0100
+/** A font has come, so the height may be trimmed to whole rows. Bit of ControlHeader.wFlags. */
+#define HLF_FONTSET 0x0200
+/** The last value shown was negative. Bit of ControlHeader.wFlags. */
+#define HLF_NEGATIVE 0x0400
+/** The left button is down, as in HLF_TRACKING. Bit of ControlHeader.wFlags. */
+#define HLF_MOUSEDOWN 0x8000
+
 /** Modes of selecting: deselect. */
 #define HLSEL_CLEAR 0
 /** Select. */
@@ -2294,7 +2325,7 @@ void WINAPI BoundMinMax(void* ctl);
  * HLM_RECALC if items have come or gone meanwhile.
  */
 #define HLM_SETREDRAW 1261
-/** Gives the flags. */
+/** Gives the HLF_ and CF_ bits. */
 #define HLM_GETFLAGS 1265
 /** wParam: bits. lParam: 0 clears them, else they are set. Gives the flags. */
 #define HLM_SETFLAGS 1266
@@ -2471,6 +2502,19 @@ LRESULT CALLBACK HListMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 #define HCS_XBUTTON 0x4000
 /** An extra button below the drop button, each of half the height. Style bit. */
 #define HCS_STACKED 0x8000
+
+/** The list is open. Bit of ControlHeader.wFlags. */
+#define HCF_DROPPED 0x0001
+/** The drop button looks pressed. Bit of ControlHeader.wFlags. */
+#define HCF_BTNDOWN 0x0002
+/** The drop button is under the mouse, or held. Bit of ControlHeader.wFlags. */
+#define HCF_BTNHOT 0x0004
+/** The mouse is held for a button. Bit of ControlHeader.wFlags. */
+#define HCF_CAPTURE 0x0008
+/** The extra button looks pressed. Bit of ControlHeader.wFlags. */
+#define HCF_XBTNDOWN 0x4000
+/** The extra button is under the mouse, or held. Bit of ControlHeader.wFlags. */
+#define HCF_XBTNHOT 0x8000
 
 /** The list follows the face. Option. */
 #define HCO_CHILDTOLIST 1

@@ -5,12 +5,8 @@
 
 #include <widgets/widgets.h>
 
-// Bits of wFlags beside those of the frame.
-constexpr WORD HBF_SPACEDOWN = 0x0001;   // the press came from the space bar
-constexpr WORD HBF_PRESSED = 0x0004;     // the face looks pressed
-constexpr WORD HBF_FOCUSDRAWN = 0x0010;  // a focus rectangle stands on a transparent button
-constexpr WORD HBF_SOUNDFILE = 0x0020;   // a sound file was found
-constexpr WORD HBF_SOUNDLOADED = 0x0040; // hSound is a loaded resource, not one that was only found
+// A bit of wFlags that hosts don't ask for: hSound is a loaded resource, not one that was only found.
+constexpr WORD HBF_SOUNDLOADED = 0x0040;
 
 #pragma pack(push, 2)
 struct HButtCtl {

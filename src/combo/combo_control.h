@@ -6,14 +6,6 @@
 
 #include <widgets/widgets.h>
 
-// Bits of wFlags beside those of the frame.
-constexpr WORD HCF_DROPPED = 0x0001;  // the list is open
-constexpr WORD HCF_BTNDOWN = 0x0002;  // the drop button looks pressed
-constexpr WORD HCF_BTNHOT = 0x0004;   // the drop button is under the mouse, or held
-constexpr WORD HCF_CAPTURE = 0x0008;  // the mouse is held for a button
-constexpr WORD HCF_XBTNDOWN = 0x4000; // the extra button looks pressed
-constexpr WORD HCF_XBTNHOT = 0x8000;  // the extra button is under the mouse, or held
-
 #pragma pack(push, 2)
 struct HCombCtl {
     HWND           hWnd;

@@ -6,19 +6,8 @@
 
 #include <widgets/widgets.h>
 
-// Bits of wFlags beside those of the frame.
-constexpr WORD HLF_DRAGSET = 0x0001;     // the mouse range under way selects, or else deselects
-constexpr WORD HLF_FOCUSRECT = 0x0002;   // the focus rectangle is on the screen
-constexpr WORD HLF_FIXEDCOLUMN = 0x0004; // cxColumn was set by the host
-constexpr WORD HLF_OWNFORMAT = 0x0008;   // shared items show by a format of the list's own
-constexpr WORD HLF_SINGLESEL = 0x0010;   // the current item is the selection
-constexpr WORD HLF_TRACKING = 0x0020;    // the left button went down on the list and isn't up yet
-constexpr WORD HLF_NOREDRAW = 0x0040;    // neither painting nor layout
-constexpr WORD HLF_SHAREDLIST = 0x0080;  // the items are somebody else's
-constexpr WORD HLF_PARTIAL = 0x0100;     // the last row, or in several columns the last column, shows in part
-constexpr WORD HLF_FONTSET = 0x0200;     // a font has come, so the height may be trimmed
-constexpr WORD HLF_NEGATIVE = 0x0400;    // the last format reported a negative value
-constexpr WORD HLF_MOUSEDOWN = 0x8000;   // the left button is down
+// A bit of wFlags that hosts don't ask for: shared items show by a format of the list's own.
+constexpr WORD HLF_OWNFORMAT = 0x0008;
 
 #pragma pack(push, 2)
 struct HListCtl {
