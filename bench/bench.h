@@ -38,6 +38,15 @@ double   Milliseconds(); // a clock that only goes on
 void     PumpMessages();
 unsigned AddToChecksum(unsigned checksum, const char* text);
 
+// Times of the same work done by two controls in turns. The median of many short turns says what a turn takes on a
+// machine that has other things to do now and then.
+struct TurnTimes {
+    std::vector<double> ours;
+    std::vector<double> platform;
+};
+
+double Median(std::vector<double> times); // 0 of none
+
 // Milliseconds of one typed character and of one step down, each with its repaint; 0 if it went wrong.
 struct EntryTimings {
     double typing = 0;
@@ -59,7 +68,7 @@ struct ListTimings {
     double   paint = 0;      // one full repaint
     unsigned checksum = 0;
 
-    void TakeBetter(const ListTimings& other); // but for scrolling, which takes turns
+    void TakeBetter(const ListTimings& other); // but for what takes turns
 };
 
 // Milliseconds until a sorted list shows so many texts that come in no order.

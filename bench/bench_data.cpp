@@ -1,6 +1,8 @@
 // Texts and clock of the benchmark.
 #include "bench.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
 
 namespace {
@@ -44,6 +46,16 @@ void Timings::TakeBetter(const Timings& other)
     sort = better(sort, other.sort);
     paint = better(paint, other.paint);
     checksum = other.checksum;
+}
+
+double Median(std::vector<double> times)
+{
+    if (times.empty()) {
+        return 0;
+    }
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::nth_element(times.begin(), middle, times.end());
+    return *middle;
 }
 
 double Milliseconds()

@@ -5,18 +5,12 @@
 
 namespace {
 
-constexpr int charCount = 1500;
+constexpr int lineCount = 100;
 constexpr int lineLength = 30; // characters before the field is emptied
 constexpr int stepCount = 3000;
-constexpr int stepsATurn = 250;
+constexpr int stepsATurn = 50;
 constexpr int fieldWidth = 300;
 constexpr int fieldHeight = 24;
-
-// Takes the typing or stepping of two controls in turns, so that what else the machine does meanwhile slows both alike.
-struct Turns {
-    double ours = 0;
-    double platform = 0;
-};
 
 // Milliseconds of a line of typed characters, each with its repaint.
 double TypeLine(HWND field)
@@ -41,21 +35,21 @@ HWND MakeField(HWND parent, const char* className, DWORD style, int top)
                            nullptr, GetModuleHandleA(nullptr), nullptr);
 }
 
-// Milliseconds of one character. 0 if the texts didn't arrive.
-Turns Type(HWND parent)
+// Of whole lines. None if the texts didn't arrive.
+TurnTimes TypeLines(HWND parent)
 {
     const HWND ours = MakeField(parent, "HEdit", HES_AUTOHSCROLL, 10);
     const HWND platform = MakeField(parent, "EDIT", ES_AUTOHSCROLL, 10 + 2 * fieldHeight);
-    Turns time;
+    TurnTimes times;
     bool arrived = true;
-    for (int done = 0; done < charCount; done += lineLength) {
-        time.ours += TypeLine(ours);
-        time.platform += TypeLine(platform);
+    for (int line = 0; line < lineCount; ++line) {
+        times.ours.push_back(TypeLine(ours));
+        times.platform.push_back(TypeLine(platform));
         arrived = arrived && GetWindowTextLengthA(ours) == lineLength && GetWindowTextLengthA(platform) == lineLength;
     }
     DestroyWindow(ours);
     DestroyWindow(platform);
-    return arrived ? Turns{ time.ours / charCount, time.platform / charCount } : Turns{};
+    return arrived ? times : TurnTimes();
 }
 
 // Milliseconds of some steps down, each with its repaint. The control is shown for that long.
@@ -95,32 +89,32 @@ HWND MakeSteppedGrid(HWND parent, const std::vector<std::string>& texts)
     return grid;
 }
 
-// Milliseconds of one step. 0 if the last row wasn't reached.
-Turns Step(HWND parent, const std::vector<std::string>& texts)
+// Of stepsATurn steps each. None if the last row wasn't reached.
+TurnTimes StepDown(HWND parent, const std::vector<std::string>& texts)
 {
     const HWND list = MakeSteppedList(parent, texts);
     ShowWindow(list, SW_HIDE);
     const HWND grid = MakeSteppedGrid(parent, texts);
     ShowWindow(grid, SW_HIDE);
-    Turns time;
+    TurnTimes times;
     for (int done = 0; done < stepCount; done += stepsATurn) {
-        time.platform += StepOn(list, stepsATurn);
-        time.ours += StepOn(grid, stepsATurn);
+        times.platform.push_back(StepOn(list, stepsATurn));
+        times.ours.push_back(StepOn(grid, stepsATurn));
     }
     const LRESULT item = SendMessageA(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED);
     const LRESULT cell = SendMessageA(grid, HGM_GETCURSOR, 0, 0);
     DestroyWindow(list);
     DestroyWindow(grid);
     const bool arrived = item == stepCount && HIWORD(cell) == stepCount;
-    return arrived ? Turns{ time.ours / stepCount, time.platform / stepCount } : Turns{};
+    return arrived ? times : TurnTimes();
 }
 
 } // namespace
 
 void RunEntry(HWND parent, const std::vector<std::string>& texts, EntryTimings* ours, EntryTimings* platform)
 {
-    const Turns typing = Type(parent);
-    const Turns step = Step(parent, texts);
-    *ours = { typing.ours, step.ours };
-    *platform = { typing.platform, step.platform };
+    const TurnTimes lines = TypeLines(parent);
+    const TurnTimes steps = StepDown(parent, texts);
+    *ours = { Median(lines.ours) / lineLength, Median(steps.ours) / stepsATurn };
+    *platform = { Median(lines.platform) / lineLength, Median(steps.platform) / stepsATurn };
 }

@@ -13,7 +13,7 @@ constexpr int paintTurns = 60;
 constexpr int paintsATurn = 10;
 constexpr int lineTurns = 10;
 constexpr int linesATurn = 40;
-constexpr int pagePasses = 3;
+constexpr int pagePasses = 6;
 constexpr int pageTurns = 10;
 constexpr int pagesATurn = 29; // with all turns nearly all items, and never the last page
 constexpr int textSize = 32;
@@ -202,14 +202,18 @@ struct ListPair {
     HWND platform;
 };
 
-// The best of some turns of both.
-void TakeTurns(const ListPair& lists, int turns, int stepsATurn, void (*step)(HWND list), double* oursTime,
-               double* platformTime)
+void TakeTurns(const ListPair& lists, int turns, int stepsATurn, void (*step)(HWND list), TurnTimes* times)
 {
     for (int turn = 0; turn < turns; ++turn) {
-        *platformTime = BetterOf(*platformTime, TimeShown(lists.platform, stepsATurn, step));
-        *oursTime = BetterOf(*oursTime, TimeShown(lists.ours, stepsATurn, step));
+        times->platform.push_back(TimeShown(lists.platform, stepsATurn, step));
+        times->ours.push_back(TimeShown(lists.ours, stepsATurn, step));
     }
+}
+
+void TakeMedians(const TurnTimes& times, double* ours, double* platform)
+{
+    *ours = Median(times.ours);
+    *platform = Median(times.platform);
 }
 
 bool ReturnFrom(const ListPair& lists, LRESULT rows)
@@ -223,18 +227,24 @@ bool PaintAndScroll(HWND parent, bool sorted, const Texts& texts, ListTimings* o
 {
     const ListPair lists = { MakeHiddenList(parent, oursKind, sorted, texts),
                              MakeHiddenList(parent, platformKind, sorted, texts) };
-    TakeTurns(lists, paintTurns, paintsATurn, Repaint, &ours->paint, &platform->paint);
+    TurnTimes paints;
+    TurnTimes pages;
+    TurnTimes rows;
+    TakeTurns(lists, paintTurns, paintsATurn, Repaint, &paints);
     constexpr LRESULT nearlyAll = listItemCount * 3 / 4;
     bool              byPages = true;
     for (int pass = 0; pass < pagePasses; ++pass) {
-        TakeTurns(lists, pageTurns, pagesATurn, ScrollPage, &ours->scrollPage, &platform->scrollPage);
+        TakeTurns(lists, pageTurns, pagesATurn, ScrollPage, &pages);
         byPages = ReturnFrom(lists, nearlyAll) && byPages;
     }
-    TakeTurns(lists, lineTurns, linesATurn, ScrollLine, &ours->scrollLine, &platform->scrollLine);
+    TakeTurns(lists, lineTurns, linesATurn, ScrollLine, &rows);
     constexpr LRESULT lines = lineTurns * linesATurn;
     const bool        byLines = ReturnFrom(lists, lines);
     DestroyWindow(lists.ours);
     DestroyWindow(lists.platform);
+    TakeMedians(paints, &ours->paint, &platform->paint);
+    TakeMedians(pages, &ours->scrollPage, &platform->scrollPage);
+    TakeMedians(rows, &ours->scrollLine, &platform->scrollLine);
     return byPages && byLines;
 }
 
