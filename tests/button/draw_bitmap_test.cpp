@@ -89,6 +89,26 @@ TEST(HDrawBitmap, TakesAnyColorAsTheKey)
 .....)");
 }
 
+TEST(HDrawBitmap, PlacesItInTheUnitsOfTheContext)
+{
+    for (const COLORREF key : { maskColor, COLORREF{ 0 } }) {
+        Canvas                     canvas(5, 4);
+        const OwnedObject<HBITMAP> bitmap(MakeShape(canvas.hdc()));
+        canvas.Fill(paper);
+        SetMapMode(canvas.hdc(), MM_ANISOTROPIC);
+        SetViewportOrgEx(canvas.hdc(), 2, 1, nullptr);
+        HDrawBitmap(canvas.hdc(), bitmap.h, 0, 1, key);
+        SetViewportOrgEx(canvas.hdc(), 0, 0, nullptr);
+        SetMapMode(canvas.hdc(), MM_TEXT);
+        const Pixels shot = canvas.Shot();
+        EXPECT_EQ(red, shot.At(3, 2));
+        EXPECT_EQ(white, shot.At(2, 3));
+        EXPECT_EQ(black, shot.At(4, 3));
+        EXPECT_EQ(key ? paper : maskColor, shot.At(2, 2));
+        EXPECT_EQ(paper, shot.At(1, 2));
+    }
+}
+
 TEST(HDrawBitmap, LeavesTheBitmapAsItWas)
 {
     Canvas                     canvas(5, 4);

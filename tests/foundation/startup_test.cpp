@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -125,6 +126,26 @@ TEST(WidgetsInit, RegistersTheClassesForTheWholeProcess)
         EXPECT_EQ(row.hasIcon, info.hIcon != nullptr) << row.name;
         EXPECT_EQ(row.background, reinterpret_cast<INT_PTR>(info.hbrBackground)) << row.name;
     }
+}
+
+void StartAgain()
+{
+    const HIMAGELIST images = std::exchange(hCheckImages, nullptr);
+    fWidgetsReady = 0;
+    WidgetsInit();
+    ImageList_Destroy(std::exchange(hCheckImages, images));
+}
+
+TEST(WidgetsInit, RegistersTheDropWindowTogetherWithTheCombo)
+{
+    WNDCLASSA info = {};
+    ASSERT_TRUE(UnregisterClassA("HDrop", hInstance));
+    StartAgain();
+    EXPECT_FALSE(GetClassInfoA(hInstance, "HDrop", &info)) << "the combo stood already";
+    ASSERT_TRUE(UnregisterClassA("HComb", hInstance));
+    StartAgain();
+    EXPECT_TRUE(GetClassInfoA(hInstance, "HComb", &info));
+    EXPECT_TRUE(GetClassInfoA(hInstance, "HDrop", &info));
 }
 
 TEST(WidgetsInit, KeepsTheCursorOfTheGrid)

@@ -125,6 +125,20 @@ TEST_F(GridColumnMessages, OrderThatWasReadComesBackWhenItIsSet)
     EXPECT_EQ("1", CellText(0, 0));
 }
 
+TEST_F(GridColumnMessages, OrderThatIsSetShowsAtOnceWithTheNextPaint)
+{
+    MakeGrid(GridOf({ Number("A"), Number("B") }, gridStyle | HGS_COLMAP), 1);
+    UpdateWindow(grid);
+    ASSERT_FALSE(IsInvalid());
+    const int order[2] = { 1, 0 };
+    SendPtr(grid, HGM_SETCOLORDER, 0, order);
+    RECT invalid = {};
+    RECT client = {};
+    GetUpdateRect(grid, &invalid, FALSE);
+    GetClientRect(grid, &client);
+    EXPECT_TRUE(EqualRect(&client, &invalid));
+}
+
 TEST_F(GridColumnMessages, OrderWithBadEntriesLosesNoColumn)
 {
     MakeGrid(GridOf({ Number("A"), Number("B"), Number("C") }, gridStyle | HGS_COLMAP), 1);

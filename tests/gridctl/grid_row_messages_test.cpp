@@ -224,6 +224,19 @@ TEST_F(GridRowMessages, SortOrdersRowsAndTheParallelArray)
     EXPECT_EQ("3", CellText(1, 0));
 }
 
+TEST_F(GridRowMessages, SortGoesUpwardsWithAnyHighWordButZero)
+{
+    MakeGrid(GridOf({ Number() }), 3);
+    for (const int highWord : { 7, 0, 0x8000 }) {
+        for (int row = 0; row < 3; ++row) {
+            SetText(0, row, std::to_string((row + 1) % 3).c_str());
+        }
+        Send(grid, HGM_SORT, MAKEWPARAM(0, highWord));
+        EXPECT_EQ(highWord ? "0" : "2", CellText(0, 0)) << highWord;
+        EXPECT_EQ(highWord ? "2" : "0", CellText(0, 2)) << highWord;
+    }
+}
+
 TEST_F(GridRowMessages, SortColumnsAreKept)
 {
     MakeGrid(GridOf({ Text() }), 1);
