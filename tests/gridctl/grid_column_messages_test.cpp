@@ -5,17 +5,7 @@
 
 namespace {
 
-class GridColumnMessages : public GridWindow {
-protected:
-    std::string Titles()
-    {
-        std::string titles;
-        for (int col = 0; col < HGColCount(ctl->pData); ++col) {
-            titles += HGGetField(ctl->pData, col)->pszTitle;
-        }
-        return titles;
-    }
-};
+class GridColumnMessages : public GridWindow {};
 
 TEST_F(GridColumnMessages, AddedColumnGetsItsControlAndKeepsTheRows)
 {

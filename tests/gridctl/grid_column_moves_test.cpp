@@ -5,14 +5,6 @@ namespace {
 
 class GridColumnMoves : public GridMouse {
 protected:
-    std::string Titles()
-    {
-        std::string text;
-        for (int col = 0; col < HGColCount(ctl->pData); ++col) {
-            text += HGGetField(ctl->pData, col)->pszTitle;
-        }
-        return text;
-    }
     // Whether a press drags columns; the button comes up inside its loop.
     bool DragsWhilePressed(int x, int y)
     {

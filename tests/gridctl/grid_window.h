@@ -75,6 +75,15 @@ protected:
         HGGetCellText(grid, col, row, text, sizeof text);
         return text;
     }
+    // Of all columns, in their order.
+    std::string Titles()
+    {
+        std::string titles;
+        for (int col = 0; col < HGColCount(ctl->pData); ++col) {
+            titles += HGGetField(ctl->pData, col)->pszTitle;
+        }
+        return titles;
+    }
     WORD RowFlags(int row) { return HGNodeFlags(HGRowNode(ctl->pData, row)); }
     WORD CellFlags(int col, int row) { return LoadAs<WORD>(HGCellFlagsPtr(ctl->pData, col, row)); }
     Cell Current() { return UnpackCell(static_cast<DWORD>(Send(grid, HGM_GETCURSOR))); }
