@@ -252,9 +252,8 @@ void* WINAPI HLListGetItem(HLList* list, int index)
         list->iCursor = list->cItems - 1;
         return list->pCursor;
     }
-    constexpr int farAway = 64; // nodes
-    if (index < list->iCursor || index - list->iCursor > farAway) {
-        HLListWalk(list, index);
+    if (index < list->iCursor) {
+        CursorToHead(list);
     }
     for (; list->iCursor < index; list->iCursor++) {
         list->pCursor = HNodeLink(list->pCursor);

@@ -65,8 +65,9 @@ private:
     int     place_;
 };
 
-// Takes the cursor of a list to an index that it has, or towards it, by way of nodes noted on earlier walks.
-void HLListWalk(HLList* list, int index);
+// HLListGetItem for lists whose nodes nobody but the library replaces: it goes by way of nodes noted on earlier walks,
+// so that a step back in a long list isn't a walk from its head. Links must be set with HSetNodeLink.
+void* HLListNodeAt(HLList* list, int index);
 // A node came or went at an index, and nothing else since nListChanges was changesBefore: what lies before stays noted.
 void HLListKeepTrail(const HLList* list, unsigned changesBefore, int index);
 

@@ -1,5 +1,4 @@
-// A trail of nodes through the list that was walked last. Links lead forwards only, so without it each step back in a
-// long list would be a walk from its head.
+// A trail of nodes through the long list that was walked last.
 #include "foundation/item_list.h"
 
 #include <algorithm>
@@ -70,18 +69,20 @@ void WalkOnTrail(HLList* list, int index)
 
 std::atomic<unsigned> nListChanges;
 
-void HLListWalk(HLList* list, int index)
+void* HLListNodeAt(HLList* list, int index)
 {
-    const TrailUse use;
-    if (use.granted) {
-        if (!IsTrailOf(list, nListChanges)) {
-            BeginTrail(list);
+    constexpr int farAway = 64; // nodes
+    const bool    isIndex = list && index >= 0 && index < list->cItems;
+    if (isIndex && (index < list->iCursor || index - list->iCursor > farAway)) {
+        const TrailUse use;
+        if (use.granted) {
+            if (!IsTrailOf(list, nListChanges)) {
+                BeginTrail(list);
+            }
+            WalkOnTrail(list, index);
         }
-        WalkOnTrail(list, index);
-    } else if (index < list->iCursor) {
-        list->pCursor = list->pHead;
-        list->iCursor = 0;
     }
+    return HLListGetItem(list, index);
 }
 
 void HLListKeepTrail(const HLList* list, unsigned changesBefore, int index)

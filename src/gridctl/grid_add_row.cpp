@@ -13,7 +13,7 @@ bool HasEntryRow(const HGridCtl* ctl)
 // Settled: the result is the row count, so the caller's row is the entry row and not the inserted one.
 int InsertBeforeEntryRow(HGridCtl* ctl, const void* data)
 {
-    const int inserted = HLListInsert(ctl->pData->pRows, LastRow(ctl), data);
+    const int inserted = HGInsertRowNode(ctl->pData, LastRow(ctl), data);
     return inserted < 0 ? -1 : static_cast<short>(HGRowCount(ctl->pData));
 }
 

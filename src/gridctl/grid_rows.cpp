@@ -6,13 +6,13 @@ namespace {
 int InsertNode(HGridCtl* ctl, const void* data, int row)
 {
     if (!HasFlag(ctl, HGC_VIRTUAL)) {
-        return HLListInsert(ctl->pData->pRows, row, data);
+        return HGInsertRowNode(ctl->pData, row, data);
     }
     const OfferedRow offered(ctl, data);
     if (!HGOfferRow(ctl, offered, HGSRC_INSERT, RecordOfRow(ctl, row)) || !HGHasRowRoom(ctl)) {
         return -1;
     }
-    const int index = HLListInsert(ctl->pData->pRows, row, offered.data);
+    const int index = HGInsertRowNode(ctl->pData, row, offered.data);
     // The row that the block drops for it is a record still.
     HGRaiseTotal(ctl);
     return index;
@@ -84,7 +84,7 @@ int RemoveRow(HGridCtl* ctl, int row, bool raiseBase)
     if (row < 0 || row > LastRow(ctl) || !WriteBack(ctl, row) || !EndEditOfRow(ctl, row)) {
         return 0;
     }
-    const int removed = HLListRemove(ctl->pData->pRows, row);
+    const int removed = HGRemoveRowNode(ctl->pData, row);
     if (removed) {
         MoveUp(ctl, row);
         ctl->lRowBase = RecordOfRow(ctl, raiseBase ? 1 : 0);

@@ -173,7 +173,20 @@ HGField* HGGetField(HGridData* grid, int col)
 
 void* HGRowNode(HGridData* grid, int row)
 {
-    return grid && row >= 0 ? HLListGetItem(grid->pRows, row) : nullptr;
+    return grid && row >= 0 ? HLListNodeAt(grid->pRows, row) : nullptr;
+}
+
+// The row before is looked up by way of noted nodes first, which leaves nothing to walk for the list.
+int HGInsertRowNode(HGridData* grid, int row, const void* data)
+{
+    HGRowNode(grid, row - 1);
+    return HLListInsert(grid->pRows, row, data);
+}
+
+int HGRemoveRowNode(HGridData* grid, int row)
+{
+    HGRowNode(grid, row - 1);
+    return HLListRemove(grid->pRows, row);
 }
 
 BYTE* HGRowData(HGridData* grid, int row)

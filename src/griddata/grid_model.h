@@ -50,6 +50,9 @@ BYTE*    HGRowData(HGridData* grid, int row);    // null out of range
 int      HGColToPos(HGridData* grid, int col);   // storage position, -1 if no position holds the column
 int      HGPosToCol(HGridData* grid, int pos);   // the column stored at a position, pos itself without a map
 
+int HGInsertRowNode(HGridData* grid, int row, const void* data); // as HLListInsert
+int HGRemoveRowNode(HGridData* grid, int row);                   // as HLListRemove
+
 int HGAddFld(HGridData* grid, HGField* field);   // for a grid without rows; the column's index, or -1
 int HGRemoveFld(HGridCtl* ctl, int col);         // 1, or 0
 int HGMoveFld(HGridData* grid, int from, int to); // what HLListMove gives, -1 for bad indexes

@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <random>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -25,7 +26,7 @@ public:
     LongList& operator=(const LongList&) = delete;
 
     int Count() const { return static_cast<int>(values.size()); }
-    int ValueAt(int index) const { return LoadAs<int>(HNodePayload(HLListGetItem(list, index))); }
+    int ValueAt(int index) const { return LoadAs<int>(HNodePayload(HLListNodeAt(list, index))); }
 
     testing::AssertionResult Finds(int index) const
     {
@@ -38,11 +39,13 @@ public:
     }
     void Insert(int index, int value)
     {
+        HLListNodeAt(list, index - 1);
         EXPECT_EQ(index, HLListInsert(list, index, &value));
         values.insert(values.begin() + index, value);
     }
     void Remove(int index)
     {
+        HLListNodeAt(list, index - 1);
         EXPECT_EQ(1, HLListRemove(list, index));
         values.erase(values.begin() + index);
     }
@@ -127,6 +130,24 @@ TEST(LongItemList, EmptiedAndFilledAgainHasNewPlaces)
     for (int index = 999; index >= 0; --index) {
         ASSERT_TRUE(items.Finds(index));
     }
+}
+
+// An owner may put other nodes in place of its own, and knows of no notes.
+TEST(LongItemList, LookupByTheCursorFollowsTheNodesThatTheOwnerPutIn)
+{
+    const LongList items(1000);
+    ASSERT_TRUE(items.Finds(900));
+    HLList* const other = HLListDup(items.list);
+    std::swap(*items.list, *other);
+    for (int index = 999; index >= 0; index -= 7) {
+        ASSERT_EQ(index, LoadAs<int>(HNodePayload(HLListGetItem(items.list, index))));
+        ASSERT_NE(HLListGetItem(other, index), HLListGetItem(items.list, index));
+    }
+    HLListEmpty(other);
+    for (int index = 999; index >= 0; index -= 7) {
+        ASSERT_EQ(index, LoadAs<int>(HNodePayload(HLListGetItem(items.list, index))));
+    }
+    HLListDestroy(other);
 }
 
 // Walks from the head would take a minute.
