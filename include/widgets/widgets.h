@@ -1640,9 +1640,9 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGM_GETCURSOR 1350
 /** wParam: non-zero extends the selection. lParam: packed cell to move to; host code runs inside. Default. */
 #define HGM_SETCURSOR 1351
-/** Gives wFlags. */
+/** Gives wFlags, without the bits 0x0300, which are the library's own. */
 #define HGM_GETFLAGS 1352
-/** wParam: 0 clears, else sets. lParam: mask on wFlags. Default. */
+/** wParam: 0 clears, else sets. lParam: mask on wFlags; the bits 0x0300 stay as they are. Default. */
 #define HGM_SETFLAGS 1353
 /** wParam: size. lParam: buffer. Copies the grid's title. Gives the count copied. */
 #define HGM_GETTITLE 1354
