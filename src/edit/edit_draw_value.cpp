@@ -86,13 +86,21 @@ bool DrawLine(HDC hdc, const RECT* rect, const DrawnRun& run)
     return fits == run.count;
 }
 
-// Lines below the rectangle aren't drawn: the height of them all tells whether there are any.
+int LineHeight(HDC hdc)
+{
+    TEXTMETRICA metrics = {};
+    GetTextMetricsA(hdc, &metrics);
+    return metrics.tmHeight;
+}
+
+// Lines that don't fit the rectangle aren't drawn, but for the first one: the height of them all tells whether there are
+// any.
 bool DrawWrapped(HDC hdc, RECT* rect, const DrawnRun& run)
 {
     RECT whole = *rect;
     DrawTextA(hdc, run.text, run.count, &whole, wrapFlags | DT_CALCRECT);
     DrawTextA(hdc, run.text, run.count, rect, wrapFlags);
-    return whole.bottom <= rect->bottom;
+    return whole.bottom <= rect->bottom || whole.bottom - whole.top <= LineHeight(hdc);
 }
 
 // A grid that is the parent of the field tells by its rows whether two lines have room.

@@ -71,11 +71,16 @@ void FinishEntry(HEditCtl* ctl)
         entry->redrawOff = false;
         SendMessageA(hwnd, WM_SETREDRAW, TRUE, 0);
     }
+    bool changed = false;
     if (entry->state == EntryScope::Open && IsWindow(hwnd) && Restore(ctl, *entry)) {
         entry->state = EntryScope::Finishing;
         entry->step(ctl, entry->entered);
+        changed = IsWindow(hwnd) && std::strcmp(FieldText(ctl), entry->text) != 0;
     }
     for (EntryScope* each = entry; each; each = each->outer) {
         each->state = EntryScope::Over;
+    }
+    if (changed) {
+        Tell(ctl, HEN_CHANGE);
     }
 }

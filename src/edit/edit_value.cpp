@@ -144,6 +144,25 @@ int RoomWithoutLimit(const HEditCtl* ctl)
     return std::max({ defaultLimit, value, TextLength(ctl) });
 }
 
+// The callback hears of a value that was set, and its answer isn't looked at. It may take the focus: what was typed before
+// is over then, and the value isn't in the link yet. False if the window went.
+bool ShowToValidator(HEditCtl* ctl)
+{
+    if (!ctl->pfnValidate) {
+        return true;
+    }
+    const HWND hwnd = ctl->hWnd;
+    const bool wasCommitting = HasFlag(ctl, HEF_COMMITTING);
+    SetFlag(ctl, HEF_DIRTY, false);
+    SetFlag(ctl, HEF_COMMITTING, true);
+    ctl->pfnValidate(hwnd, static_cast<int>(ctl->wId), ctl->pData);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    SetFlag(ctl, HEF_COMMITTING, wasCommitting);
+    return true;
+}
+
 // The whole field is repainted anyway.
 void SelectAfterSet(HEditCtl* ctl)
 {
@@ -169,7 +188,8 @@ void RefreshText(HEditCtl* ctl, bool editForm)
     if (!editForm && HasFlag(ctl, CF_NULL)) {
         _fstrnzcpy(ctl->pszText, ctl->pszEmpty, ctl->cbText);
     } else {
-        if (ctl->pLinked) {
+        // While a commit is under way its value isn't in the link yet.
+        if (ctl->pLinked && !HasFlag(ctl, HEF_COMMITTING)) {
             CopyValue(ctl, ctl->pData, ctl->pLinked);
         }
         ShowValue(ctl, editForm);
@@ -189,11 +209,8 @@ int WINAPI HEditSetData(void* record, const void* data)
         return noMemory;
     }
     const HWND hwnd = ctl->hWnd;
-    if (ctl->pfnValidate) {
-        ctl->pfnValidate(hwnd, static_cast<int>(ctl->wId), ctl->pData);
-        if (!IsWindow(hwnd)) {
-            return 1;
-        }
+    if (!ShowToValidator(ctl)) {
+        return 1;
     }
     if (ctl->pLinked && ctl->pLinked != data) {
         CopyValue(ctl, ctl->pLinked, ctl->pData);

@@ -153,7 +153,7 @@ LRESULT CALLBACK HEditMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 {
     const MsgArgs args = { hwnd, message, wParam, lParam, pDefault };
     HEditCtl* const ctl = static_cast<HEditCtl*>(record);
-    if (message == WM_NCCREATE) {
+    if (IsCreation(args, record)) {
         return OnNcCreate(args);
     }
     if (!ctl) {

@@ -263,6 +263,19 @@ TEST_F(EditDrawValue, TextOfMoreLinesThanTheRowHoldsIsMarked)
     EXPECT_EQ(3, canvas.Shot().Count(mark, canvas.Shot().Bounds()));
 }
 
+TEST_F(EditDrawValue, OneLineInALowRowThatWrapsHasNoMark)
+{
+    Make("%ss");
+    data.nMinRowHeight = 0;
+    data.nRowHeight = 12;
+    for (const char* const text : { "HHH", "HHHHHHHH HHHHHHHH" }) {
+        canvas.Fill(white);
+        rect = { left, top, right, top + 12 };
+        HEDrawValue(Ctl(), canvas.hdc(), &rect, brush, text, 0, &data, 0);
+        EXPECT_EQ(text[3] != 0, IsMarked(canvas.Shot())) << text;
+    }
+}
+
 TEST_F(EditDrawValue, RowOfLessThanTwoLinesHoldsOne)
 {
     Make("%ss");

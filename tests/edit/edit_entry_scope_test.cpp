@@ -1,6 +1,7 @@
 // Entries during which the host takes the focus: what is committed is never half of a keystroke.
 #include "edit_window.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -75,6 +76,20 @@ TEST_F(EditEntryScope, FocusTakenFromTheMiddleFindsTheEntryFinished)
             EXPECT_EQ(entry.after, Text()) << entry.what << ", " << n;
             EXPECT_TRUE(IsWindowVisible(edit)) << entry.what << ", " << n;
         }
+    }
+}
+
+TEST_F(EditEntryScope, HostThatTakesTheFocusHearsOfTheChangeAllTheSame)
+{
+    for (const Entry& entry : entries) {
+        Make();
+        At(1, [this] {
+            SetFocus(parent.hwnd());
+            Focus();
+        });
+        entry.run(edit);
+        EXPECT_EQ(entry.after, Text()) << entry.what;
+        EXPECT_EQ(1, std::ranges::count(Told(), HEN_CHANGE)) << entry.what;
     }
 }
 

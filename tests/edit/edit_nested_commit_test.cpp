@@ -144,4 +144,160 @@ TEST_F(EditNestedCommit, ItsFlagIsNeitherShownNorSet)
     EXPECT_EQ(100, LoadAs<int>(Ctl()->pData)) << "the bit that was set stopped nothing";
 }
 
+constexpr int own = 7; // of the host
+
+int CALLBACK RefuseAndReplace(HWND, int, void* value)
+{
+    if (LoadAs<int>(value) == own) {
+        return 0;
+    }
+    SendMessageA(gField, HEM_SETDATA, 0, AsParam(&own));
+    return 1;
+}
+
+TEST_F(EditNestedCommit, ValueThatTheHostPutsInWhenToldOfAnotherStays)
+{
+    struct Case {
+        const char* text;
+        int         code;
+    };
+    constexpr Case cases[] = { { "42", HEN_ABOVEMAX }, { "1", HEN_BELOWMIN } };
+    for (const Case& c : cases) {
+        edit = nullptr;
+        Create("%nl|5;10;|");
+        Focus();
+        parent.On(c.code, [this] { Send(HEM_SETDATA, 0, AsParam(&own)); });
+        Replace(c.text);
+        Blur();
+        EXPECT_EQ(own, Number()) << c.text;
+        EXPECT_FALSE(HasFlag(Ctl(), CF_CHANGED)) << c.text;
+        parent.On(c.code, nullptr);
+    }
+}
+
+TEST_F(EditNestedCommit, ValueThatTheValidatorPutsInStays)
+{
+    Create("%nl");
+    gField = edit;
+    Send(HEM_SETVALIDATOR, 0, reinterpret_cast<LPARAM>(RefuseAndReplace));
+    Focus();
+    Replace("42");
+    Blur();
+    EXPECT_EQ(own, Number());
+    EXPECT_FALSE(HasFlag(Ctl(), CF_CHANGED));
+}
+
+TEST_F(EditNestedCommit, FocusThatIsToldTwiceLeavesWhatWasTyped)
+{
+    Create("abc");
+    Focus();
+    Replace("typed");
+    Send(WM_SETFOCUS);
+    EXPECT_EQ("typed", Text());
+}
+
+// A box that a host shows takes the focus and gives it back.
+void ShowBox()
+{
+    SetFocus(GetParent(gField));
+    SetFocus(gField);
+}
+
+int CALLBACK AcceptByABox(HWND, int, void*)
+{
+    ShowBox();
+    return 0;
+}
+
+int CALLBACK RefuseByABox(HWND, int, void*)
+{
+    ShowBox();
+    return 1;
+}
+
+class EditLinkedCommit : public EditNestedCommit {
+protected:
+    void MakeLinked(const char* window)
+    {
+        Make(window);
+        gField = edit;
+        linked_ = 6;
+        Send(HEM_LINKDATA, 1, AsParam(&linked_));
+        Send(HEM_SETVALIDATOR, 0, 0);
+        Replace("88");
+    }
+    int linked_ = 0;
+};
+
+TEST_F(EditLinkedCommit, ValueThatABoxAcceptsStaysAndIsLinked)
+{
+    for (const bool leaves : { false, true }) {
+        MakeLinked("%nl");
+        Send(HEM_SETVALIDATOR, 0, reinterpret_cast<LPARAM>(AcceptByABox));
+        if (leaves) {
+            Blur();
+        } else {
+            EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+        }
+        EXPECT_EQ(88, LoadAs<int>(Ctl()->pData)) << leaves;
+        EXPECT_EQ(88, linked_) << leaves;
+        EXPECT_EQ("88", Text()) << leaves;
+        EXPECT_TRUE(HasFlag(Ctl(), CF_CHANGED)) << leaves;
+        DestroyWindow(edit);
+    }
+}
+
+TEST_F(EditLinkedCommit, TextThatIsRefusedOnLeavingIsThereWhenTheFocusComesBack)
+{
+    MakeLinked("%nl");
+    Send(HEM_SETVALIDATOR, 0, reinterpret_cast<LPARAM>(RefuseByABox));
+    Blur();
+    Focus();
+    EXPECT_EQ("88", Text());
+}
+
+TEST_F(EditLinkedCommit, ValueBehindABoundThatAVetoKeepsIsLinked)
+{
+    MakeLinked("%nl|0;50;|");
+    parent.On(HEN_ABOVEMAX, [this] {
+        ShowBox();
+        SetFlag(Ctl(), CF_CANCEL, true);
+    });
+    Replace("150");
+    EXPECT_EQ(0, Send(HEM_COMMIT, 1, 0));
+    EXPECT_EQ(150, LoadAs<int>(Ctl()->pData));
+    EXPECT_EQ(150, linked_);
+    EXPECT_EQ("150", Text());
+}
+
+TEST_F(EditLinkedCommit, ValueThatIsSetStaysThoughItsValidatorTakesTheFocus)
+{
+    constexpr int set = 5;
+    for (const bool typed : { true, false }) {
+        MakeLinked("%nl");
+        if (!typed) {
+            Send(HEM_COMMIT, 1, 0);
+        }
+        Send(HEM_SETVALIDATOR, 0, reinterpret_cast<LPARAM>(AcceptByABox));
+        EXPECT_EQ(1, Send(HEM_SETDATA, 0, AsParam(&set)));
+        EXPECT_EQ(5, LoadAs<int>(Ctl()->pData)) << typed;
+        EXPECT_EQ(5, linked_) << typed;
+        EXPECT_EQ("5", Text()) << typed;
+        EXPECT_FALSE(HasFlag(Ctl(), CF_CHANGED)) << typed;
+        DestroyWindow(edit);
+    }
+}
+
+TEST_F(EditNestedCommit, ValueThatIsSetIsNotOverrunByWhatWasTypedBefore)
+{
+    constexpr int set = 5;
+    Make("%nl");
+    gField = edit;
+    Replace("88");
+    Send(HEM_SETVALIDATOR, 0, reinterpret_cast<LPARAM>(AcceptByABox));
+    EXPECT_EQ(1, Send(HEM_SETDATA, 0, AsParam(&set)));
+    EXPECT_EQ(5, LoadAs<int>(Ctl()->pData));
+    EXPECT_EQ("5", Text());
+}
+
 } // namespace
