@@ -87,6 +87,8 @@ int  HLMaxItemWidth(HListCtl* ctl);
 void HLRecalc(HListCtl* ctl);
 bool HLItemRect(HListCtl* ctl, int index, RECT* out); // false: out of view
 void HLInvalidateItem(HListCtl* ctl, int index, bool erase);
+// Where several items are selected, all of them lose their marks to the item under the mouse, and get them back.
+void HLInvalidateSelected(HListCtl* ctl);
 RECT HLRangeRect(HListCtl* ctl, int a, int b); // all items from a to b that are in view, and maybe some more
 void HLInvalidateRange(HListCtl* ctl, int a, int b, bool erase);
 int  HLItemFromPoint(HListCtl* ctl, int x, int y);

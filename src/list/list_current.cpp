@@ -13,6 +13,7 @@ void EndHotTrack(HListCtl* ctl)
 {
     if (ctl->nHot != -1) {
         HLInvalidateItem(ctl, ctl->nHot, true);
+        HLInvalidateSelected(ctl);
         ctl->nHot = -1;
     }
 }
@@ -73,15 +74,18 @@ void ValidateRange(HListCtl* ctl, int index)
 // empty list it is on no item.
 void ClickAlone(HListCtl* ctl, int index, bool shift)
 {
+    const bool drags = HasFlag(ctl, HLF_TRACKING);
+    if (drags) {
+        SetFlag(ctl, HLF_DRAGSET, true); // or the items up to the current one would count as cleared by an older drag
+    }
     HLSelectMany(ctl, HLSEL_CLEAR, HLI_SELECTED, 0, nullptr);
-    if (HasFlag(ctl, HLF_TRACKING)) {
+    if (drags) {
         // The rest is left to the drag that begins here.
         if (shift) {
             HLInvalidateRange(ctl, ctl->nAnchor, index, false);
         } else {
             HLInvalidateItem(ctl, index, false);
         }
-        SetFlag(ctl, HLF_DRAGSET, true);
     } else if (shift) {
         ValidateRange(ctl, index);
         HLSelectRange(ctl, ctl->nAnchor, index, HLSEL_SET);

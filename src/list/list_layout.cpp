@@ -215,6 +215,13 @@ void HLInvalidateItem(HListCtl* ctl, int index, bool erase)
     }
 }
 
+void HLInvalidateSelected(HListCtl* ctl)
+{
+    if (!HasFlag(ctl, HLF_SINGLESEL) && HLListCount(ctl->pSelected) > 0) {
+        InvalidateRect(ctl->hWnd, nullptr, TRUE);
+    }
+}
+
 // An item out of view counts with the edge behind which it lies. Where the range goes on in another column, the columns
 // count as a whole: items between the two lie above and below both.
 RECT HLRangeRect(HListCtl* ctl, int a, int b)

@@ -376,7 +376,8 @@ LRESULT OnGetTop(HListCtl* ctl, const MsgArgs&)
 LRESULT OnSetTop(HListCtl* ctl, const MsgArgs& args)
 {
     const int step = HasStyle(ctl, HLS_MULTICOLUMN) ? std::max<int>(ctl->cRows, 1) : 1;
-    const int index = std::clamp(IndexOf(args), -HLCount(ctl), HLCount(ctl));
+    constexpr int farthest = 0x3FFFFFFF; // subtracting the first item from it still fits
+    const int     index = std::clamp(IndexOf(args), -farthest, farthest);
     HLScroll(ctl, (index - ctl->nTop) / step);
     return IsWindow(args.hwnd) ? ctl->nTop : 0;
 }

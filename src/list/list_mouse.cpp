@@ -31,7 +31,12 @@ void MarkHot(HListCtl* ctl, int index)
     if (index == ctl->nHot || IsMovingKeyDown()) {
         return;
     }
-    HLInvalidateItem(ctl, ctl->nHot == -1 ? HLCurIndex(ctl) : static_cast<int>(ctl->nHot), true);
+    if (ctl->nHot == -1) {
+        HLInvalidateItem(ctl, HLCurIndex(ctl), true);
+        HLInvalidateSelected(ctl);
+    } else {
+        HLInvalidateItem(ctl, ctl->nHot, true);
+    }
     HLInvalidateItem(ctl, index, true);
     ctl->nHot = index;
 }

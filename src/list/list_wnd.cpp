@@ -297,7 +297,7 @@ LRESULT CALLBACK HListMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 {
     const MsgArgs args = { hwnd, message, wParam, lParam, pDefault };
     HListCtl* const ctl = static_cast<HListCtl*>(record);
-    if (message == WM_NCCREATE) {
+    if (IsCreation(args, record)) {
         return HLOnNcCreate(args);
     }
     if (!ctl) {

@@ -500,6 +500,41 @@ TEST_F(ListInput, MouseMarksNothingWhileAKeyMovesTheCurrentItem)
     }
 }
 
+TEST_F(ListInput, PlainClickClearsARangeThatKeysMadeAfterADeselection)
+{
+    MakeWith(HLS_EXTSEL, 8, 20);
+    ClickAt(list, 5, MiddleOf(0));
+    ClickAt(list, 5, MiddleOf(0), withCtrl);
+    TypeKey(VK_DOWN, withShift);
+    TypeKey(VK_DOWN, withShift);
+    ASSERT_EQ((Ints{ 0, 1, 2 }), Selected());
+    ClickAt(list, 5, MiddleOf(4));
+    EXPECT_EQ((Ints{ 4 }), Selected());
+}
+
+TEST_F(ListInput, HotItemTakesTheMarksOfAllSelectedOnes)
+{
+    MakeWith(HLS_EXTSEL, 6, 10);
+    MoveMouse(list, 400, 300); // away from where the list below appears
+    MakeWith(HLS_HOTTRACK | HLS_EXTSEL, 6, 10);
+    for (const int index : { 1, 2, 4 }) {
+        HLSelectItem(list, index, HLSEL_SET);
+    }
+    UpdateWindow(list);
+    const auto showsWhatARepaintWould = [this] {
+        UpdateWindow(list);
+        const Pixels shown = ShotOf(list);
+        RedrawWindow(list, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        return SamePixels(shown, ShotOf(list));
+    };
+    MoveMouse(list, 5, MiddleOf(3));
+    ASSERT_EQ(3, +Ctl()->nHot);
+    EXPECT_TRUE(showsWhatARepaintWould());
+    Send(HLM_SETCURRENT, 0);
+    ASSERT_EQ(-1, +Ctl()->nHot);
+    EXPECT_TRUE(showsWhatARepaintWould());
+}
+
 TEST_F(ListInput, DragThatStaysOnTheLastItemScrollsItIntoViewWhole)
 {
     Make("%ss", HLS_NOINTEGRAL);

@@ -365,6 +365,19 @@ TEST_F(ListLayout, StylesThatAFieldCannotHaveAreDropped)
     EXPECT_FALSE(Send(HLM_GETSTYLE) & WS_VSCROLL);
 }
 
+TEST_F(ListLayout, TopBehindTheEndIsTheHighestPositionWithColumnsToo)
+{
+    Make("%ss", HLS_MULTICOLUMN | HLS_NOSCROLL, 59, 70);
+    Fill(7);
+    Send(HLM_SETCOLUMNWIDTH, 90);
+    ASSERT_EQ(1, +Ctl()->cCols);
+    Send(HLM_SCROLL, 100);
+    const int highest = Top();
+    Send(HLM_SCROLL, -100);
+    EXPECT_EQ(highest, Send(HLM_SETTOP, 100));
+    EXPECT_EQ(0, Send(HLM_SETTOP, static_cast<WPARAM>(-1000)));
+}
+
 TEST_F(ListLayout, ColumnWidthOfTheHostStays)
 {
     Make();
