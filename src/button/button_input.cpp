@@ -125,9 +125,23 @@ LRESULT OnSetFocus(HButtCtl* ctl)
     return 0;
 }
 
-// Settled: a space bar that is held keeps the capture; the key's going up ends it wherever the focus is.
+// The space bar that is held goes up elsewhere: with the capture kept, the next click would be no click.
+void EndSpacePress(HButtCtl* ctl, HWND hwnd)
+{
+    SetFlag(ctl, HBF_SPACEDOWN, false);
+    if (IsCaptured(hwnd)) {
+        ReleaseCapture();
+    }
+}
+
 LRESULT OnKillFocus(HButtCtl* ctl, const MsgArgs& args)
 {
+    if (HasFlag(ctl, HBF_SPACEDOWN)) {
+        EndSpacePress(ctl, args.hwnd);
+    }
+    if (!IsAlive(ctl)) {
+        return 0;
+    }
     const bool transparent = HasStyle(ctl, HBS_TRANSPARENT);
     if (transparent) {
         // The parent's background is fresh before the focus rectangle goes.

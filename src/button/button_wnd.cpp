@@ -84,7 +84,7 @@ LRESULT CALLBACK HButtMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 {
     const MsgArgs   args = { hwnd, message, wParam, lParam, pDefault };
     HButtCtl* const ctl = static_cast<HButtCtl*>(record);
-    if (message == WM_NCCREATE) {
+    if (IsCreation(args, record)) {
         return HBOnNcCreate(args);
     }
     if (!ctl) {

@@ -265,7 +265,7 @@ LRESULT CALLBACK HCombMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 {
     const MsgArgs   args = { hwnd, message, wParam, lParam, pDefault };
     HCombCtl* const ctl = static_cast<HCombCtl*>(record);
-    if (message == WM_NCCREATE) {
+    if (IsCreation(args, record)) {
         return OnNcCreate(args);
     }
     if (!ctl) {

@@ -164,7 +164,10 @@ int WINAPI IsStdMessage(void* record, UINT message, WPARAM wParam, LPARAM lParam
         return 0;
     }
     // Bounded: a window that has lost its record answers 0 to all of them.
-    *outResult = record ? handler(static_cast<ControlHeader*>(record), wParam, lParam) : 0;
+    const LRESULT result = record ? handler(static_cast<ControlHeader*>(record), wParam, lParam) : 0;
+    if (outResult) {
+        *outResult = result;
+    }
     return 1;
 }
 

@@ -23,6 +23,13 @@ inline LRESULT AskDefault(const MsgArgs& args)
     return 0;
 }
 
+// Whether a window is to get its record now. Bounded: a creation that a host sends by itself brings nothing to create
+// from, or meets a record that is there already.
+inline bool IsCreation(const MsgArgs& args, const void* record)
+{
+    return args.message == WM_NCCREATE && args.lParam && !record;
+}
+
 template <typename Handler>
 struct MessageEntry {
     UINT    message;

@@ -141,7 +141,7 @@ LRESULT CALLBACK HGridMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 {
     const MsgArgs args = { hwnd, message, wParam, lParam, pDefault };
     HGridCtl* const ctl = static_cast<HGridCtl*>(record);
-    if (message == WM_NCCREATE) {
+    if (IsCreation(args, record)) {
         return HGOnNcCreate(args);
     }
     if (ctl && message == WM_NCDESTROY) {

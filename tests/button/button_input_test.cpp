@@ -170,6 +170,26 @@ TEST_F(ButtonInput, FocusLetsGoOfThePress)
     EXPECT_FALSE(IsPressed());
 }
 
+TEST_F(ButtonInput, FocusThatGoesEndsThePressOfTheSpaceBar)
+{
+    for (const DWORD style : { DWORD{ HBS_TRANSPARENT }, DWORD{ 0 } }) {
+        Make("x", style);
+        Focus();
+        Send(WM_KEYDOWN, VK_SPACE);
+        ASSERT_EQ(button, GetCapture());
+        SetFocus(parent.hwnd());
+        EXPECT_EQ(nullptr, GetCapture());
+        EXPECT_FALSE(Ctl()->wFlags & HBF_SPACEDOWN);
+        EXPECT_FALSE(IsPressed());
+        parent.ClearCounts();
+        Down();
+        EXPECT_TRUE(IsPressed());
+        Up();
+        EXPECT_EQ(1, Clicks());
+        EXPECT_FALSE(IsPressed());
+    }
+}
+
 TEST_F(ButtonInput, DialogsGiveItNoKeysOfItsOwn)
 {
     Make("x");

@@ -126,6 +126,24 @@ TEST_F(DllFrame, AnswersWithoutAWindowProcedure)
     EXPECT_EQ(1, IsStdMessage(&record, WWM_ISNULL, 0, 0, &result));
     EXPECT_EQ(1, result);
     EXPECT_EQ(0, IsStdMessage(&record, WM_USER, 0, 0, &result));
+    EXPECT_EQ(1, IsStdMessage(&record, WWM_CANCEL, 0, 0, nullptr)) << "the result is nobody's";
+    EXPECT_TRUE(record.wFlags & CF_CANCEL);
+}
+
+TEST_F(DllFrame, CreationThatAHostSendsItselfCreatesNothing)
+{
+    for (const char* const name : { "HButt", "HEdit", "HEdit_SS", "HList", "HComb", "HDrop", "HGrid" }) {
+        const HWND    control = Create(name, "", 0, 78);
+        const LRESULT state = Send(control, WWM_GETSTATE);
+        EXPECT_NE(0, state) << name;
+        Send(control, WM_NCCREATE);
+        CREATESTRUCTA create = {};
+        create.lpszName = "";
+        create.hwndParent = parent.hwnd();
+        Send(control, WM_NCCREATE, 0, reinterpret_cast<LPARAM>(&create));
+        EXPECT_EQ(state, Send(control, WWM_GETSTATE)) << name;
+        DestroyWindow(control);
+    }
 }
 
 TEST_F(DllFrame, AsksItsParentForBrushes)
