@@ -1,36 +1,27 @@
 // What a list shows: highlight, colours, the field, the focus rectangle, owner drawing, and values drawn elsewhere.
-#include "foundation/startup.h"
 #include "griddata/grid_model.h"
-#include "list_window.h"
-#include "support/pixels.h"
+#include "list_brushes.h"
 
 namespace {
 
-constexpr COLORREF paper = RGB(200, 230, 250);
-constexpr COLORREF otherPaper = RGB(250, 230, 200);
 constexpr COLORREF ink = RGB(180, 0, 0);
 constexpr COLORREF negativeInk = RGB(0, 120, 0);
 constexpr COLORREF markInk = 0x00A00000;
 
-class ListPaintTest : public ListWindow {
+class ListPaintTest : public ListBrushes {
 protected:
-    ListPaintTest() : brush(CreateSolidBrush(paper)), otherBrush(CreateSolidBrush(otherPaper))
+    ListPaintTest()
     {
         font = CreateFontA(-13, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, OUT_DEFAULT_PRECIS,
                            CLIP_DEFAULT_PRECIS, NONANTIALIASED_QUALITY, DEFAULT_PITCH, "Tahoma");
-        parent.OnMessage(WM_CTLCOLORLISTBOX, [this](WPARAM, LPARAM) { return reinterpret_cast<LRESULT>(brush); });
         parent.OnMessage(WM_CTLCOLORSTATIC, [this](WPARAM, LPARAM) { return reinterpret_cast<LRESULT>(otherBrush); });
-        SetCursorPos(900, 700); // away from the list
     }
     ~ListPaintTest() override
     {
-        hFocusBrush = nullptr;
         if (IsWindow(list)) {
             DestroyWindow(list);
         }
         DeleteObject(font);
-        DeleteObject(brush);
-        DeleteObject(otherBrush);
     }
     void MakePainted(const char* text, DWORD style, int rows = 5)
     {
@@ -46,8 +37,6 @@ protected:
     // A row of the shot without its first pixels on the left, where the text stands, and without its border.
     static RECT Right(const RECT& row) { return { row.left + 120, row.top + 1, row.right - 2, row.bottom - 1 }; }
 
-    HBRUSH   brush;
-    HBRUSH   otherBrush;
     HFONT    font;
     COLORREF highlight = GetSysColor(COLOR_HIGHLIGHT);
     COLORREF highlightText = GetSysColor(COLOR_HIGHLIGHTTEXT);

@@ -1,31 +1,13 @@
 // What a list repaints: ranges over several columns, the narrowest update rectangles, borders, tabs and brushes.
-#include "foundation/startup.h"
 #include "griddata/grid_model.h"
-#include "list_window.h"
-#include "support/pixels.h"
+#include "list_brushes.h"
 
 namespace {
 
-constexpr COLORREF paper = RGB(200, 230, 250);
-constexpr COLORREF otherPaper = RGB(250, 230, 200);
 constexpr COLORREF scribble = RGB(255, 0, 255);
 
-class ListRepaint : public ListWindow {
+class ListRepaint : public ListBrushes {
 protected:
-    ListRepaint() : brush(CreateSolidBrush(paper)), otherBrush(CreateSolidBrush(otherPaper))
-    {
-        parent.OnMessage(WM_CTLCOLORLISTBOX, [this](WPARAM, LPARAM) { return reinterpret_cast<LRESULT>(brush); });
-        SetCursorPos(900, 700); // away from the list
-    }
-    ~ListRepaint() override
-    {
-        hFocusBrush = nullptr;
-        if (IsWindow(list)) {
-            DestroyWindow(list);
-        }
-        DeleteObject(brush);
-        DeleteObject(otherBrush);
-    }
     // Columns of 60 pixels, all of them in view.
     void MakeColumns(DWORD style, int rows, int count)
     {
@@ -52,9 +34,6 @@ protected:
         DeleteObject(pen);
         ReleaseDC(list, hdc);
     }
-
-    HBRUSH brush;
-    HBRUSH otherBrush;
 };
 
 TEST_F(ListRepaint, DragOverSeveralColumnsShowsItsWholeRange)
