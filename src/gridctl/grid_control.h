@@ -196,6 +196,8 @@ void HGDropCursorUser();
 // Editing
 extern HWND gUnstored; // the grid that has taken the focus from its editor and not read it yet, or null
 bool HGIsEditable(HGridCtl* ctl, int col); // false for a column that doesn't exist
+bool HGHoldsFocus(HWND window, HWND focus); // in the window or in a child of it
+bool HGIsInEdit(const HGridCtl* ctl);       // an edit is under way, and the focus is in the grid
 void HGTakeEditor(HGridCtl* ctl);          // gives the current cell its column's control, loaded but not shown
 bool HGBeginColumnChange(HGridCtl* ctl, bool* shown); // false if the window went; shown is for the end
 void HGEndColumnChange(HGridCtl* ctl, bool shown);

@@ -115,12 +115,6 @@ bool StillHolds(HGridCtl* ctl, HWND editor, const char* value)
     return same;
 }
 
-// In a combo it is the face that has the focus.
-bool HoldsFocus(HWND editor, HWND focus)
-{
-    return editor && focus && (focus == editor || IsChild(editor, focus));
-}
-
 // Whether what was read is still to be stored. A host that heard of it meanwhile may have moved on, which has stored it, or
 // may have put another value into the editor; that is asked only where the focus has gone elsewhere since.
 bool IsStillToStore(HGridCtl* ctl, HWND editor, Cell cell, HWND focus)
@@ -178,6 +172,18 @@ bool HGIsEditable(HGridCtl* ctl, int col)
     const HGField* const field = HGGetField(ctl->pData, col);
     return field && (field->wFlags & HFF_READONLY) == 0 && !HasStyle(ctl, HGS_READONLY);
 }
+// In a combo it is the face that has the focus.
+bool HGHoldsFocus(HWND window, HWND focus)
+{
+    return window && focus && (focus == window || IsChild(window, focus));
+}
+
+// The bit alone stays when the focus goes elsewhere, so that it comes back to the editor.
+bool HGIsInEdit(const HGridCtl* ctl)
+{
+    return HasFlag(ctl, HGC_INEDIT) && HGHoldsFocus(ctl->hWnd, GetFocus());
+}
+
 
 void HGTakeEditor(HGridCtl* ctl)
 {
@@ -255,7 +261,7 @@ int HGReadEditor(HGridCtl* ctl)
     }
     const bool hasValue = ReadValue(editor, field, buffer);
     // A control that takes the focus back has a validator that refuses the value.
-    const bool refused = !HoldsFocus(editor, focus) && HoldsFocus(editor, GetFocus());
+    const bool refused = !HGHoldsFocus(editor, focus) && HGHoldsFocus(editor, GetFocus());
     int written = IsWindow(hwnd) && !refused;
     if (written && IsStillToStore(ctl, editor, cell, focus) && IsWindow(hwnd)) {
         written = WriteRead(ctl, editor, hasValue ? buffer : nullptr);
@@ -302,7 +308,7 @@ int HGCommitEdit(HGridCtl* ctl)
     if (!inEdit || !IsWindow(hwnd)) {
         return inEdit ? 0 : 1;
     }
-    if (taken && HoldsFocus(ctl->hEditor, GetFocus())) {
+    if (taken && HGHoldsFocus(ctl->hEditor, GetFocus())) {
         return 0; // refused, as below
     }
     gUnstored = nullptr;
@@ -357,7 +363,7 @@ int HGDetachEditor(HGridCtl* ctl)
 
 void HGForgetRefused(HGridCtl* ctl)
 {
-    if (HoldsFocus(ctl->hEditor, GetFocus())) {
+    if (HGHoldsFocus(ctl->hEditor, GetFocus())) {
         HGLoadEditor(ctl);
     }
 }

@@ -42,6 +42,10 @@ bool ReturnToEditor(HGridCtl* ctl)
     const HWND hwnd = ctl->hWnd;
     if (!IsWindow(ctl->hEditor)) {
         SetFlag(ctl, HGC_INEDIT, false);
+        // What the host has selected while the focus was elsewhere isn't on the screen yet.
+        if (!HasStyle(ctl, HGS_KEEPSEL)) {
+            HGRedrawSelection(ctl);
+        }
         return true;
     }
     SetFocus(ctl->hEditor);
