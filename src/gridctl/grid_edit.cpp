@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <cstring>
 
-HWND gUnstored;
-
 namespace {
 
 // How a cell control takes and gives its value, by kind. A code message of 0: the kind has no codes of its own.
@@ -302,7 +300,7 @@ int HGHideEditor(HGridCtl* ctl)
 int HGCommitEdit(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    const bool inEdit = HasFlag(ctl, HGC_INEDIT) || gUnstored == hwnd;
+    const bool inEdit = HasFlag(ctl, HGC_INEDIT) || IsUnstored(ctl);
     const HWND focus = GetFocus();
     const bool taken = focus && IsChild(hwnd, focus) && SetFocus(hwnd);
     if (!inEdit || !IsWindow(hwnd)) {
@@ -311,7 +309,7 @@ int HGCommitEdit(HGridCtl* ctl)
     if (taken && HGHoldsFocus(ctl->hEditor, GetFocus())) {
         return 0; // refused, as below
     }
-    gUnstored = nullptr;
+    IsUnstored(ctl) = false;
     const int stored = HGReadEditor(ctl);
     if (!IsWindow(hwnd)) {
         return 0;

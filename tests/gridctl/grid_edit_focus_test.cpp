@@ -140,4 +140,23 @@ TEST_F(GridEditFocus, SelectionThatIsMadeAfterAnEditWasLeftShowsWithTheFocus)
     }
 }
 
+TEST_F(GridEditFocus, EachOfTwoGridsStoresWhatTheFocusHasLeft)
+{
+    MakeWide(gridStyle | HGS_KEEPSEL);
+    TypeInto(0, 1, "first");
+    SetFocus(grid);
+    const HWND first = grid;
+    MakeWide(gridStyle | HGS_KEEPSEL);
+    TypeInto(0, 1, "second");
+    SetFocus(grid);
+    const HWND second = grid;
+    for (const HWND hwnd : { second, first }) {
+        grid = hwnd;
+        ctl = RecordOf<HGridCtl>(hwnd);
+        MoveTo(0, 2);
+        EXPECT_EQ(hwnd == first ? "first" : "second", CellText(0, 1));
+    }
+    EXPECT_EQ(2, parent.Count(HGN_CELLCHANGED));
+}
+
 } // namespace
