@@ -122,8 +122,9 @@ bool IsStillToStore(HGridCtl* ctl, HWND editor, Cell cell, HWND focus)
 }
 
 // Writes a value that was read from the editor into the current cell. It isn't pending while it is written, so a host
-// that moves or refreshes when it is told of it doesn't have it stored once more. A refused one is pending again, unless
-// the host has put another one into the editor.
+// that moves or refreshes when it is told of it doesn't have it stored once more. A refused one counts as changed again,
+// unless the host has put another one into the editor: it is stored if the user goes back into the editor, and a move
+// that comes first gives it up.
 int WriteRead(HGridCtl* ctl, HWND editor, const char* value)
 {
     const HWND hwnd = ctl->hWnd;
@@ -170,6 +171,7 @@ bool HGIsEditable(HGridCtl* ctl, int col)
     const HGField* const field = HGGetField(ctl->pData, col);
     return field && (field->wFlags & HFF_READONLY) == 0 && !HasStyle(ctl, HGS_READONLY);
 }
+
 // In a combo it is the face that has the focus.
 bool HGHoldsFocus(HWND window, HWND focus)
 {
@@ -181,7 +183,6 @@ bool HGIsInEdit(const HGridCtl* ctl)
 {
     return HasFlag(ctl, HGC_INEDIT) && HGHoldsFocus(ctl->hWnd, GetFocus());
 }
-
 
 void HGTakeEditor(HGridCtl* ctl)
 {
