@@ -148,19 +148,22 @@ void ResetBlock(HGridCtl* ctl)
     ctl->cHeldRows = held;
 }
 
-// A refused value doesn't wait in the hidden editor for a row that comes later.
+// A refused value doesn't wait in the hidden editor for a row that comes later, and the editor itself is none of the cell
+// that will be current then.
 void ResetRows(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    if (HasFlag(ctl, HGC_EDITORSHOWN)) {
+    const bool shown = HasFlag(ctl, HGC_EDITORSHOWN);
+    if (shown) {
         HGForgetRefused(ctl);
-        if (!IsWindow(hwnd)) {
-            return;
-        }
-        HGHideEditor(ctl);
-        if (!IsWindow(hwnd)) {
-            return;
-        }
+    }
+    if (IsWindow(hwnd)) {
+        HGPutEditorAway(ctl);
+    }
+    if (!IsWindow(hwnd)) {
+        return;
+    }
+    if (shown) {
         SetFlag(ctl, HGC_CELLSHOWN, false);
     }
     HGridEmpty(ctl->pData);

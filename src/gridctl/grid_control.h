@@ -21,6 +21,17 @@ constexpr WORD HGC_TELLING = 0x0100;  // a move tells of itself, and no other mo
 constexpr WORD HGC_FETCHING = 0x0200; // rows are being fetched: the source may call back, but starts no other fetch
 constexpr WORD hiddenFlags = HGC_TELLING | HGC_FETCHING;
 
+// A window's record, and behind it what hosts don't know of.
+struct GridBlock {
+    HGridCtl ctl;
+    bool     unstored; // the focus has gone from the editor to the grid, and the editor hasn't been read since
+};
+
+inline bool& IsUnstored(HGridCtl* ctl)
+{
+    return reinterpret_cast<GridBlock*>(ctl)->unstored;
+}
+
 // A cell: -1 names a header, or the whole row or column in a move.
 struct Cell {
     int col;
@@ -194,8 +205,9 @@ void HGAddCursorUser(); // each grid is one
 void HGDropCursorUser();
 
 // Editing
-extern HWND gUnstored; // the grid that has taken the focus from its editor and not read it yet, or null
 bool HGIsEditable(HGridCtl* ctl, int col); // false for a column that doesn't exist
+bool HGHoldsFocus(HWND window, HWND focus); // in the window or in a child of it
+bool HGIsInEdit(const HGridCtl* ctl);       // an edit is under way, and the focus is in the grid
 void HGTakeEditor(HGridCtl* ctl);          // gives the current cell its column's control, loaded but not shown
 bool HGBeginColumnChange(HGridCtl* ctl, bool* shown); // false if the window went; shown is for the end
 void HGEndColumnChange(HGridCtl* ctl, bool shown);

@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <cstring>
 
-HWND gUnstored;
-
 namespace {
 
 // How a cell control takes and gives its value, by kind. A code message of 0: the kind has no codes of its own.
@@ -115,12 +113,6 @@ bool StillHolds(HGridCtl* ctl, HWND editor, const char* value)
     return same;
 }
 
-// In a combo it is the face that has the focus.
-bool HoldsFocus(HWND editor, HWND focus)
-{
-    return editor && focus && (focus == editor || IsChild(editor, focus));
-}
-
 // Whether what was read is still to be stored. A host that heard of it meanwhile may have moved on, which has stored it, or
 // may have put another value into the editor; that is asked only where the focus has gone elsewhere since.
 bool IsStillToStore(HGridCtl* ctl, HWND editor, Cell cell, HWND focus)
@@ -130,8 +122,9 @@ bool IsStillToStore(HGridCtl* ctl, HWND editor, Cell cell, HWND focus)
 }
 
 // Writes a value that was read from the editor into the current cell. It isn't pending while it is written, so a host
-// that moves or refreshes when it is told of it doesn't have it stored once more. A refused one is pending again, unless
-// the host has put another one into the editor.
+// that moves or refreshes when it is told of it doesn't have it stored once more. A refused one counts as changed again,
+// unless the host has put another one into the editor: it is stored if the user goes back into the editor, and a move
+// that comes first gives it up.
 int WriteRead(HGridCtl* ctl, HWND editor, const char* value)
 {
     const HWND hwnd = ctl->hWnd;
@@ -177,6 +170,18 @@ bool HGIsEditable(HGridCtl* ctl, int col)
 {
     const HGField* const field = HGGetField(ctl->pData, col);
     return field && (field->wFlags & HFF_READONLY) == 0 && !HasStyle(ctl, HGS_READONLY);
+}
+
+// In a combo it is the face that has the focus.
+bool HGHoldsFocus(HWND window, HWND focus)
+{
+    return window && focus && (focus == window || IsChild(window, focus));
+}
+
+// The bit alone stays when the focus goes elsewhere, so that it comes back to the editor.
+bool HGIsInEdit(const HGridCtl* ctl)
+{
+    return HasFlag(ctl, HGC_INEDIT) && HGHoldsFocus(ctl->hWnd, GetFocus());
 }
 
 void HGTakeEditor(HGridCtl* ctl)
@@ -255,7 +260,7 @@ int HGReadEditor(HGridCtl* ctl)
     }
     const bool hasValue = ReadValue(editor, field, buffer);
     // A control that takes the focus back has a validator that refuses the value.
-    const bool refused = !HoldsFocus(editor, focus) && HoldsFocus(editor, GetFocus());
+    const bool refused = !HGHoldsFocus(editor, focus) && HGHoldsFocus(editor, GetFocus());
     int written = IsWindow(hwnd) && !refused;
     if (written && IsStillToStore(ctl, editor, cell, focus) && IsWindow(hwnd)) {
         written = WriteRead(ctl, editor, hasValue ? buffer : nullptr);
@@ -296,16 +301,16 @@ int HGHideEditor(HGridCtl* ctl)
 int HGCommitEdit(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    const bool inEdit = HasFlag(ctl, HGC_INEDIT) || gUnstored == hwnd;
+    const bool inEdit = HasFlag(ctl, HGC_INEDIT) || IsUnstored(ctl);
     const HWND focus = GetFocus();
     const bool taken = focus && IsChild(hwnd, focus) && SetFocus(hwnd);
     if (!inEdit || !IsWindow(hwnd)) {
         return inEdit ? 0 : 1;
     }
-    if (taken && HoldsFocus(ctl->hEditor, GetFocus())) {
+    if (taken && HGHoldsFocus(ctl->hEditor, GetFocus())) {
         return 0; // refused, as below
     }
-    gUnstored = nullptr;
+    IsUnstored(ctl) = false;
     const int stored = HGReadEditor(ctl);
     if (!IsWindow(hwnd)) {
         return 0;
@@ -357,7 +362,7 @@ int HGDetachEditor(HGridCtl* ctl)
 
 void HGForgetRefused(HGridCtl* ctl)
 {
-    if (HoldsFocus(ctl->hEditor, GetFocus())) {
+    if (HGHoldsFocus(ctl->hEditor, GetFocus())) {
         HGLoadEditor(ctl);
     }
 }

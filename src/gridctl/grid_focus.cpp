@@ -42,6 +42,10 @@ bool ReturnToEditor(HGridCtl* ctl)
     const HWND hwnd = ctl->hWnd;
     if (!IsWindow(ctl->hEditor)) {
         SetFlag(ctl, HGC_INEDIT, false);
+        // What the host has selected while the focus was elsewhere isn't on the screen yet.
+        if (!HasStyle(ctl, HGS_KEEPSEL)) {
+            HGRedrawSelection(ctl);
+        }
         return true;
     }
     SetFocus(ctl->hEditor);
@@ -115,7 +119,7 @@ void HGOnChildBlur(HGridCtl* ctl)
     if (GetFocus() == hwnd) {
         // Whoever commits next stores the value: a host that moves or destroys the grid before the one who took the
         // focus comes to it, or that has taken the focus itself.
-        gUnstored = HasFlag(ctl, HGC_INEDIT) ? hwnd : gUnstored;
+        IsUnstored(ctl) = IsUnstored(ctl) || HasFlag(ctl, HGC_INEDIT);
         SetFlag(ctl, HGC_INEDIT, false);
     } else {
         HGFocusLost(ctl);

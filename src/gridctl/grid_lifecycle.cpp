@@ -39,10 +39,11 @@ HGridData* DefinitionOf(CREATESTRUCTA* create)
 
 HGridCtl* MakeRecord(HWND hwnd, const CREATESTRUCTA* create)
 {
-    HGridCtl* const ctl = HRecordAlloc<HGridCtl>();
-    if (!ctl) {
+    GridBlock* const block = HRecordAlloc<GridBlock>();
+    if (!block) {
         return nullptr;
     }
+    HGridCtl* const ctl = &block->ctl;
     SendMessageA(hwnd, WWM_SETSTATE, 0, reinterpret_cast<LPARAM>(ctl));
     HGAddCursorUser();
     ctl->hWnd = hwnd;

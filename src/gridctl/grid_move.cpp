@@ -58,7 +58,7 @@ void ApplyShape(HGridCtl* ctl, Move* move)
 // Whether the selection is on the screen.
 bool ShowsSelection(const HGridCtl* ctl)
 {
-    return GetFocus() == ctl->hWnd || HasStyle(ctl, HGS_KEEPSEL) || HasFlag(ctl, HGC_INEDIT);
+    return GetFocus() == ctl->hWnd || HasStyle(ctl, HGS_KEEPSEL) || HGIsInEdit(ctl);
 }
 
 Cell ProposedCell(const HGridCtl* ctl)

@@ -9,7 +9,7 @@ struct Scroll {
     bool quiet;  // no notifications
     bool hide;   // an editor on the screen has to go while pixels move
     bool hidden; // it has gone
-    bool inEdit; // and had the focus
+    bool inEdit; // and has the focus
 };
 
 // Moves what is on the screen, and paints what comes into view. False if the window went.
@@ -116,11 +116,14 @@ bool ScrollDown(HGridCtl* ctl, int rows, Scroll* scroll)
     return dy == 0 || ScrollToRecord(ctl, BoundRecord(top + dy), scroll);
 }
 
-// Step 4.
+// Step 4. A combo that is hidden may leave its face the focus, which isn't taken from it.
 void ShowEditorAgain(HGridCtl* ctl, const Scroll& scroll)
 {
     HGShowEditor(ctl);
-    if (IsWindow(scroll.hwnd) && scroll.inEdit && IsWindow(ctl->hEditor)) {
+    if (!IsWindow(scroll.hwnd) || !scroll.inEdit) {
+        return;
+    }
+    if (IsWindow(ctl->hEditor) && !HGHoldsFocus(ctl->hEditor, GetFocus())) {
         SetFocus(ctl->hEditor);
     }
 }
@@ -149,7 +152,7 @@ bool ShowColumn(HGridCtl* ctl, int col, int row)
 void HGScrollBy(HGridCtl* ctl, int dx, int dy, bool moveEditor)
 {
     Scroll scroll = { ctl->hWnd, HasFlag(ctl, HGC_QUIETSCROLL), moveEditor && HasFlag(ctl, HGC_EDITORSHOWN), false,
-                      HasFlag(ctl, HGC_INEDIT) };
+                      HGIsInEdit(ctl) };
     SetFlag(ctl, HGC_QUIETSCROLL, false);
     if (dx != 0 && !ScrollAcross(ctl, dx, &scroll)) {
         return;

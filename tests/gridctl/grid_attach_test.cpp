@@ -166,6 +166,33 @@ TEST_F(GridAttach, ResetGivesARefusedValueUp)
     EXPECT_EQ("", CellText(0, 1));
 }
 
+// Rows that come without a refresh find no control of the column that was current.
+TEST_F(GridAttach, ResetPutsTheEditorAway)
+{
+    for (const bool focused : { true, false }) {
+        SCOPED_TRACE(focused);
+        MakeGrid(GridOf({ Text(), Text(), Text() }), 4);
+        StandOn(2, 3);
+        SetFocus(focused ? grid : parent.hwnd());
+        Send(grid, HGM_RESET, 0);
+        ExpectNoEditor();
+        Send(grid, HGM_ADDROW);
+        Send(grid, HGM_ADDROW);
+        SetFocus(grid);
+        TypeText("5");
+        EXPECT_EQ(grid, GetFocus());
+        EXPECT_FALSE(IsWindowVisible(ChildOf(2)));
+        Send(grid, HGM_REFRESH, 1);
+        EXPECT_CELL(1, 0);
+        TypeText("6");
+        EXPECT_EQ(ChildOf(1), GetFocus());
+        EXPECT_TRUE(IsWindowVisible(ChildOf(1)));
+        TypeKey(VK_TAB);
+        EXPECT_EQ("6", CellText(1, 0));
+        DestroyWindow(grid);
+    }
+}
+
 TEST_F(GridAttach, ParentMayEndTheGridWhileAResetGivesARefusedValueUp)
 {
     const int blocks = LiveBlocks();

@@ -62,7 +62,8 @@ protected:
     }
 
     BlockLeakCheck leaks; // ends after the destructor above
-    HGridCtl       record = {};
+    GridBlock      block = {};
+    HGridCtl&      record = block.ctl;
     HGridCtl*      ctl = &record;
 };
 
