@@ -189,6 +189,10 @@ void DrawNewSelection(HGridCtl* ctl, const Selection& old)
     const DWORD current = PackCell(old.current.col, old.current.row);
     const bool shown = HasFlag(ctl, HGC_CELLSHOWN);
     const WindowDC window(ctl->hWnd);
+    if (!shown && old.current.row != CurrentCell(ctl).row) {
+        // No cell was shown, but a scroll on the way may have painted this header as that of the current row.
+        HGDrawCell(ctl, window.hdc, -1, old.current.row);
+    }
     HGDrawSelection(ctl, window.hdc, shown ? &anchor : nullptr, shown ? &current : nullptr);
 }
 
