@@ -245,12 +245,23 @@ void GiveEditor(HGridCtl* ctl, const Move& move)
     }
 }
 
+// A way over hidden columns at the end stops at the last visible one, as others are stopped by the last column.
+int BeforeHiddenEnd(HGridCtl* ctl, int col)
+{
+    int last = HGColCount(ctl->pData);
+    HGStepColumn(ctl->pData, false, &last);
+    return last >= 0 && last < LastCol(ctl) ? std::min(col, last) : col;
+}
+
 // The target of a relative move across: one step back from where the way ends, then a step over visible columns.
 int ColumnAt(HGridCtl* ctl, int dCol)
 {
     constexpr int farthest = 0x7FFF;
     int col = CurrentCell(ctl).col + std::clamp(dCol, -farthest, farthest) + (dCol > 0 ? -1 : 1);
     HGStepColumn(ctl->pData, dCol > 0, &col);
+    if (col > CurrentCell(ctl).col) {
+        col = BeforeHiddenEnd(ctl, col);
+    }
     return std::clamp(col, HasStyle(ctl, HGS_ROWHEADERS) ? -1 : 0, farthest);
 }
 
