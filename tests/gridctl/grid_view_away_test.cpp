@@ -158,4 +158,46 @@ TEST_F(GridViewAway, MoveLeavesOneRowHeaderCurrent)
     }
 }
 
+// The page is a whole number of rows, so the line under its last row is the last row of pixels.
+TEST_F(GridViewAway, RangeThatTheBlockLeavesBehindLeavesNothingInverted)
+{
+    struct Step {
+        UINT     message; // WM_KEYDOWN: a key
+        WORD     code;
+        unsigned modifiers;
+        int      rows; // of a range that is selected before
+    };
+    constexpr Step steps[] = {
+        { WM_KEYDOWN, VK_NEXT, withNone, 3 },     { WM_KEYDOWN, VK_PRIOR, withNone, 2 },
+        { WM_VSCROLL, SB_PAGEDOWN, withNone, 4 }, { WM_VSCROLL, SB_PAGEUP, withNone, 2 },
+        { WM_VSCROLL, SB_PAGEUP, withNone, 5 },   { WM_KEYDOWN, VK_NEXT, withShift, 3 },
+        { WM_KEYDOWN, VK_NEXT, withShift, 0 },    { WM_KEYDOWN, VK_NEXT, withShift, 0 },
+        { WM_KEYDOWN, VK_NEXT, withShift, 0 },    { WM_KEYDOWN, VK_PRIOR, withShift, 0 },
+        { WM_KEYDOWN, VK_PRIOR, withShift, 0 },   { WM_KEYDOWN, VK_PRIOR, withShift, 0 },
+        { WM_KEYDOWN, VK_PRIOR, withNone, 1 },    { WM_VSCROLL, SB_LINEUP, withNone, 1 },
+    };
+    source.count = 1000;
+    MakeSourceGrid(gridStyle | HGS_READONLY);
+    SetFocus(grid);
+    for (const LONG record : { 300, 20, 11, 5 }) {
+        Send(grid, HGM_GOTORECORD, 0, record);
+        for (const Step& step : steps) {
+            SCOPED_TRACE(testing::Message() << "from " << record << ", step " << &step - steps);
+            if (step.rows > 0) {
+                MoveTo(0, Current().row);
+                Send(grid, HGM_SETCURSOR, 1, static_cast<LPARAM>(PackCell(1, Current().row + step.rows)));
+            }
+            ShotOf(grid);
+            if (step.message == WM_KEYDOWN) {
+                TypeKey(step.code, step.modifiers);
+            } else {
+                Send(grid, step.message, step.code);
+            }
+            const Pixels moved = ShotOf(grid);
+            InvalidateRect(grid, nullptr, TRUE);
+            EXPECT_TRUE(SamePixels(ShotOf(grid), moved));
+        }
+    }
+}
+
 } // namespace
