@@ -76,6 +76,10 @@ int HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord)
         SetFlag(ctl, HGC_CELLSHOWN, false);
         bounds = FindBounds(ctl, anchorRecord, currentRecord);
     }
+    if ((bounds.currentChanged || bounds.anchorChanged) && HasFlag(ctl, HGC_RANGE)) {
+        // What the screen shows inverted is more than the range that is left.
+        InvalidateRect(ctl->hWnd, nullptr, FALSE);
+    }
     ctl->nCurCol = static_cast<WORD>(bounds.current.col);
     ctl->nCurRow = static_cast<WORD>(bounds.current.row);
     ctl->nAnchorCol = static_cast<short>(bounds.anchor.col);

@@ -140,7 +140,7 @@ int      HGFixedZone(HGridCtl* ctl);         // width of the fixed columns
 int      HGWidestBand(HGridCtl* ctl);        // highest sum of the visible widths of a band
 int      HGBandsEnd(HGridCtl* ctl);          // where the widest band ends without scrolling, behind the row headers
 int      HGHitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band);
-int      HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band); // for painting
+int      HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int band); // among the columns of one band, for painting
 
 // Ranges and scrolling
 void    HGRecalc(HGridCtl* ctl);

@@ -24,10 +24,11 @@ int HeaderBand(const HGridCtl* ctl, int y, int band)
     return IsInHeader(ctl, y) && ctl->pData->nHdrHeight > 0 ? y / ctl->pData->nHdrHeight : band;
 }
 
-// Painting takes the whole header for band 0.
-int PaintBand(const HGridCtl* ctl, int y, int band)
+// Painting goes band by band: a point above the rows stands for a column of the band that is painted, or columns whose
+// order differs from that of the band before would be left out.
+int PaintBand(const HGridCtl*, int, int band)
 {
-    return IsInHeader(ctl, y) ? 0 : band;
+    return band;
 }
 
 using BandAbove = int (*)(const HGridCtl* ctl, int y, int band);
@@ -98,7 +99,7 @@ int HGHitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band)
     return HitCell(ctl, lParam, cell, band, HeaderBand);
 }
 
-int HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band)
+int HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int band)
 {
-    return HitCell(ctl, lParam, cell, band, PaintBand);
+    return HitCell(ctl, lParam, cell, &band, PaintBand);
 }

@@ -134,22 +134,17 @@ bool StepNext(HGridCtl* ctl, KeyMove* key)
     return true;
 }
 
-// Past the last column there is nothing to stop at: a way over hidden ones at the end is measured to the visible one.
-int WayToLastColumn(HGridCtl* ctl)
+bool HasVisibleColumn(HGridCtl* ctl)
 {
-    const int count = HGColCount(ctl->pData);
-    int last = count;
+    int last = HGColCount(ctl->pData);
     HGStepColumn(ctl->pData, false, &last);
-    if (last < 0) {
-        return 0;
-    }
-    return last == count - 1 ? count : last - CurrentCell(ctl).col;
+    return last >= 0;
 }
 
 bool StepEnd(HGridCtl* ctl, KeyMove* key)
 {
     if (!key->ctrl) {
-        key->dCol = WayToLastColumn(ctl);
+        key->dCol = HasVisibleColumn(ctl) ? HGColCount(ctl->pData) : 0;
         return true;
     }
     if (!FetchTotal(ctl)) {

@@ -189,6 +189,10 @@ void DrawNewSelection(HGridCtl* ctl, const Selection& old)
     const DWORD current = PackCell(old.current.col, old.current.row);
     const bool shown = HasFlag(ctl, HGC_CELLSHOWN);
     const WindowDC window(ctl->hWnd);
+    if (!shown && old.current.row != CurrentCell(ctl).row) {
+        // No cell was shown, but a scroll on the way may have painted this header as that of the current row.
+        HGDrawCell(ctl, window.hdc, -1, old.current.row);
+    }
     HGDrawSelection(ctl, window.hdc, shown ? &anchor : nullptr, shown ? &current : nullptr);
 }
 
@@ -241,12 +245,23 @@ void GiveEditor(HGridCtl* ctl, const Move& move)
     }
 }
 
+// A way over hidden columns at the end stops at the last visible one, as others are stopped by the last column.
+int BeforeHiddenEnd(HGridCtl* ctl, int col)
+{
+    int last = HGColCount(ctl->pData);
+    HGStepColumn(ctl->pData, false, &last);
+    return last >= 0 && last < LastCol(ctl) ? std::min(col, last) : col;
+}
+
 // The target of a relative move across: one step back from where the way ends, then a step over visible columns.
 int ColumnAt(HGridCtl* ctl, int dCol)
 {
     constexpr int farthest = 0x7FFF;
     int col = CurrentCell(ctl).col + std::clamp(dCol, -farthest, farthest) + (dCol > 0 ? -1 : 1);
     HGStepColumn(ctl->pData, dCol > 0, &col);
+    if (col > CurrentCell(ctl).col) {
+        col = BeforeHiddenEnd(ctl, col);
+    }
     return std::clamp(col, HasStyle(ctl, HGS_ROWHEADERS) ? -1 : 0, farthest);
 }
 

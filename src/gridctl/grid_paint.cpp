@@ -35,25 +35,23 @@ LPARAM TopLeft(const GridPaint& paint)
     return PackPoint(paint.invalid.left + 1, paint.invalid.top);
 }
 
-void FindLastCell(GridPaint& paint, int band)
+// A hit takes the first pixel of a column for the one before, so the last cell is sought one pixel on.
+LPARAM BottomRight(const GridPaint& paint)
 {
-    // A hit takes the first pixel of a column for the one before, so it is sought one pixel on.
-    HGHitCell(paint.ctl, PackPoint(paint.invalid.right, paint.invalid.bottom), &paint.last, &band);
+    return PackPoint(paint.invalid.right, paint.invalid.bottom);
 }
 
-void FindCorners(GridPaint& paint)
+// The corners among the columns of a band; -1: of the only one.
+void FindCorners(GridPaint& paint, int band)
 {
-    int band = -1;
-    HGHitCell(paint.ctl, TopLeft(paint), &paint.first, &band);
-    FindLastCell(paint, -1);
+    HGHitBand(paint.ctl, TopLeft(paint), &paint.first, band);
+    HGHitBand(paint.ctl, BottomRight(paint), &paint.last, band);
 }
 
-// The same for one band. True if its header is invalid too; first becomes the first data cell.
+// The same for painting one band. True if its header is invalid too; first becomes the first data cell.
 bool FindBandCorners(GridPaint& paint, int band)
 {
-    int hitBand = band;
-    HGHitBand(paint.ctl, TopLeft(paint), &paint.first, &hitBand);
-    FindLastCell(paint, band);
+    FindCorners(paint, band);
     const bool header = HasStyle(paint.ctl, HGS_COLHEADERS) && paint.first.row < 0;
     paint.first.row = std::max<int>(paint.first.row, paint.ctl->nTopRow);
     paint.first.col = std::max(paint.first.col, 0);
@@ -310,7 +308,7 @@ void HGPaint(HGridCtl* ctl)
     const OwnedObject<HPEN> pen(CreatePen(PS_SOLID, 1, GridLineColor(ctl)));
     GridPaint               paint{ ctl, dc.hdc, dc.ps.rcPaint, content, pen.h, {}, {} };
 
-    FindCorners(paint);
+    FindCorners(paint, -1);
     DrawGridLines(paint);
     FillGaps(paint);
     HGDrawCell(ctl, dc.hdc, -1, -1);

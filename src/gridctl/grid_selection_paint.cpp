@@ -222,10 +222,10 @@ void DrawRowHeaders(HGridCtl* ctl, HDC hdc, const Cell* oldCur)
     HGDrawCell(ctl, hdc, -1, cur.row);
 }
 
-// Settled: a range that touches row 0 or a header doesn't count.
+// A range that ends at a header doesn't count. Row 0 does, or the rows toggled beside it would not show.
 bool IsRowSelection(const HGridCtl* ctl)
 {
-    return HasStyle(ctl, HGS_ROWSELECT) && AnchorCell(ctl).row >= 1 && CurrentCell(ctl).row >= 1;
+    return HasStyle(ctl, HGS_ROWSELECT) && AnchorCell(ctl).row >= 0 && CurrentCell(ctl).row >= 0;
 }
 
 int LastPageRow(const HGridCtl* ctl)

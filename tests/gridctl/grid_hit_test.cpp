@@ -131,18 +131,21 @@ TEST_F(GridHit, GivenBandIsKeptInTheRows)
     EXPECT_EQ(1, band);
 }
 
-TEST_F(GridHit, PaintingTakesTheFirstBandForTheWholeHeader)
+TEST_F(GridHit, PaintingFindsTheColumnsOfItsBandFromTheWholeWindow)
 {
     Make({ Column(50, 0), Column(30, 1), Column(60, 1) }, { .bands = 2, .rows = 5 });
-    Cell cell;
-    int  given = 1;
-    HGHitBand(ctl, MAKELPARAM(80, 25), &cell, &given);
-    EXPECT_EQ(0, given);
-    EXPECT_EQ((Cell{ 0, -1 }), cell);
-    given = 1;
-    HGHitBand(ctl, MAKELPARAM(80, 65), &cell, &given);
-    EXPECT_EQ(1, given);
-    EXPECT_EQ((Cell{ 2, 0 }), cell);
+    struct Case {
+        int  y;
+        int  band;
+        Cell cell;
+    };
+    constexpr Case cases[] = { { 5, 0, { 0, -1 } },  { 5, 1, { 2, -1 } },  { 25, 0, { 0, -1 } },
+                               { 25, 1, { 2, -1 } }, { 45, 0, { 0, 0 } },  { 65, 1, { 2, 0 } } };
+    for (const Case& c : cases) {
+        Cell cell;
+        HGHitBand(ctl, MAKELPARAM(80, c.y), &cell, c.band);
+        EXPECT_EQ(c.cell, cell) << "band " << c.band << " at " << c.y;
+    }
 }
 
 TEST_F(GridHit, BandsMeetTheScrollingZoneWhereTheirColumnsStand)

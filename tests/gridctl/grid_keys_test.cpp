@@ -1,5 +1,6 @@
 // Keys that start an edit, what goes on to the editor, and the moves that hidden columns and the entry row make special.
 #include "gridctl/grid_editing.h"
+#include "support/pixels.h"
 
 #include <algorithm>
 
@@ -188,6 +189,46 @@ TEST_F(GridKeys, EndLandsOnTheLastVisibleColumn)
         }
         Key(VK_END);
         EXPECT_EQ((Cell{ c.to, 1 }), Current()) << c.what;
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(GridKeys, EndAtTheLastVisibleColumnEndsARangeThere)
+{
+    for (const int hidden : { 0, 1, 2 }) {
+        SCOPED_TRACE(hidden);
+        MakeGrid(GridOf({ Text(), Text(), Text(), Text() }, gridStyle | HGS_READONLY), 3);
+        for (int col = 4 - hidden; col < 4; ++col) {
+            Send(grid, HGM_SETFIELDFLAGS, static_cast<WPARAM>(col), MAKELPARAM(1, HFF_HIDDEN));
+        }
+        const int last = 3 - hidden;
+        StandOn(last - 1, 1);
+        TypeKey(VK_RIGHT, withShift);
+        ASSERT_EQ((Cell{ last - 1, 1 }), Anchor());
+        ASSERT_EQ((Cell{ last, 1 }), Current());
+        Forget();
+        Key(VK_END);
+        EXPECT_EQ(1, parent.Count(HGN_MOVING));
+        EXPECT_EQ(1, parent.Count(HGN_MOVED));
+        EXPECT_EQ((Cell{ last, 1 }), Anchor());
+        EXPECT_EQ((Cell{ last, 1 }), Current());
+        const Pixels moved = ShotOf(grid);
+        InvalidateRect(grid, nullptr, TRUE);
+        EXPECT_TRUE(SamePixels(ShotOf(grid), moved));
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(GridKeys, RightStaysWhereNoVisibleColumnFollows)
+{
+    for (const int from : { 1, 2, 3 }) {
+        MakeGrid(GridOf({ Text(), Text(), Text(), Text() }), 2);
+        StandOn(from, 1);
+        for (const int col : { 2, 3 }) {
+            Send(grid, HGM_SETFIELDFLAGS, static_cast<WPARAM>(col), MAKELPARAM(1, HFF_HIDDEN));
+        }
+        Key(VK_RIGHT);
+        EXPECT_EQ((Cell{ from, 1 }), Current());
         DestroyWindow(grid);
     }
 }

@@ -177,7 +177,7 @@ TEST_F(GridSelectionPaint, InvertsTheSelectedRowsOfAMultipleSelection)
     EXPECT_FALSE(HGIsRowSelected(ctl, 3));
 }
 
-TEST_F(GridSelectionPaint, TakesARangeFromTheFirstRowAsASimpleSelection)
+TEST_F(GridSelectionPaint, InvertsRowsThatAreSelectedBesideARangeFromTheFirstRow)
 {
     MakeSelectable(readOnlyStyle | HGS_ROWSELECT);
     SetRowFlags(4, HGR_SELECTED);
@@ -185,7 +185,8 @@ TEST_F(GridSelectionPaint, TakesARangeFromTheFirstRowAsASimpleSelection)
     const Pixels plain = Plain();
     const Pixels shot = Repaint();
     EXPECT_TRUE(IsInverted(plain, shot, { 0, 20, 360, 60 }));
-    EXPECT_TRUE(IsPlain(plain, shot, { 0, 60, 360, 120 }));
+    EXPECT_TRUE(IsPlain(plain, shot, { 0, 60, 360, 100 }));
+    EXPECT_TRUE(IsInverted(plain, shot, { 0, 100, 360, 120 }));
 }
 
 TEST_F(GridSelectionPaint, MovesFromTheOldCellToTheNewOneWithoutAPaint)
@@ -321,6 +322,43 @@ TEST_F(GridSelectionPaint, ShowsExactlyTheRowsThatAreSelectedOneByOne)
     }
 }
 
+TEST_F(GridSelectionPaint, ShowsExactlyTheRowsThatAreSelectedWhereARangeEndsAtTheFirstOne)
+{
+    MakePainted(GridOf({ Text(), Text() }, gridStyle | HGS_READONLY | HGS_ROWSELECT), 8);
+    SetFocus(grid);
+    const Pixels plain = Plain();
+    struct Step {
+        int         row; // -1: a key
+        unsigned    modifiers;
+        WORD        key;
+        const char* selected;
+    };
+    constexpr Step steps[] = {
+        { 2, withNone, 0, "00100000" }, { 5, withCtrl, 0, "00100100" },        { 0, withCtrl, 0, "10100100" },
+        { 5, withCtrl, 0, "10100000" }, { 5, withCtrl, 0, "10100100" },        { 0, withCtrl, 0, "00100100" },
+        { 3, withCtrl, 0, "00110100" }, { -1, withCtrl, VK_HOME, "10100100" }, { -1, withNone, VK_DOWN, "01100100" },
+        { 0, withNone, 0, "10000000" }, { 2, withShift, 0, "11100000" },
+    };
+    for (const Step& step : steps) {
+        SCOPED_TRACE(testing::Message() << "step " << &step - steps);
+        if (step.row < 0) {
+            TypeKey(step.key, step.modifiers);
+        } else {
+            ClickAt(grid, 60, 30 + 20 * step.row, step.modifiers);
+        }
+        const Pixels shot = ShotOf(grid);
+        std::string  selected;
+        for (int row = 0; row < 8; ++row) {
+            const bool inverted = static_cast<bool>(IsInverted(plain, shot, CellInside(1, row)));
+            EXPECT_NE(inverted, static_cast<bool>(SamePixels(plain, shot, CellInside(1, row)))) << "row " << row;
+            EXPECT_EQ(inverted, HGIsRowSelected(ctl, row)) << "row " << row;
+            selected += inverted ? '1' : '0';
+        }
+        EXPECT_EQ(step.selected, selected);
+        EXPECT_TRUE(SamePixels(Repaint(), shot));
+    }
+}
+
 TEST_F(GridSelectionPaint, ShowsInFixedColumnsAndEndsAtTheirEdge)
 {
     MakePainted(GridOf({ Text(), Text(), Text(), Text(), Text(), Text() }, readOnlyStyle, 1), 4);
@@ -408,4 +446,18 @@ TEST_F(GridSelectionPaint, InvalidatesTheSelectedRowsWhenTheyAreToBeRedrawn)
     EXPECT_FALSE(PtInRegion(region.h, 50, 30));
     EXPECT_FALSE(PtInRegion(region.h, 50, 90));
     EXPECT_TRUE(PtInRegion(region.h, 50, 110));
+}
+
+TEST_F(GridSelectionPaint, InvalidatesTheSelectedRowsBesideTheFirstOneToo)
+{
+    MakeSelectable(readOnlyStyle | HGS_ROWSELECT);
+    ShotOf(grid);
+    SetRowFlags(3, HGR_SELECTED);
+    Select({ -1, 0 }, { -1, 0 });
+    HGRedrawSelection(ctl);
+    const OwnedObject<HRGN> region(CreateRectRgn(0, 0, 0, 0));
+    GetUpdateRgn(grid, region.h, FALSE);
+    EXPECT_TRUE(PtInRegion(region.h, 50, 30));
+    EXPECT_FALSE(PtInRegion(region.h, 50, 70));
+    EXPECT_TRUE(PtInRegion(region.h, 50, 90));
 }

@@ -1,5 +1,6 @@
 // Moves whose current cell lies far from what the view shows: they aim at records, not at what is loaded.
 #include "gridctl/grid_editing.h"
+#include "support/pixels.h"
 
 namespace {
 
@@ -119,6 +120,83 @@ TEST_F(GridViewAway, EditorComesBackWithItsColumn)
         GetWindowRect(Editor(), &back);
         EXPECT_TRUE(EqualRect(&before, &back)) << (byKey ? "by key" : "by message");
         EXPECT_TRUE(IsWindowVisible(Editor()));
+    }
+}
+
+// The thumb leaves the current cell to the block's edge without showing it; the scroll of the next move paints its header.
+TEST_F(GridViewAway, MoveLeavesOneRowHeaderCurrent)
+{
+    struct Case {
+        const char* what;
+        WORD        thumb;
+        UINT        message;
+        WPARAM      wParam;
+    };
+    constexpr Case cases[] = {
+        { "Up", 500, WM_KEYDOWN, VK_UP },           { "Down", 100, WM_KEYDOWN, VK_DOWN },
+        { "line up", 700, WM_VSCROLL, SB_LINEUP },  { "line down", 300, WM_VSCROLL, SB_LINEDOWN },
+        { "Page Up", 600, WM_KEYDOWN, VK_PRIOR },   { "Page Down", 200, WM_KEYDOWN, VK_NEXT },
+        { "page up", 800, WM_VSCROLL, SB_PAGEUP },  { "page down", 400, WM_VSCROLL, SB_PAGEDOWN },
+        { "Up again", 900, WM_KEYDOWN, VK_UP },     { "Right", 50, WM_KEYDOWN, VK_RIGHT },
+    };
+    for (const DWORD style : { gridStyle, gridStyle | HGS_READONLY }) {
+        source.count = 1000;
+        MakeSourceGrid(style);
+        SetFocus(grid);
+        MoveTo(1, 0);
+        for (const Case& c : cases) {
+            SCOPED_TRACE(std::string(c.what) + (style & HGS_READONLY ? ", read-only" : ""));
+            Send(grid, WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, c.thumb));
+            ASSERT_FALSE(IsFlag(HGC_CELLSHOWN));
+            ShotOf(grid);
+            Send(grid, c.message, c.wParam);
+            const Pixels moved = ShotOf(grid);
+            InvalidateRect(grid, nullptr, TRUE);
+            EXPECT_TRUE(SamePixels(ShotOf(grid), moved));
+        }
+        DestroyWindow(grid);
+    }
+}
+
+// The page is a whole number of rows, so the line under its last row is the last row of pixels.
+TEST_F(GridViewAway, RangeThatTheBlockLeavesBehindLeavesNothingInverted)
+{
+    struct Step {
+        UINT     message; // WM_KEYDOWN: a key
+        WORD     code;
+        unsigned modifiers;
+        int      rows; // of a range that is selected before
+    };
+    constexpr Step steps[] = {
+        { WM_KEYDOWN, VK_NEXT, withNone, 3 },     { WM_KEYDOWN, VK_PRIOR, withNone, 2 },
+        { WM_VSCROLL, SB_PAGEDOWN, withNone, 4 }, { WM_VSCROLL, SB_PAGEUP, withNone, 2 },
+        { WM_VSCROLL, SB_PAGEUP, withNone, 5 },   { WM_KEYDOWN, VK_NEXT, withShift, 3 },
+        { WM_KEYDOWN, VK_NEXT, withShift, 0 },    { WM_KEYDOWN, VK_NEXT, withShift, 0 },
+        { WM_KEYDOWN, VK_NEXT, withShift, 0 },    { WM_KEYDOWN, VK_PRIOR, withShift, 0 },
+        { WM_KEYDOWN, VK_PRIOR, withShift, 0 },   { WM_KEYDOWN, VK_PRIOR, withShift, 0 },
+        { WM_KEYDOWN, VK_PRIOR, withNone, 1 },    { WM_VSCROLL, SB_LINEUP, withNone, 1 },
+    };
+    source.count = 1000;
+    MakeSourceGrid(gridStyle | HGS_READONLY);
+    SetFocus(grid);
+    for (const LONG record : { 300, 20, 11, 5 }) {
+        Send(grid, HGM_GOTORECORD, 0, record);
+        for (const Step& step : steps) {
+            SCOPED_TRACE(testing::Message() << "from " << record << ", step " << &step - steps);
+            if (step.rows > 0) {
+                MoveTo(0, Current().row);
+                Send(grid, HGM_SETCURSOR, 1, static_cast<LPARAM>(PackCell(1, Current().row + step.rows)));
+            }
+            ShotOf(grid);
+            if (step.message == WM_KEYDOWN) {
+                TypeKey(step.code, step.modifiers);
+            } else {
+                Send(grid, step.message, step.code);
+            }
+            const Pixels moved = ShotOf(grid);
+            InvalidateRect(grid, nullptr, TRUE);
+            EXPECT_TRUE(SamePixels(ShotOf(grid), moved));
+        }
     }
 }
 
