@@ -312,6 +312,24 @@ TEST_F(GridComboCells, NoKeyReachesTheComboOfAReadOnlyGrid)
     });
 }
 
+TEST_F(GridComboCells, PickedItemStaysWhereTheFocusGoesElsewhereAndComesBack)
+{
+    for (const DWORD style : { DWORD{ 0 }, DWORD{ HGS_KEEPSEL } }) {
+        ForEachKind([&] {
+            Send(grid, HGM_SETSTYLEBITS, 1, static_cast<LPARAM>(style));
+            StandOn(0, 1);
+            TypeKey(VK_F2);
+            TypeKey(VK_DOWN);
+            TypeKey(VK_DOWN);
+            ASSERT_EQ("green", Shown());
+            SetFocus(parent.hwnd());
+            SetFocus(grid);
+            TypeKey(VK_TAB);
+            EXPECT_EQ("green", CellText(0, 1)) << style;
+        });
+    }
+}
+
 TEST_F(GridComboCells, CellProceduresHandStateToTheCombo)
 {
     ForEachKind([&] {
