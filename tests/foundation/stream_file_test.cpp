@@ -32,7 +32,9 @@ protected:
         return bytes;
     }
 
-    static constexpr char name[] = "foundation_test_stream.bin";
+    // Programs of both architectures may run at once.
+    static constexpr const char* name =
+        sizeof(void*) == 8 ? "foundation_test_stream64.bin" : "foundation_test_stream32.bin";
     BlockLeakCheck        leaks;
 };
 
