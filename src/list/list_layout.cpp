@@ -85,8 +85,10 @@ int HighestPosition(const HListCtl* ctl)
 // destroyed the list.
 bool SetBar(HListCtl* ctl, int maximum)
 {
-    const HWND hwnd = ctl->hWnd;
-    const int bar = HasColumns(ctl) ? SB_HORZ : SB_VERT;
+    const HWND  hwnd = ctl->hWnd;
+    const int   bar = HasColumns(ctl) ? SB_HORZ : SB_VERT;
+    const DWORD shown = bar == SB_VERT ? WS_VSCROLL : WS_HSCROLL;
+    const bool  wasShown = (static_cast<DWORD>(GetWindowLongA(hwnd, GWL_STYLE)) & shown) != 0;
     if (bar == SB_VERT) {
         SCROLLINFO info = {};
         info.cbSize = sizeof info;
@@ -98,7 +100,8 @@ bool SetBar(HListCtl* ctl, int maximum)
     if (!IsWindow(hwnd)) {
         return false;
     }
-    SetScrollPos(hwnd, bar, ctl->nScrollPos, TRUE);
+    // A bar that came is painted with the frame: drawing it costs more than adding thousands of items.
+    SetScrollPos(hwnd, bar, ctl->nScrollPos, wasShown);
     return true;
 }
 

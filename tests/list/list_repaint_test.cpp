@@ -187,4 +187,21 @@ TEST_F(ListRepaint, FirstFocusBrushDiffersFromTheWindowColour)
     EXPECT_EQ(0, Send(HLM_GETFOCUSBRUSH)) << "without the style";
 }
 
+TEST_F(ListRepaint, BarThatComesAndMovesShowsAtOnce)
+{
+    for (const DWORD style : { DWORD{ 0 }, DWORD{ HLS_MULTICOLUMN } }) {
+        Make("%ss", style, 100, 60);
+        UpdateWindow(list);
+        for (const int count : { 40, 300 }) {
+            Fill(count);
+            Send(HLM_SETTOP, 20);
+            UpdateWindow(list);
+            const Pixels shown = ShotOfWindow(list);
+            RedrawWindow(list, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+            EXPECT_TRUE(SamePixels(ShotOfWindow(list), shown)) << count << " items, style " << style;
+            ASSERT_TRUE(GetWindowLongA(list, GWL_STYLE) & (style ? WS_HSCROLL : WS_VSCROLL));
+        }
+    }
+}
+
 } // namespace
