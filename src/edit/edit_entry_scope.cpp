@@ -22,12 +22,27 @@ bool Restore(HEditCtl* ctl, const EntryScope& entry)
     return true;
 }
 
+// Does all of an entry once more. Whether the host is still to hear that the text has changed.
+bool FinishOpen(HEditCtl* ctl, EntryScope* entry)
+{
+    const HWND  hwnd = ctl->hWnd;
+    char* const sofar = hstrdup(FieldText(ctl));
+    bool        changes = false;
+    if (Restore(ctl, *entry)) {
+        entry->state = EntryScope::Finishing;
+        entry->step(ctl, entry->entered);
+        changes = IsWindow(hwnd) && (entry->owesChange || (sofar && std::strcmp(FieldText(ctl), sofar) != 0));
+    }
+    HBlockFree(sofar);
+    return changes;
+}
+
 } // namespace
 
 EntryScope::EntryScope(HEditCtl* field, Step entryStep, const char* what)
     : ctl(field), hwnd(field->hWnd), outer(EntryOf(field)), step(entryStep), entered(what), text(shortText),
       anchor(field->nAnchor), caret(field->nCaret), flags(static_cast<WORD>(field->wFlags & entryFlags)),
-      redrawOff(false), state(Open)
+      redrawOff(false), owesChange(false), state(Open)
 {
     OvertakeEntry(ctl);
     const size_t size = std::strlen(FieldText(ctl)) + 1;
@@ -71,16 +86,11 @@ void FinishEntry(HEditCtl* ctl)
         entry->redrawOff = false;
         SendMessageA(hwnd, WM_SETREDRAW, TRUE, 0);
     }
-    bool changed = false;
-    if (entry->state == EntryScope::Open && IsWindow(hwnd) && Restore(ctl, *entry)) {
-        entry->state = EntryScope::Finishing;
-        entry->step(ctl, entry->entered);
-        changed = IsWindow(hwnd) && std::strcmp(FieldText(ctl), entry->text) != 0;
-    }
+    const bool changes = entry->state == EntryScope::Open && IsWindow(hwnd) && FinishOpen(ctl, entry);
     for (EntryScope* each = entry; each; each = each->outer) {
         each->state = EntryScope::Over;
     }
-    if (changed) {
+    if (changes) {
         Tell(ctl, HEN_CHANGE);
     }
 }

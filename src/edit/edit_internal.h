@@ -73,6 +73,7 @@ struct EntryScope {
     LONG        caret;
     WORD        flags;
     bool        redrawOff;
+    bool        owesChange; // HEN_UPDATE went out, and the HEN_CHANGE that belongs to it hasn't yet
     State       state;
     char        shortText[64];
 
@@ -106,8 +107,11 @@ enum class Told { Accepted, Vetoed, Gone };
 
 inline Told Tell(HEditCtl* ctl, int code)
 {
-    if (EntryOf(ctl) && EntryOf(ctl)->state == EntryScope::Finishing) {
-        return Told::Accepted;
+    if (EntryScope* const entry = EntryOf(ctl)) {
+        if (entry->state == EntryScope::Finishing) {
+            return Told::Accepted;
+        }
+        entry->owesChange = code == HEN_UPDATE || (entry->owesChange && code != HEN_CHANGE);
     }
     const int answer = Notify(ctl, code);
     if (answer == 0) {
