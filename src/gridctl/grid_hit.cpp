@@ -24,21 +24,13 @@ int HeaderBand(const HGridCtl* ctl, int y, int band)
     return IsInHeader(ctl, y) && ctl->pData->nHdrHeight > 0 ? y / ctl->pData->nHdrHeight : band;
 }
 
-// Painting goes band by band: a point above the rows stands for a column of the band that is painted, or columns whose
-// order differs from that of the band before would be left out.
-int PaintBand(const HGridCtl*, int, int band)
-{
-    return band;
-}
-
-using BandAbove = int (*)(const HGridCtl* ctl, int y, int band);
-
 int RowAbove(const HGridCtl* ctl)
 {
     return HasStyle(ctl, HGS_COLHEADERS) || ctl->lRowBase != 0 || HGRowCount(ctl->pData) == 0 ? -1 : 0;
 }
 
-void HitRow(HGridCtl* ctl, const RECT& data, int y, Cell* cell, int* band, BandAbove bandAbove)
+// false: the point is above the rows, which says nothing of the band.
+bool HitRow(HGridCtl* ctl, const RECT& data, int y, Cell* cell, int* band)
 {
     const int lineHeight = std::max<int>(1, ctl->pData->nRowHeight);
     const int height = std::max(1, RecordHeight(ctl));
@@ -46,16 +38,16 @@ void HitRow(HGridCtl* ctl, const RECT& data, int y, Cell* cell, int* band, BandA
     cell->row = static_cast<short>((fromTop + height) / height - 1 + ctl->nTopRow);
     if (cell->row < ctl->nTopRow) {
         cell->row = RowAbove(ctl);
-        *band = bandAbove(ctl, y, *band);
-        return;
+        return false;
     }
     if (cell->row >= HGRowCount(ctl->pData)) {
         cell->row = LastRow(ctl);
-        return;
+        return true;
     }
     if (*band < 0) {
         *band = (fromTop - (cell->row - ctl->nTopRow) * height) / lineHeight;
     }
+    return true;
 }
 
 int HitColumn(HGridCtl* ctl, const RECT& data, int x, int band)
@@ -79,12 +71,14 @@ int HitColumn(HGridCtl* ctl, const RECT& data, int x, int band)
     return col;
 }
 
-int HitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band, BandAbove bandAbove)
+int HitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band, bool byHeader)
 {
     const Point point = UnpackPoint(lParam);
     RECT data;
     HGDataRect(ctl, &data);
-    HitRow(ctl, data, point.y, cell, band, bandAbove);
+    if (!HitRow(ctl, data, point.y, cell, band) && byHeader) {
+        *band = HeaderBand(ctl, point.y, *band);
+    }
     cell->col = HitColumn(ctl, data, point.x, *band);
     if (cell->col < 0 && !HasStyle(ctl, HGS_ROWHEADERS)) {
         cell->col = 0;
@@ -96,10 +90,12 @@ int HitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band, BandAbove bandA
 
 int HGHitCell(HGridCtl* ctl, LPARAM lParam, Cell* cell, int* band)
 {
-    return HitCell(ctl, lParam, cell, band, HeaderBand);
+    return HitCell(ctl, lParam, cell, band, true);
 }
 
+// Painting goes band by band: a point above the rows stands for a column of the band that is painted, or columns whose
+// order differs from that of the band before would be left out.
 int HGHitBand(HGridCtl* ctl, LPARAM lParam, Cell* cell, int band)
 {
-    return HitCell(ctl, lParam, cell, &band, PaintBand);
+    return HitCell(ctl, lParam, cell, &band, false);
 }
