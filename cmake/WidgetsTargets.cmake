@@ -171,11 +171,14 @@ endfunction()
 function(widgets_register_test target name window)
     set(test ${WIDGETS_CONFIG}.${name})
     set(drive $<$<AND:$<BOOL:${WIN32}>,$<BOOL:${CMAKE_CROSSCOMPILING}>>:Z:>)
+    # The programs of two architectures run at once, and both make files of the same names: each has a folder.
+    set(folder ${PROJECT_BINARY_DIR}/tests/files)
+    file(MAKE_DIRECTORY ${folder})
     add_test(NAME ${test} COMMAND ${target})
     set_tests_properties(${test} PROPERTIES
         TIMEOUT 600
         ENVIRONMENT "GTEST_OUTPUT=xml:${drive}${PROJECT_BINARY_DIR}/results/${test}.xml;GTEST_COLOR=no"
-        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+        WORKING_DIRECTORY ${folder})
     if(window)
         set_tests_properties(${test} PROPERTIES RESOURCE_LOCK desktop)
     endif()

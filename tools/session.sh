@@ -1,8 +1,9 @@
 # shellcheck shell=bash
 # shellcheck disable=SC2154 # widgets_root and logs come from lib.sh
 # One X server without a screen and one Wine server an architecture, from start_wine to the end of the shell that
-# sources this after wine.sh. Shells with different architectures can have theirs at the same time. Programs then start in a tenth of a second, and Wine's own processes, which stay, don't
-# hold on to the output of a test that happened to start them.
+# sources this after wine.sh. Shells with different architectures can have theirs at the same time. Programs then start
+# in a tenth of a second, and Wine's own processes, which stay, don't hold on to the output of a test that happened to
+# start them.
 
 xvfb=
 wine_started=

@@ -32,9 +32,7 @@ protected:
         return bytes;
     }
 
-    // Programs of both architectures may run at once.
-    static constexpr const char* name =
-        sizeof(void*) == 8 ? "foundation_test_stream64.bin" : "foundation_test_stream32.bin";
+    static constexpr char name[] = "foundation_test_stream.bin";
     BlockLeakCheck        leaks;
 };
 
