@@ -22,6 +22,18 @@ bool Restore(HEditCtl* ctl, const EntryScope& entry)
     return true;
 }
 
+// Repainting that an entry, or one around it, has switched off. Only one of them has: then the field isn't visible.
+void ShowAgain(HWND hwnd, EntryScope* entry)
+{
+    for (; entry; entry = entry->outer) {
+        if (entry->redrawOff) {
+            entry->redrawOff = false;
+            SendMessageA(hwnd, WM_SETREDRAW, TRUE, 0);
+            return;
+        }
+    }
+}
+
 // Does all of an entry once more. Whether the host is still to hear that the text has changed.
 bool FinishOpen(HEditCtl* ctl, EntryScope* entry)
 {
@@ -82,10 +94,7 @@ void FinishEntry(HEditCtl* ctl)
         return;
     }
     const HWND hwnd = ctl->hWnd;
-    if (entry->redrawOff) {
-        entry->redrawOff = false;
-        SendMessageA(hwnd, WM_SETREDRAW, TRUE, 0);
-    }
+    ShowAgain(hwnd, entry);
     const bool changes = entry->state == EntryScope::Open && IsWindow(hwnd) && FinishOpen(ctl, entry);
     for (EntryScope* each = entry; each; each = each->outer) {
         each->state = EntryScope::Over;

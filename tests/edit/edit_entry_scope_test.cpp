@@ -119,6 +119,25 @@ TEST_F(EditEntryScope, FieldThatIsHiddenMeanwhileStaysHidden)
     }
 }
 
+TEST_F(EditEntryScope, FieldStaysVisibleWhenTheFocusMovesInAnEntryWithinAnother)
+{
+    for (const Entry& entry : entries) {
+        Make();
+        int changes = 0;
+        parent.On(HEN_CHANGE, [this, &changes] {
+            ++changes;
+            if (changes == 1) {
+                Send(WM_CHAR, 'z');
+            } else if (changes == 2) {
+                SetFocus(parent.hwnd());
+            }
+        });
+        entry.run(edit);
+        EXPECT_LE(2, changes) << entry.what;
+        EXPECT_TRUE(IsWindowVisible(edit)) << entry.what;
+    }
+}
+
 TEST_F(EditEntryScope, TextOfTheHostIsNotReplacedByTheOldOne)
 {
     Make();
