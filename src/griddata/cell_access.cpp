@@ -138,12 +138,26 @@ bool SourceTakes(HGridCtl* ctl, int col, int row, const void* value)
     return !refused && stays && HGRowNode(grid, row) == node;
 }
 
+// Where a row stands after the parent was told: it may have put others in front of it, or taken them away. The same
+// number if it isn't found, since columns that come or go give every row a new node.
+int PlaceOfRow(HGridData* grid, const void* node, int row)
+{
+    const int count = HGRowNode(grid, row) == node ? 0 : HGRowCount(grid);
+    for (int i = 0; i < count; ++i) {
+        if (HGRowNode(grid, i) == node) {
+            return i;
+        }
+    }
+    return row;
+}
+
 // After the parent has agreed: the row's follow-up, the repaint and the changed bit. 0 if the window went meanwhile.
 // written is the row's node: in its place may stand a record that the parent had loaded, which has nothing to store.
 int FinishWrite(HGridCtl* ctl, int col, int row, const void* written)
 {
-    const bool  isVirtual = (ctl->wFlags & HGC_VIRTUAL) != 0;
-    const void* there = HGRowNode(ctl->pData, row);
+    const bool isVirtual = (ctl->wFlags & HGC_VIRTUAL) != 0;
+    row = isVirtual ? row : PlaceOfRow(ctl->pData, written, row);
+    const void* const there = HGRowNode(ctl->pData, row);
     if (!there || (isVirtual && there != written)) {
         return 1;
     }
@@ -297,7 +311,8 @@ int HGFormatCell(HGridCtl* ctl, int col, int row, char* out, int outSize, int ed
     *out = 0;
     HGridData* const grid = DataOf(ctl);
     const HGField* const field = grid ? HGGetField(grid, col) : nullptr;
-    const BYTE* const cell = field ? HGCellPtr(grid, col, row) : nullptr;
+    // A column without a size holds no value, and at its place the next column's stands.
+    const BYTE* const cell = field && field->cbSize > 0 ? HGCellPtr(grid, col, row) : nullptr;
     if (!cell || !IsCellKind(field->cKind)) {
         return 0;
     }

@@ -139,6 +139,25 @@ TEST_F(GridCells, EntryRowBringsExactlyOneMore)
     EXPECT_TRUE(RowFlags(1) & HGR_NEW);
 }
 
+TEST_F(GridCells, EntryRowThatTheParentMovesBringsTheNextAllTheSame)
+{
+    for (const UINT message : { HGM_DELETEROW, HGM_INSERTROW }) {
+        MakeGrid(GridOf({ Text() }, gridStyle | HGS_NEWROW));
+        SetText(0, 0, "first");
+        SetText(0, 1, "second");
+        Send(grid, WWM_SETCHANGED, 0);
+        parent.On(HGN_CELLCHANGED, [&] { Send(grid, message, 0); });
+        EXPECT_EQ(1, HGSetCellText(grid, 0, 2, "third")) << message;
+        const int last = static_cast<int>(Send(grid, HGM_GETROWCOUNT)) - 1;
+        EXPECT_EQ(message == HGM_DELETEROW ? 2 : 4, last) << message;
+        EXPECT_EQ("third", CellText(0, last - 1)) << message;
+        EXPECT_EQ("", CellText(0, last)) << message;
+        EXPECT_TRUE(RowFlags(last) & HGR_NEW) << message;
+        EXPECT_EQ(1, Send(grid, WWM_GETCHANGED)) << message;
+        parent.On(HGN_CELLCHANGED, nullptr);
+    }
+}
+
 TEST_F(GridCells, CopyFromARowPastTheEndMakesTheTargetNull)
 {
     MakeGrid(GridOf({ Number() }), 2);
@@ -160,6 +179,17 @@ TEST_F(GridCells, FieldWithoutSizeIsNeverWritten)
     EXPECT_EQ(0, HGSetCellData(grid, 0, 0, &value));
     EXPECT_EQ(0, HGSetCellString(grid, 0, 0, &value));
     EXPECT_EQ("8", CellText(1, 0));
+}
+
+TEST_F(GridCells, TextColumnWithoutSizeHasNotTheTextOfTheNext)
+{
+    HGField* const none = HGFieldCreate("None", 0, 80, 0, 's', 's', 0, 0, 0, 'e', 0, "", 0);
+    none->cbSize = 0;
+    MakeGrid(GridOf({ none, Text() }), 1);
+    ASSERT_EQ(0, HGGetField(ctl->pData, 0)->cbSize);
+    SetText(1, 0, "next");
+    EXPECT_EQ("", CellText(0, 0));
+    EXPECT_EQ("next", CellText(1, 0));
 }
 
 TEST_F(GridCells, OffsetPtrKnowsEachColumnAndNoOther)
