@@ -6,6 +6,7 @@
 #include "edit/edit_control.h"
 #include "foundation/startup.h"
 #include "list/list_control.h"
+#include "typed/data_types.h"
 
 #include <widgets/widgets.h>
 
@@ -35,6 +36,9 @@ constexpr TextColor textColors[] = { // the first that is set counts
     { cellTextGrey,  0x00969696 },
 };
 // clang-format on
+
+// What a column without a size shows: an empty text, and zero for a painter that reads a type of fixed size.
+constexpr char noValue[longestFixedType + 1] = {};
 
 constexpr DWORD edRight = 0x0002; // of a column's dwCtlStyle
 constexpr DWORD edCenter = 0x0001;
@@ -212,7 +216,7 @@ int HGDrawDataCell(HGridCtl* ctl, HDC hdc, const RECT& rect, int col, int row)
     }
     const void* value = HGCellPtr(ctl->pData, col, row);
     if (field->cbSize == 0) {
-        value = "";
+        value = noValue;
     }
     if (!value) {
         return 1;

@@ -285,6 +285,23 @@ TEST_F(GridCellPaint, OfKindQGetsNullWhileItsChildIsNull)
     EXPECT_FALSE(gHost.isNull);
 }
 
+TEST_F(GridCellPaint, CheckWithoutASizeShowsAnEmptyBox)
+{
+    HGField* const sized = HGFieldCreate("", 0, 80, 0, 'b', 'w', 0, 0, 0, 'k', 0, "", 0);
+    HGField* const none = HGFieldCreate("", 0, 80, 0, 'b', 'w', 0, 0, 0, 'k', 0, "", 0);
+    none->cbSize = 0;
+    MakePainted(GridOf({ sized, none }), 1);
+    ASSERT_EQ(HGGetField(ctl->pData, 1)->cbSize, 0);
+    const auto paintBox = [this](WORD value) {
+        EXPECT_EQ(1, HGSetCellData(grid, 0, 0, &value));
+        return Repaint();
+    };
+    const Pixels crossed = paintBox(1);
+    EXPECT_FALSE(SamePixels(PartOf(crossed, CellInside(0, 0)), PartOf(crossed, CellInside(1, 0))));
+    const Pixels empty = paintBox(0);
+    EXPECT_TRUE(SamePixels(PartOf(empty, CellInside(0, 0)), PartOf(empty, CellInside(1, 0))));
+}
+
 TEST_F(GridCellPaint, WithoutASizeHasTheEmptyTextAsItsValue)
 {
     HGField* const field = HGFieldCreate("Empty", 0, 80, 0, 's', 's', 0, 0, 0, 'q', 0, "", 0);
