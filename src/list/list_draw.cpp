@@ -18,17 +18,6 @@ constexpr COLORREF overflowColor = 0x00A00000;
 constexpr int valueIsData = 1;
 constexpr int valueIsCode = 2;
 
-// Formats an item into a buffer of itemTextSize bytes; its length.
-int FormatItem(HListCtl* ctl, int index, char* buffer, int size)
-{
-    int negative = 0;
-    buffer[0] = 0;
-    DataList items = ctl->items;
-    const int length = HDLFormatItem(&items, index, buffer, size, &negative, 0);
-    SetFlag(ctl, HLF_NEGATIVE, negative != 0);
-    return length;
-}
-
 void FillRectangle(HDC hdc, const RECT& rect, HBRUSH brush)
 {
     const SelectedObject selected(hdc, brush);
@@ -115,7 +104,7 @@ struct ShownItem {
 ShownItem ShowItem(HListCtl* ctl, HDC hdc, const RECT& rect, int index, const TextLook& look)
 {
     ShownItem item;
-    item.length = FormatItem(ctl, index, item.text, itemTextSize);
+    item.length = HLFormatText(ctl, index, item.text, itemTextSize);
     if (look.highlighted && !look.opaque) {
         FillRectangle(hdc, rect, GetSysColorBrush(COLOR_HIGHLIGHT));
     }
@@ -155,10 +144,19 @@ void MarkOverflow(HDC hdc, const RECT& rect)
 
 } // namespace
 
+int HLFormatText(HListCtl* ctl, int index, char* buffer, int size)
+{
+    int      negative = 0;
+    DataList items = ctl->items;
+    HDLFormatItem(&items, index, buffer, size, &negative, 0);
+    SetFlag(ctl, HLF_NEGATIVE, negative != 0);
+    return static_cast<int>(std::strlen(buffer));
+}
+
 DWORD HLMeasureItem(HListCtl* ctl, HDC hdc, int index, char* buffer, int size)
 {
-    const int length = FormatItem(ctl, index, buffer, size);
-    if (length <= 0) {
+    const int length = HLFormatText(ctl, index, buffer, size);
+    if (length == 0) {
         return 0;
     }
     if (HasStyle(ctl, HLS_TABS)) {

@@ -13,11 +13,16 @@
 struct ListBlock {
     HListCtl ctl;
     bool     hadFocus; // between WM_SETFOCUS and WM_KILLFOCUS
+    HLList*  pFormats; // pointers to the formats that its own items had before: who borrowed them still reads one
 };
 
 inline bool& HadFocus(HListCtl* ctl)
 {
     return reinterpret_cast<ListBlock*>(ctl)->hadFocus;
+}
+inline HLList*& OldFormats(HListCtl* ctl)
+{
+    return reinterpret_cast<ListBlock*>(ctl)->pFormats;
 }
 // The last item, or -1.
 inline int LastItem(const HListCtl* ctl)
@@ -47,6 +52,10 @@ int  PlaceInSelection(const HListCtl* ctl, int index);
 bool IsInSelection(const HListCtl* ctl, int index);
 // HLIsItemSelected in a walk that asks for the current item once: it is searched if it is held by its code.
 bool IsSelectedBeside(HListCtl* ctl, int index, int current);
+
+// Formats an item into a buffer of size bytes; the length of what is there. A row of # counts too, which isn't what the
+// formatting answers.
+int HLFormatText(HListCtl* ctl, int index, char* buffer, int size);
 
 // How the text of an item is drawn.
 struct TextLook {

@@ -302,6 +302,34 @@ private:
     int       removed_ = 0;
 };
 
+char* OldFormat(const HLList* formats)
+{
+    return LoadAs<char*>(HNodePayload(formats->pHead));
+}
+
+// Whether a format that goes is kept for those who borrow the items.
+bool KeepFormat(HListCtl* ctl, char* format)
+{
+    HLList*& formats = OldFormats(ctl);
+    if (!formats) {
+        formats = HLListCreate(sizeof format, nullptr, nullptr, nullptr, nullptr, nullptr, 0);
+    }
+    const int before = HLListCount(formats);
+    HLListAppend(formats, &format);
+    return HLListCount(formats) > before;
+}
+
+void DropOldFormats(HListCtl* ctl)
+{
+    HLList*& formats = OldFormats(ctl);
+    while (HLListCount(formats) > 0) {
+        HBlockFree(OldFormat(formats));
+        HLListRemove(formats, 0);
+    }
+    HLListDestroy(formats);
+    formats = nullptr;
+}
+
 // An owner that draws hears of each item while the list is as it was then.
 bool CanSweep(const HListCtl* ctl, int which)
 {
@@ -329,6 +357,7 @@ void HLDropItems(HListCtl* ctl)
     DataList items = ctl->items;
     if (!HasFlag(ctl, HLF_SHAREDLIST)) {
         HDLDestroy(&items);
+        DropOldFormats(ctl);
     } else if (HasFlag(ctl, HLF_OWNFORMAT)) {
         HBlockFree(items.pszFormat);
     }
@@ -345,6 +374,7 @@ bool HLApplyType(HListCtl* ctl, const char* text)
     HLFreeItems(ctl);
     SetFlag(ctl, HLF_SHAREDLIST, false); // the items to come are the list's own
     ctl->nTop = 0;
+    ctl->nScrollPos = 0;
     if (!HasFlag(ctl, HLF_SINGLESEL)) {
         ctl->pSelected = HLListCreate(sizeof(LONG), nullptr, nullptr, CompareIndexes, nullptr, nullptr, 1);
     }
@@ -473,15 +503,21 @@ void HLEmptyItems(HListCtl* ctl)
 }
 
 // A list that shows somebody else's items has a format of its own from the first one on that it is given: the other
-// holder goes on using his.
+// holder goes on using his. In the same way those who have borrowed a list's own items go on with the format of then.
 int HLSetFormat(HListCtl* ctl, const char* format)
 {
-    const bool borrowed = HasFlag(ctl, HLF_SHAREDLIST) && !HasFlag(ctl, HLF_OWNFORMAT);
+    const bool own = HasFlag(ctl, HLF_OWNFORMAT);
+    const bool shared = HasFlag(ctl, HLF_SHAREDLIST);
     DataList   items = ctl->items;
-    if (borrowed) {
-        items.pszFormat = nullptr;
+    char* const before = items.pszFormat;
+    if (!own) {
+        items.pszFormat = nullptr; // or it would be freed
     }
     if (!HDLSetFormat(&items, format)) {
+        return 0;
+    }
+    if (!shared && before && !KeepFormat(ctl, before)) {
+        HBlockFree(items.pszFormat);
         return 0;
     }
     SetFlag(ctl, HLF_OWNFORMAT, HasFlag(ctl, HLF_SHAREDLIST));

@@ -71,6 +71,23 @@ int ScrollMaximum(const HListCtl* ctl)
     return std::max(maximum, 0);
 }
 
+// The first visible item doesn't lie behind the last one, and the scroll position goes with it whether items went, rows
+// became more or fewer, or others came in front of the item that a field shows: or nothing would be painted.
+void LimitTop(HListCtl* ctl)
+{
+    const int last = std::max(LastItem(ctl), 0);
+    if (HasColumns(ctl)) {
+        ctl->nScrollPos = std::min<int>(ctl->nScrollPos, last / ctl->cRows);
+        ctl->nTop = ctl->nScrollPos * ctl->cRows;
+        return;
+    }
+    const int current = IsField(ctl) ? HLCurIndex(ctl) : -1;
+    if (current >= 0 || ctl->nTop > last) {
+        ctl->nTop = std::min(current >= 0 ? current : last, last);
+        ctl->nScrollPos = ctl->nTop;
+    }
+}
+
 // The highest position that scrolling reaches.
 int HighestPosition(const HListCtl* ctl)
 {
@@ -165,7 +182,7 @@ void HLRecalc(HListCtl* ctl)
     SetColumnWidth(ctl);
     CountRowsAndColumns(ctl);
     const int maximum = ScrollMaximum(ctl);
-    ctl->nTop = std::max(std::min<int>(ctl->nTop, LastItem(ctl)), 0);
+    LimitTop(ctl);
     InvalidateRect(hwnd, nullptr, TRUE);
     if (ctl->nScrollPos > maximum) {
         HLScroll(ctl, 0);

@@ -180,10 +180,7 @@ LRESULT OnGetCode(HListCtl*, const MsgArgs& args)
 // The text of an item as it shows; its length, or -1 for an empty one.
 int ShownText(HListCtl* ctl, int index, char* buffer)
 {
-    int       negative = 0;
-    DataList  items = ctl->items;
-    const int length = HDLFormatItem(&items, index, buffer, itemTextSize, &negative, 0);
-    SetFlag(ctl, HLF_NEGATIVE, negative != 0);
+    const int length = HLFormatText(ctl, index, buffer, itemTextSize);
     return length > 0 ? length : -1;
 }
 
@@ -262,11 +259,11 @@ LRESULT GiveCurrent(HListCtl* ctl, const MsgArgs& args, bool code)
     if (args.wParam && values && values->cbItem < 0) {
         const void* const text = code ? HDLGetCodePtr(&items, current) : HDLGetDataPtr(&items, current);
         const int         size = static_cast<int>(std::min<WPARAM>(args.wParam, INT_MAX));
-        if (!text || !*static_cast<const char*>(text)) {
+        if (!text) {
             return 0;
         }
         _fstrnzcpy(PointerOf<char>(args), static_cast<const char*>(text), size);
-        return 1;
+        return *static_cast<const char*>(text) != 0;
     }
     return code ? HDLGetCode(&items, current, PointerOf<void>(args))
                 : HDLGetData(&items, current, PointerOf<void>(args));

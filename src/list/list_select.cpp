@@ -15,7 +15,7 @@ bool IsInDrag(const HListCtl* ctl, int index, int current)
     return index >= std::min(anchor, current) && index <= std::max(anchor, current);
 }
 
-// Bounded: shared items may have codes that don't fit into lCurCode.
+// Bounded: shared items may have codes that don't fit into lCurCode, or none; the current item is held by its index then.
 bool IsHeldByCode(const HListCtl* ctl)
 {
     const HLList* const codes = HasStyle(ctl, HLS_CODECURRENT) && HasCodes(ctl) ? ctl->items.pCodes : nullptr;
@@ -81,9 +81,13 @@ struct SelectWalk {
     int current;
 };
 
+// An index of no item counts as visited, and isn't selected.
 int SelectStep(HListCtl* ctl, int index, void* context)
 {
     const SelectWalk* const walk = static_cast<const SelectWalk*>(context);
+    if (index < 0 || index >= HLCount(ctl)) {
+        return 0;
+    }
     return SelectBeside(ctl, index, walk->mode, walk->current);
 }
 

@@ -221,6 +221,13 @@ LRESULT OnDoubleClick(HListCtl* ctl)
     return 1;
 }
 
+// A current item that is held by its code may have gone with it.
+LRESULT OnIsNull(HListCtl* ctl, const MsgArgs& args)
+{
+    HLCurIndex(ctl);
+    return AskDefault(args);
+}
+
 LRESULT OnCancelMode(HListCtl* ctl, const MsgArgs& args)
 {
     ctl->wFlags |= CF_CANCEL;
@@ -246,6 +253,7 @@ LRESULT OnWindowMessage(HListCtl* ctl, const MsgArgs& args)
     case WM_SETFOCUS:          return OnSetFocus(ctl, args);
     case WM_KILLFOCUS:         return OnKillFocus(ctl, args);
     case WM_GETDLGCODE:        return HasStyle(ctl, HLS_WANTKEYS) ? wantAllKeys : wantSome;
+    case WWM_ISNULL:           return OnIsNull(ctl, args);
     default:                   return AskDefault(args);
     }
 }

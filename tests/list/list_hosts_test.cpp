@@ -3,6 +3,7 @@
 #include "support/input.h"
 #include "support/pixels.h"
 
+#include <cstring>
 #include <functional>
 
 namespace {
@@ -120,6 +121,28 @@ TEST_F(ListHosts, BorrowerHasAFormatOfItsOwn)
     EXPECT_EQ("0007", Text(0));
 }
 
+TEST_F(ListHosts, BorrowerGoesOnWithTheFormatThatTheOwnerHad)
+{
+    Make("%ni0000");
+    AddNumbers({ 7 });
+    const HWND other = MakeOther("%ni");
+    HLSetList(other, HLGetList(list));
+    for (const char* const format : { "00", "000", "00000000000000000000" }) {
+        EXPECT_EQ(1, SendPtr(HLM_SETFORMAT, 0, format));
+        char text[128] = "";
+        SendMessageA(other, HLM_GETITEMTEXT, 0, AsParam(text));
+        EXPECT_STREQ("0007", text) << format;
+    }
+    EXPECT_EQ("00000000000000000007", Text(0));
+    HLSetList(other, HLGetList(list));
+    char text[128] = "";
+    SendMessageA(other, HLM_GETITEMTEXT, 0, AsParam(text));
+    EXPECT_EQ(Text(0), text);
+    DestroyWindow(other);
+    SendPtr(WM_SETTEXT, 0, "%ni"); // with the items the formats go
+    EXPECT_EQ(nullptr, OldFormats(Ctl()));
+}
+
 TEST_F(ListHosts, MaskedTextsAreFoundByWhatIsStored)
 {
     Make("%ms(###) ###");
@@ -138,7 +161,9 @@ TEST_F(ListHosts, TextCutToNothingIsStillAText)
     EXPECT_EQ(1, SendPtr(HLM_GETCURDATA, 1, out));
     EXPECT_STREQ("", out);
     Send(HLM_SETCURRENT, 1);
+    std::strcpy(out, "old");
     EXPECT_EQ(0, SendPtr(HLM_GETCURDATA, 4, out));
+    EXPECT_STREQ("", out);
 }
 
 TEST_F(ListHosts, PlacesBeyondAnyCountAreTheEnd)

@@ -243,6 +243,87 @@ TEST_F(ListLayout, DeletionPullsThePositionIn)
     EXPECT_EQ(0, +Ctl()->nScrollPos);
 }
 
+TEST_F(ListLayout, ReloadOfAScrolledListShowsItsItems)
+{
+    struct Row {
+        const char*           what;
+        std::function<void()> reload;
+        int                   top;
+    };
+    const Row rows[] = {
+        { "fewer at once", [this] { HLEmptyList(list); Fill(17); }, 16 },
+        { "a few deleted", [this] { for (int i = 0; i < 3; ++i) { HLDeleteItem(list, 0); } }, 16 },
+        { "another type", [this] { SendPtr(WM_SETTEXT, 0, "%ss"); Fill(30); }, 0 },
+    };
+    for (const Row& row : rows) {
+        Make();
+        ShowRows(3);
+        Fill(20);
+        Send(HLM_SCROLL, 17);
+        ASSERT_EQ(17, Top()) << row.what;
+        row.reload();
+        EXPECT_EQ(row.top, Top()) << row.what;
+        EXPECT_EQ(0, ItemRect(row.top).top) << row.what;
+    }
+}
+
+TEST_F(ListLayout, ColumnsOfAScrolledListGoOnFromItsFirstOneWithMoreRowsOrFewer)
+{
+    for (const int rows : { 3, 8 }) {
+        MakeColumns(5, 60, 60);
+        Send(HLM_SCROLL, 2);
+        ASSERT_EQ(10, Top());
+        ShowRows(rows);
+        const int shown = static_cast<int>(+Ctl()->cRows);
+        ASSERT_NE(5, shown);
+        EXPECT_EQ(2 * shown, Top()) << rows;
+        for (int i = 0; i < shown * (Width() / 60); ++i) {
+            const RECT item = ItemRect(Top() + i);
+            EXPECT_EQ(i / shown * 60, item.left) << rows << " rows, item " << i;
+            EXPECT_EQ(i % shown * RowHeight(), item.top) << rows << " rows, item " << i;
+            EXPECT_FALSE(IsRectEmpty(&item)) << rows << " rows, item " << i;
+        }
+    }
+}
+
+TEST_F(ListLayout, FieldGoesOnShowingItsCurrentItemWhenOthersComeAndGo)
+{
+    struct Row {
+        const char*           what;
+        DWORD                 style;
+        std::function<void()> work;
+    };
+    const Row rows[] = {
+        { "one in front", 0, [this] { HLInsertItem(list, 0, "first"); } },
+        { "one that sorts in front", HLS_SORTDATA, [this] { HLAddItem(list, "a"); } },
+        { "many in front", HLS_SORTDATA, [this] { Add({ "b", "c", "d" }); } },
+        { "one in front goes", 0, [this] { HLDeleteItem(list, 1); } },
+        { "the last ones go", 0, [this] { HLDeleteItem(list, 4); HLDeleteItem(list, 3); } },
+    };
+    for (const Row& row : rows) {
+        Make("%ss", HLS_FIELD | row.style, 200, 24);
+        Fill(5);
+        Send(HLM_SETCURRENT, row.what[0] == 't' ? 4 : 2);
+        row.work();
+        EXPECT_EQ(Current(), Top()) << row.what;
+        Key(VK_UP);
+        EXPECT_EQ(Current(), Top()) << row.what;
+    }
+}
+
+TEST_F(ListLayout, FieldHasNoBarToMove)
+{
+    Make("%ss", HLS_FIELD, 200, 24);
+    Fill(5);
+    Send(HLM_SETCURRENT, 3);
+    EXPECT_EQ(3, Top());
+    EXPECT_EQ(0, GetScrollPos(list, SB_VERT));
+    Told();
+    Send(WM_VSCROLL, MAKEWPARAM(SB_THUMBTRACK, GetScrollPos(list, SB_VERT)));
+    EXPECT_EQ(3, Current());
+    EXPECT_EQ(Ints{}, Told());
+}
+
 TEST_F(ListLayout, ScrollBarMessagesMoveTheList)
 {
     struct Row {

@@ -2,6 +2,11 @@
 #include "foundation/startup.h"
 #include "list_window.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <iterator>
+
 namespace {
 
 class ListMessages : public ListWindow {
@@ -303,6 +308,36 @@ TEST_F(ListMessages, ClassIsRegisteredWithoutCursorAndBrush)
     EXPECT_EQ(static_cast<int>(sizeof(LONG_PTR)), info.cbWndExtra);
     EXPECT_EQ(nullptr, info.hCursor);
     EXPECT_EQ(nullptr, info.hbrBackground);
+}
+
+TEST_F(ListMessages, ItemTextIsWhatShowsWhateverTheFormattingAnswers)
+{
+    struct Row {
+        const char* what;
+        std::string type;
+        double      value;
+        std::string text;
+    };
+    const std::string dashes(127, '-');
+    const Row rows[] = {
+        { "a date that has no room", "%dl" + dashes + "mmmm", 0, dashes },
+        { "infinity", "%nd", HUGE_VAL, std::string(127, '#') },
+    };
+    for (const Row& row : rows) {
+        Make(row.type.c_str());
+        const int date = 20240915;
+        HLAddItem(list, row.type[1] == 'd' ? static_cast<const void*>(&date) : &row.value);
+        char text[160];
+        std::memset(text, '~', sizeof text);
+        EXPECT_EQ(127, SendPtr(HLM_GETITEMTEXT, 0, text)) << row.what;
+        EXPECT_EQ(row.text, text) << row.what;
+        EXPECT_TRUE(std::all_of(text + 128, std::end(text), [](char ch) { return ch == '~'; })) << row.what;
+        EXPECT_EQ(127, Send(HLM_GETITEMTEXTLEN)) << row.what;
+    }
+    Make("%hh");
+    const char none = 0;
+    HLAddItem(list, &none);
+    EXPECT_EQ(-1, Send(HLM_GETITEMTEXTLEN)) << "no character";
 }
 
 TEST_F(ListMessages, WindowTextFreesTheTabStopsAndGoesToTheTop)

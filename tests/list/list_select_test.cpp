@@ -1,6 +1,8 @@
 // Which items are selected: the modes, the index rules, links and the current item that is held by its code.
 #include "list_window.h"
 
+#include <climits>
+
 namespace {
 
 class ListSelect : public ListWindow {};
@@ -59,6 +61,31 @@ TEST_F(ListSelect, SelectItemsVisitsOneItemWithSingleSelection)
     EXPECT_EQ((Ints{ 0, 2 }), Selected());
     EXPECT_EQ(1, HLSelectItems(list, HLSEL_SET, HLI_UNSELECTED, 0, nullptr));
     EXPECT_EQ((Ints{ 0, 1, 2 }), Selected());
+}
+
+TEST_F(ListSelect, IndexOfNoItemIsVisitedAndNotSelected)
+{
+    Make("%ni", multiple);
+    AddNumbers({ 1, 2, 3 });
+    const int indexes[] = { 1, 3, 99, INT_MAX };
+    EXPECT_EQ(4, HLSelectItems(list, HLSEL_SET, HLI_BYINDEX, 4, indexes));
+    EXPECT_EQ((Ints{ 1 }), Selected());
+    EXPECT_EQ(4, HLSelectItems(list, HLSEL_TOGGLE, HLI_BYINDEX, 4, indexes));
+    EXPECT_EQ(Ints{}, Selected());
+}
+
+TEST_F(ListSelect, ValuesAndCodesSelectTheFirstItemThatHasThem)
+{
+    Make("%ni%ss", multiple);
+    const int         values[] = { 10, 20, 10, 30 };
+    const char* const codes[] = { "a", "b", "c", "b" };
+    ASSERT_EQ(4, HLAddItemsEx(list, 4, values, codes));
+    const int wanted[] = { 30, 77, 10 };
+    EXPECT_EQ(2, HLSelectItems(list, HLSEL_SET, HLI_BYDATA, 3, wanted));
+    EXPECT_EQ((Ints{ 0, 3 }), Selected());
+    const char* const wantedCodes[] = { "b", "none", "a" };
+    EXPECT_EQ(2, HLSelectItems(list, HLSEL_TOGGLE, HLI_BYCODE, 3, wantedCodes));
+    EXPECT_EQ((Ints{ 1, 3 }), Selected());
 }
 
 TEST_F(ListSelect, SelectDataMovesTheCurrentItemWithSingleSelection)
@@ -219,8 +246,8 @@ TEST_F(ListSelect, CurrentItemThatGoesLeavesTheNullValue)
         Send(HLM_SETCURRENT, 0);
         EXPECT_EQ(0, Send(WWM_ISNULL)) << row.what;
         row.work();
-        EXPECT_EQ(-1, Current()) << row.what;
         EXPECT_EQ(1, Send(WWM_ISNULL)) << row.what;
+        EXPECT_EQ(-1, Current()) << row.what;
         Make("%ni%ni", row.style | multiple);
         AddNumbers({ 10, 20 }, { 1, 2 });
         row.work();
