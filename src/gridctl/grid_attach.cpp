@@ -154,6 +154,7 @@ void ResetRows(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
     const bool shown = HasFlag(ctl, HGC_EDITORSHOWN);
+    const bool had = ctl->hEditor != nullptr; // hidden while the focus is elsewhere
     if (shown) {
         HGForgetRefused(ctl);
     }
@@ -163,7 +164,7 @@ void ResetRows(HGridCtl* ctl)
     if (!IsWindow(hwnd)) {
         return;
     }
-    if (shown) {
+    if (shown || had) {
         SetFlag(ctl, HGC_CELLSHOWN, false);
     }
     HGridEmpty(ctl->pData);

@@ -65,6 +65,7 @@ void LowerFixedCols(HGridCtl* ctl)
 int HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord)
 {
     const HWND hwnd = ctl->hWnd;
+    const bool onScreen = HasFlag(ctl, HGC_VIRTUAL) && HasFlag(ctl, HGC_CELLSHOWN);
     LowerFixedCols(ctl);
     Bounds bounds = FindBounds(ctl, anchorRecord, currentRecord);
     if (bounds.currentChanged && bounds.anchorChanged) {
@@ -76,9 +77,10 @@ int HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord)
         SetFlag(ctl, HGC_CELLSHOWN, false);
         bounds = FindBounds(ctl, anchorRecord, currentRecord);
     }
-    if ((bounds.currentChanged || bounds.anchorChanged) && HasFlag(ctl, HGC_RANGE)) {
-        // What the screen shows inverted is more than the range that is left.
-        InvalidateRect(ctl->hWnd, nullptr, FALSE);
+    if ((bounds.currentChanged || bounds.anchorChanged) && (HasFlag(ctl, HGC_RANGE) || onScreen)) {
+        // What the screen shows inverted is more than the range that is left, and under the page may stand a piece of a
+        // record that the block has dropped: nothing but the background is painted there.
+        InvalidateRect(ctl->hWnd, nullptr, HasFlag(ctl, HGC_VIRTUAL));
     }
     ctl->nCurCol = static_cast<WORD>(bounds.current.col);
     ctl->nCurRow = static_cast<WORD>(bounds.current.row);

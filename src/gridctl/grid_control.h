@@ -213,6 +213,8 @@ bool HGBeginColumnChange(HGridCtl* ctl, bool* shown); // false if the window wen
 void HGEndColumnChange(HGridCtl* ctl, bool shown);
 int  HGReadEditor(HGridCtl* ctl);
 int  HGShowEditor(HGridCtl* ctl);
+bool HGEditorStands(HGridCtl* ctl);     // it is shown over its cell, or there is none to be shown
+void HGKeepEditorPlaced(HGridCtl* ctl); // a shown editor goes where its cell has gone. May end the window.
 int  HGHideEditor(HGridCtl* ctl);
 void HGPutEditorAway(HGridCtl* ctl); // hides and forgets it
 void HGForgetRefused(HGridCtl* ctl); // an editor that keeps the focus for a refused value gets the cell's value back

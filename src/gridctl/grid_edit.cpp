@@ -150,6 +150,21 @@ bool IsPlaced(const HGridCtl* ctl, HWND editor, const RECT& rect)
     return EqualRect(&now, &rect) != 0;
 }
 
+// Where the editor stands over the current cell. False if it can't be shown.
+bool EditorRect(HGridCtl* ctl, RECT* rect)
+{
+    const Cell cell = CurrentCell(ctl);
+    if (cell.row < 0 || cell.row >= HGRowCount(ctl->pData) || !IsWindow(ctl->hEditor)) {
+        return false;
+    }
+    RECT zone;
+    HGCellRect(ctl, rect, cell.col, cell.row, true);
+    HGScrollRect(ctl, &zone);
+    // Settled: bounded by the scrolling zone, an editor in a fixed column gets no width and isn't seen.
+    HGBoundRect(rect, rect, &zone);
+    return true;
+}
+
 // A host's procedure over the child may end the child or the grid while it is placed: false then.
 bool PlaceEditor(HGridCtl* ctl, const RECT& rect)
 {
@@ -271,22 +286,26 @@ int HGReadEditor(HGridCtl* ctl)
 
 int HGShowEditor(HGridCtl* ctl)
 {
-    const Cell cell = CurrentCell(ctl);
-    if (cell.row < 0 || cell.row >= HGRowCount(ctl->pData) || !IsWindow(ctl->hEditor)) {
-        return 0;
-    }
     RECT rect;
-    RECT zone;
-    HGCellRect(ctl, &rect, cell.col, cell.row, true);
-    HGScrollRect(ctl, &zone);
-    // Settled: bounded by the scrolling zone, an editor in a fixed column gets no width and isn't seen.
-    HGBoundRect(&rect, &rect, &zone);
-    if (!PlaceEditor(ctl, rect)) {
+    if (!EditorRect(ctl, &rect) || !PlaceEditor(ctl, rect)) {
         return 0;
     }
     ctl->wFlags |= HGC_EDITORSHOWN;
     ShowWindow(ctl->hEditor, SW_SHOWNA);
     return 1;
+}
+
+bool HGEditorStands(HGridCtl* ctl)
+{
+    RECT rect;
+    return !EditorRect(ctl, &rect) || (HasFlag(ctl, HGC_EDITORSHOWN) && IsPlaced(ctl, ctl->hEditor, rect));
+}
+
+void HGKeepEditorPlaced(HGridCtl* ctl)
+{
+    if (HasFlag(ctl, HGC_EDITORSHOWN) && !HGEditorStands(ctl)) {
+        HGShowEditor(ctl);
+    }
 }
 
 int HGHideEditor(HGridCtl* ctl)

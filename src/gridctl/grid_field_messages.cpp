@@ -173,6 +173,7 @@ LRESULT OnSetWidth(HGridCtl* ctl, const FieldRef& ref, LPARAM width)
     const int bounded = std::clamp(static_cast<int>(width), minFieldWidth, maxFieldWidth);
     ref.field->nWidth = static_cast<short>(HGScaleX(bounded));
     InvalidateFrom(ctl, ref.col);
+    HGKeepEditorPlaced(ctl);
     return 1;
 }
 
@@ -230,6 +231,7 @@ LRESULT OnSetFieldFlags(HGridCtl* ctl, const FieldRef& ref, LPARAM lParam)
     // A column that comes or goes moves all behind it.
     if ((old ^ flags) & HFF_HIDDEN) {
         InvalidateFrom(ctl, ref.col);
+        HGKeepEditorPlaced(ctl);
     } else {
         InvalidateColumn(ctl, ref.col);
     }

@@ -61,7 +61,10 @@ LRESULT HGOnSetFocus(HGridCtl* ctl, WPARAM wParam, int* pDefault)
         *pDefault = 1;
         return 0;
     }
-    if (IsWindow(ctl->hEditor)) {
+    if (!HGIsEditable(ctl, CurrentCell(ctl).col)) {
+        HGPutEditorAway(ctl); // the host has made the grid or the column read-only meanwhile
+    }
+    if (IsWindow(hwnd) && IsWindow(ctl->hEditor)) {
         HGShowEditor(ctl);
     }
     const bool alive = IsWindow(hwnd) && (HasFlag(ctl, HGC_INEDIT) ? ReturnToEditor(ctl) : ShowCurrentCell(ctl));

@@ -364,7 +364,7 @@ LRESULT HGOnSysKeyUp(HGridCtl* ctl, WPARAM wParam, int* pDefault)
 LRESULT HGOnChar(HGridCtl* ctl, WPARAM wParam, LPARAM lParam, int* pDefault)
 {
     *pDefault = 1;
-    if (ctl->hEditor) {
+    if (ctl->hEditor && HGIsEditable(ctl, CurrentCell(ctl).col)) {
         SendMessageA(ctl->hEditor, WM_CHAR, wParam, lParam);
     }
     return 0;

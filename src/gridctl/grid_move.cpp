@@ -232,7 +232,8 @@ bool ShowMove(HGridCtl* ctl, Move* move)
     return true;
 }
 
-// Steps 19 and 20. The parent may have made the column read-only since.
+// Steps 19 and 20. The parent may have made the column read-only since. A refresh keeps the cell, but what the host has
+// changed before it may have moved the cell, or have put its editor away.
 void GiveEditor(HGridCtl* ctl, const Move& move)
 {
     if (move.editable && HGIsEditable(ctl, CurrentCell(ctl).col)) {
@@ -240,7 +241,7 @@ void GiveEditor(HGridCtl* ctl, const Move& move)
     } else {
         HGPutEditorAway(ctl);
     }
-    if (IsWindow(move.hwnd) && move.showAgain && move.focused) {
+    if (IsWindow(move.hwnd) && move.focused && (move.showAgain || !HGEditorStands(ctl))) {
         HGShowEditor(ctl);
     }
 }

@@ -10,7 +10,7 @@ int RowOf(const MsgArgs& args)
     return static_cast<int>(args.wParam);
 }
 
-// The new row takes over what the caller hands in. Blank rows are made first, since row data hold no cell flags.
+// The new row takes over what the caller hands in. The row is made blank, since row data hold no cell flags.
 void FillRow(HGridCtl* ctl, int row, const MsgArgs& args)
 {
     if (args.lParam && IsWindow(args.hwnd)) {
@@ -61,10 +61,11 @@ LRESULT OnInsertRow(HGridCtl* ctl, const MsgArgs& args)
     if (shifts && !StoreBeforeShift(ctl, args)) {
         return -1;
     }
-    const int index = HGInsertRow(ctl, nullptr, RowOf(args), false);
-    if (index >= 0) {
-        FillRow(ctl, index, args);
-    }
+    // A row source sees the row before it goes in, so it is whole by then.
+    void* const values = reinterpret_cast<void*>(args.lParam);
+    void* const row = values ? HGRowOfValues(ctl->pData, values) : nullptr;
+    const int   index = HGInsertRow(ctl, row, RowOf(args), false);
+    HBlockFree(row);
     if (shifts) {
         LoadAfterShift(ctl, args);
     }

@@ -20,6 +20,9 @@ LRESULT OnSize(HGridCtl* ctl, const MsgArgs& args)
     if (IsWindow(args.hwnd)) {
         HGRecalc(ctl);
     }
+    if (IsWindow(args.hwnd)) {
+        HGKeepEditorPlaced(ctl);
+    }
     return AskDefault(args);
 }
 

@@ -62,6 +62,7 @@ int   HGSetRowSize(HGridData* grid, int newSize);
 void  HGShiftRowBytes(HGridData* grid, int dest, int src, int length);
 void  HGRotateRowBytes(HGridData* grid, int dest, int src, int length);
 void* HGBlankRow(HGridData* grid); // to be freed with HBlockFree; null if rows have no bytes
+void* HGRowOfValues(HGridData* grid, const void* values); // the same with the values of a host, which have no cell flags
 int   HGCopyRow(HGridData* grid, int row, void* buffer, bool toRow);
 int   HGMoveRow(HGridData* grid, int from, int to);
 void  HGSortRows(HGridData* grid, int col, bool ascending, DWORD* parallel);

@@ -6,6 +6,12 @@
 
 namespace {
 
+// A row without its cell flags.
+size_t ValueBytes(const HGridData* grid)
+{
+    return static_cast<size_t>(std::max(HGRowSize(grid) - 2 * HGColCount(grid), 0));
+}
+
 // A row in a new block. Bounded: one that shrinks keeps its length, so that a pass that stops half-way for want of
 // memory leaves no row shorter than the row size says.
 void* MoveToNewBlock(void* node, int oldSize, int newSize)
@@ -115,17 +121,25 @@ void* HGBlankRow(HGridData* grid)
     return size ? HBlockAlloc(static_cast<size_t>(size)) : nullptr;
 }
 
+void* HGRowOfValues(HGridData* grid, const void* values)
+{
+    void* const row = HGBlankRow(grid);
+    if (row) {
+        std::memcpy(row, values, ValueBytes(grid));
+    }
+    return row;
+}
+
 int HGCopyRow(HGridData* grid, int row, void* buffer, bool toRow)
 {
     BYTE* const data = buffer ? HGRowData(grid, row) : nullptr;
     if (!data) {
         return 0;
     }
-    const int size = std::max(HGRowSize(grid) - 2 * HGColCount(grid), 0);
     if (toRow) {
-        std::memcpy(data, buffer, static_cast<size_t>(size));
+        std::memcpy(data, buffer, ValueBytes(grid));
     } else {
-        std::memcpy(buffer, data, static_cast<size_t>(size));
+        std::memcpy(buffer, data, ValueBytes(grid));
     }
     return 1;
 }

@@ -180,7 +180,7 @@ TEST_F(GridAttach, ResetPutsTheEditorAway)
         Send(grid, HGM_ADDROW);
         SetFocus(grid);
         TypeText("5");
-        EXPECT_EQ(grid, GetFocus());
+        EXPECT_EQ(focused ? grid : ChildOf(1), GetFocus()) << "a focus that comes makes the first cell current";
         EXPECT_FALSE(IsWindowVisible(ChildOf(2)));
         Send(grid, HGM_REFRESH, 1);
         EXPECT_CELL(1, 0);

@@ -238,6 +238,42 @@ TEST_F(GridRows, SourceDecidesOnInsertionAndDeletion)
     EXPECT_EQ(base + 4, source.calls[1].record);
 }
 
+// A source of three numbers that takes what is inserted.
+std::vector<LONG> gNumbers;
+
+int CALLBACK GrowingSource(HWND, int operation, int record, void* buffer)
+{
+    const int count = static_cast<int>(gNumbers.size());
+    if (operation == HGSRC_FETCH && record >= 0 && record < count) {
+        StoreAs<LONG>(buffer, gNumbers[static_cast<size_t>(record)]);
+        return 1;
+    }
+    if (operation == HGSRC_INSERT) {
+        gNumbers.insert(gNumbers.begin() + record, LoadAs<LONG>(buffer));
+        return 1;
+    }
+    return operation == HGSRC_COUNT ? count : 0;
+}
+
+TEST_F(GridRows, SourceIsOfferedTheValuesOfAnInsertedRow)
+{
+    gNumbers = { 10, 20, 30 };
+    MakeGrid(GridOf({ Number(), Text() }));
+    SendPtr(grid, HGM_SETROWSOURCE, 0, reinterpret_cast<const void*>(GrowingSource));
+    Send(grid, HGM_SETTOTAL, 0, 3);
+    struct {
+        LONG number;
+        char text[16];
+    } const row = { 15, "values" };
+    EXPECT_EQ(1, SendPtr(grid, HGM_INSERTROW, 1, &row));
+    EXPECT_EQ((std::vector<LONG>{ 10, 15, 20, 30 }), gNumbers);
+    EXPECT_EQ("15", CellText(0, 1));
+    EXPECT_EQ("values", CellText(1, 1));
+    EXPECT_EQ(0, HGIsCellNull(grid, 0, 1));
+    EXPECT_EQ(1, Send(grid, HGM_INSERTROW, 1));
+    EXPECT_EQ((std::vector<LONG>{ 10, 0, 15, 20, 30 }), gNumbers) << "a blank one without values";
+}
+
 TEST_F(GridRows, NewRowOfASourceIsNotDeleted)
 {
     source.count = 3;

@@ -2,6 +2,8 @@
 #include "gridctl/grid_editing.h"
 #include "support/pixels.h"
 
+#include <functional>
+
 namespace {
 
 class GridViewAway : public GridEditing {
@@ -158,44 +160,87 @@ TEST_F(GridViewAway, MoveLeavesOneRowHeaderCurrent)
     }
 }
 
+struct AwayStep {
+    UINT     message; // WM_KEYDOWN: a key
+    WORD     code;
+    unsigned modifiers;
+    int      rows; // of a range that is selected before
+};
+
+constexpr AwayStep awaySteps[] = {
+    { WM_KEYDOWN, VK_NEXT, withNone, 3 },     { WM_KEYDOWN, VK_PRIOR, withNone, 2 },
+    { WM_VSCROLL, SB_PAGEDOWN, withNone, 4 }, { WM_VSCROLL, SB_PAGEUP, withNone, 2 },
+    { WM_VSCROLL, SB_PAGEUP, withNone, 5 },   { WM_KEYDOWN, VK_NEXT, withShift, 3 },
+    { WM_KEYDOWN, VK_NEXT, withShift, 0 },    { WM_KEYDOWN, VK_NEXT, withShift, 0 },
+    { WM_KEYDOWN, VK_NEXT, withShift, 0 },    { WM_KEYDOWN, VK_PRIOR, withShift, 0 },
+    { WM_KEYDOWN, VK_PRIOR, withShift, 0 },   { WM_KEYDOWN, VK_PRIOR, withShift, 0 },
+    { WM_KEYDOWN, VK_PRIOR, withNone, 1 },    { WM_VSCROLL, SB_LINEUP, withNone, 1 },
+};
+
+class GridViewPages : public GridViewAway {
+protected:
+    // A page of nine whole rows, and more pixels under it.
+    void MakePages(int more)
+    {
+        source.count = 1000;
+        MakeSourceGrid(gridStyle | HGS_READONLY);
+        RECT window;
+        GetWindowRect(grid, &window);
+        SetWindowPos(grid, nullptr, 0, 0, static_cast<int>(window.right - window.left),
+                     static_cast<int>(window.bottom - window.top) + more, SWP_NOMOVE | SWP_NOZORDER);
+        SetFocus(grid);
+    }
+    Pixels ShotBehind(const AwayStep& step)
+    {
+        if (step.rows > 0) {
+            MoveTo(0, Current().row);
+            Send(grid, HGM_SETCURSOR, 1, static_cast<LPARAM>(PackCell(1, Current().row + step.rows)));
+        }
+        ShotOf(grid);
+        if (step.message == WM_KEYDOWN) {
+            TypeKey(step.code, step.modifiers);
+        } else {
+            Send(grid, step.message, step.code);
+        }
+        return ShotOf(grid);
+    }
+    void ForEachStep(const std::function<void(const AwayStep& step)>& check)
+    {
+        for (const LONG record : { 300, 20, 11, 5 }) {
+            Send(grid, HGM_GOTORECORD, 0, record);
+            for (const AwayStep& step : awaySteps) {
+                SCOPED_TRACE(testing::Message() << "from " << record << ", step " << &step - awaySteps);
+                check(step);
+            }
+        }
+    }
+};
+
 // The page is a whole number of rows, so the line under its last row is the last row of pixels.
-TEST_F(GridViewAway, RangeThatTheBlockLeavesBehindLeavesNothingInverted)
+TEST_F(GridViewPages, RangeThatTheBlockLeavesBehindLeavesNothingInverted)
 {
-    struct Step {
-        UINT     message; // WM_KEYDOWN: a key
-        WORD     code;
-        unsigned modifiers;
-        int      rows; // of a range that is selected before
-    };
-    constexpr Step steps[] = {
-        { WM_KEYDOWN, VK_NEXT, withNone, 3 },     { WM_KEYDOWN, VK_PRIOR, withNone, 2 },
-        { WM_VSCROLL, SB_PAGEDOWN, withNone, 4 }, { WM_VSCROLL, SB_PAGEUP, withNone, 2 },
-        { WM_VSCROLL, SB_PAGEUP, withNone, 5 },   { WM_KEYDOWN, VK_NEXT, withShift, 3 },
-        { WM_KEYDOWN, VK_NEXT, withShift, 0 },    { WM_KEYDOWN, VK_NEXT, withShift, 0 },
-        { WM_KEYDOWN, VK_NEXT, withShift, 0 },    { WM_KEYDOWN, VK_PRIOR, withShift, 0 },
-        { WM_KEYDOWN, VK_PRIOR, withShift, 0 },   { WM_KEYDOWN, VK_PRIOR, withShift, 0 },
-        { WM_KEYDOWN, VK_PRIOR, withNone, 1 },    { WM_VSCROLL, SB_LINEUP, withNone, 1 },
-    };
-    source.count = 1000;
-    MakeSourceGrid(gridStyle | HGS_READONLY);
-    SetFocus(grid);
-    for (const LONG record : { 300, 20, 11, 5 }) {
-        Send(grid, HGM_GOTORECORD, 0, record);
-        for (const Step& step : steps) {
-            SCOPED_TRACE(testing::Message() << "from " << record << ", step " << &step - steps);
-            if (step.rows > 0) {
-                MoveTo(0, Current().row);
-                Send(grid, HGM_SETCURSOR, 1, static_cast<LPARAM>(PackCell(1, Current().row + step.rows)));
-            }
+    MakePages(0);
+    ForEachStep([this](const AwayStep& step) {
+        const Pixels moved = ShotBehind(step);
+        InvalidateRect(grid, nullptr, TRUE);
+        EXPECT_TRUE(SamePixels(ShotOf(grid), moved));
+    });
+}
+
+// What shows under the page is a piece of the next record, or nothing. Each row of the page is once the current one.
+TEST_F(GridViewPages, NothingInvertedIsLeftUnderThePage)
+{
+    MakePages(10);
+    for (int row = 0; row < 9; ++row) {
+        Send(grid, HGM_GOTORECORD, 0, 300);
+        for (int page = 0; page < 6; ++page) {
+            SCOPED_TRACE(testing::Message() << "row " << row << ", page " << page);
+            MoveTo(0, ctl->nTopRow + row);
             ShotOf(grid);
-            if (step.message == WM_KEYDOWN) {
-                TypeKey(step.code, step.modifiers);
-            } else {
-                Send(grid, step.message, step.code);
-            }
+            TypeKey(VK_PRIOR);
             const Pixels moved = ShotOf(grid);
-            InvalidateRect(grid, nullptr, TRUE);
-            EXPECT_TRUE(SamePixels(ShotOf(grid), moved));
+            const RECT   under = { 40, 200, 120, 210 };
+            EXPECT_LT(moved.Count(RGB(0, 0, 0), under), 80 * 10 / 4);
         }
     }
 }
