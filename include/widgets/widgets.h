@@ -523,13 +523,25 @@ void WINAPI GetIntlSettings(void);
 IntlSettings* WINAPI WWGetIntlInfo(void);
 /** Sets the date separator. @return 1; 0 for a letter, a digit or a character from 128 up. */
 int WINAPI SetDateSep(char ch);
-/** Sets the time separator. @return As SetDateSep. */
+/**
+ * Sets the time separator. Where a format has a date and a time, mm behind this character is the minute: with another
+ * one than ':' formats have to spell it, or values are edited without their minutes.
+ *
+ * @return As SetDateSep.
+ */
 int WINAPI SetTimeSep(char ch);
 /** Sets the decimal separator. @return As SetDateSep. */
 int WINAPI SetDecimalSep(char ch);
 /** Sets the thousands separator. @return As SetDateSep. */
 int WINAPI SetThousandsSep(char ch);
-/** Sets the default date format, 15 characters at the most, in lower case. @return 1; 0 without d, m and y in it. */
+/**
+ * Sets the default date format, after which dates are edited. A date is typed as a whole into an empty field where the
+ * format has one letter for the day and one for the month, which take a second digit, and '/' for the date separator,
+ * as in "d/m/yyyy"; with "dd", or with the separator itself, the second digit goes into the next part.
+ *
+ * @param format  15 characters at the most; they are kept in lower case.
+ * @return 1; 0 without d, m and y in it.
+ */
 int WINAPI SetDefDateFormat(const char* format);
 /** Sets the default time format, 15 characters at the most, in lower case. @return 1; 0 without h and m in it. */
 int WINAPI SetDefTimeFormat(const char* format);
@@ -1549,7 +1561,7 @@ typedef struct HGDrawItem {
 
 /** Window procedure of the class "HGrid". */
 LRESULT CALLBACK HGridWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-/** Message handler of the class "HGrid", for use with HandleMsg at offset 0. */
+/** Message handler of the class "HGrid", for use with HandleMsg at offset 0; record: one that it has made. */
 LRESULT CALLBACK HGridMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record);
 /** Repaints a range of cells; -1 names a header or all. @return 1. */
 int WINAPI HGridInvalidateRange(HWND hwnd, int col1, int row1, int col2, int row2);
@@ -2462,11 +2474,16 @@ int WINAPI HLSetDataLink(HWND hwnd, void* link, int fSelect);
 int WINAPI HLSetCodeLink(HWND hwnd, void* link, int fSelect);
 /** Gives the list's items, for HLSetList of another list; null without a list. */
 DataList* WINAPI HLGetList(HWND hwnd);
-/** Shows another holder's items, which have to live longer than this list. Gives 1; 0 without a list or for null. */
+/**
+ * Shows another holder's items, which have to live longer than this list. A format that one of the two is given later
+ * isn't the other's: that one goes on with what it had, until it is given the items once more.
+ *
+ * @return 1; 0 without a list or for null.
+ */
 int WINAPI HLSetList(HWND hwnd, DataList* list);
 /** Window procedure of the list. */
 LRESULT CALLBACK HListWnd(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-/** Message handler of the list, for windows that inherit its behaviour. */
+/** Message handler of the list, for windows that inherit its behaviour; record: one that it has made. */
 LRESULT CALLBACK HListMsgHandler(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, int* pDefault, void* record);
 
 /*

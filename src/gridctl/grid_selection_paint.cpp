@@ -44,14 +44,13 @@ void ExcludeOtherBands(HGridCtl* ctl, HDC hdc, const RECT& rect, int band)
     RECT client;
     HGDataRect(ctl, &data);
     HGClientRect(ctl, &client);
-    const int bands = ctl->cBands;
     const int rowHeight = ctl->pData->nRowHeight;
     if (HasStyle(ctl, HGS_COLHEADERS)) {
-        ExcludeOtherLines(hdc, rect, 0, ctl->pData->nHdrHeight, band, bands);
+        ExcludeOtherLines(hdc, rect, 0, ctl->pData->nHdrHeight, band, ctl->cBands);
     }
     const LONG bottom = std::min(rect.bottom, client.bottom);
-    for (int y = data.top; y < bottom && rowHeight > 0; y += rowHeight * bands) {
-        ExcludeOtherLines(hdc, rect, y, rowHeight, band, bands);
+    for (int y = data.top; y < bottom && rowHeight > 0; y += rowHeight * ctl->cBands) {
+        ExcludeOtherLines(hdc, rect, y, rowHeight, band, ctl->cBands);
     }
 }
 
