@@ -25,6 +25,29 @@ bool IsAttached(const HGridCtl* ctl, HWND hwnd, const HGridData* data)
     return IsWindow(hwnd) && ctl->pData == data;
 }
 
+// Changed rows go back to the source. False if the window went.
+bool EmptyBlock(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    const short held = ctl->cHeldRows;
+    ctl->cHeldRows = 0;
+    HGFillBlock(ctl, false);
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    ctl->cHeldRows = held;
+    return true;
+}
+
+// Before other columns come over the same source: what is typed and what is changed isn't lost with the rows.
+bool HandRowsBack(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    const HGridData* const data = ctl->pData;
+    HGCommitEdit(ctl);
+    return IsAttached(ctl, hwnd, data) && EmptyBlock(ctl) && ctl->pData == data;
+}
+
 // The columns take their cell controls with them, the editor among them. They go while the record is still the grid's:
 // a host that ends the grid meanwhile finds each column's link to its control right. False if it isn't the grid's then.
 bool EndCellControls(HGridCtl* ctl)
@@ -117,10 +140,14 @@ void SetFirstCell(HGridCtl* ctl)
     SetFlag(ctl, HGC_SELECTING, true);
 }
 
-// As many calls as rows are missing, whatever each answers: a source that refuses ends it too. False: no window left.
+// As many calls as rows are missing, whatever each answers: a source that refuses ends it too. A source that the grid
+// has already, under other columns, isn't given blank records. False: no window left.
 bool AddFirstRows(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
+    if (HasFlag(ctl, HGC_VIRTUAL)) {
+        return true;
+    }
     for (int missing = ctl->pData->cMinRows - HGRowCount(ctl->pData); missing > 0; --missing) {
         HGAddRow(ctl, nullptr, false);
         if (!IsWindow(hwnd)) {
@@ -135,17 +162,12 @@ bool AddFirstRows(HGridCtl* ctl)
 
 void ResetBlock(HGridCtl* ctl)
 {
-    const HWND hwnd = ctl->hWnd;
-    const short held = ctl->cHeldRows;
-    ctl->cHeldRows = 0;
-    HGFillBlock(ctl, false);
-    if (!IsWindow(hwnd)) {
+    if (!EmptyBlock(ctl)) {
         return;
     }
     ctl->fTotalKnown = 0;
     SetFlag(ctl, HGC_QUIETSCROLL, true);
     ctl->lRowBase = 0;
-    ctl->cHeldRows = held;
 }
 
 // A refused value doesn't wait in the hidden editor for a row that comes later, and the editor itself is none of the cell
@@ -190,6 +212,10 @@ int HGAttachData(HGridCtl* ctl, HGridData* data)
         return 0;
     }
     const bool isNew = data != ctl->pData;
+    if (isNew && ctl->pData && HasFlag(ctl, HGC_VIRTUAL) && !HandRowsBack(ctl)) {
+        HGridDestroy(data);
+        return 0;
+    }
     if (!ReplaceData(ctl, data)) {
         return 0;
     }

@@ -331,6 +331,15 @@ bool StoreLeavingCell(HGridCtl* ctl, LONG record, LONG current)
     return IsWindow(hwnd) != 0;
 }
 
+// Rows that go take the editor from any cell. One whose record has stayed gets it back, for whoever scrolls to show.
+void GiveBackEditor(HGridCtl* ctl)
+{
+    const bool isCell = HasFlag(ctl, HGC_CELLSHOWN) && !HasFlag(ctl, HGC_RANGE);
+    if (!ctl->hEditor && isCell && HGIsEditable(ctl, CurrentCell(ctl).col)) {
+        HGTakeEditor(ctl);
+    }
+}
+
 // Negative rows name headers and stay as they are.
 LONG KeptRecord(const HGridCtl* ctl, int row)
 {
@@ -355,6 +364,36 @@ void HGFetchTotal(HGridCtl* ctl)
     if (IsWindow(hwnd)) {
         SendMessageA(hwnd, HGM_SETTOTAL, 0, total);
     }
+}
+
+// What is typed into an entry row that isn't the end any more would go over the record in its place.
+bool HGMeetEntryRow(HGridCtl* ctl)
+{
+    const HWND  hwnd = ctl->hWnd;
+    const int   row = LastRow(ctl);
+    void* const node = HasFlag(ctl, HGC_VIRTUAL) && row >= 0 ? HGRowNode(ctl->pData, row) : nullptr;
+    const bool  edited = row == CurrentCell(ctl).row && (HGIsInEdit(ctl) || IsUnstored(ctl));
+    const bool  blank = node && (HGNodeFlags(node) & (HGR_NEW | HGR_DIRTY)) == HGR_NEW;
+    void* const buffer = blank && !edited && !HasFlag(ctl, HGC_FETCHING) ? HGBlankRow(ctl->pData) : nullptr;
+    if (!buffer) {
+        return true;
+    }
+    SetFlag(ctl, HGC_FETCHING, true);
+    const Fetched fetched = FetchRecord(ctl, RecordOfRow(ctl, row), buffer);
+    const bool    alive = IsWindow(hwnd) != 0;
+    if (alive) {
+        SetFlag(ctl, HGC_FETCHING, false);
+    }
+    if (fetched == Fetched::Record && HGRowNode(ctl->pData, row) == node) {
+        std::memcpy(HGNodeData(node), buffer, static_cast<size_t>(ctl->pData->pRows->cbItem));
+        HGChangeNodeFlags(node, HGR_NEW, 0);
+        HGInvalidateRange(ctl, -1, row, -1, row);
+        if (row == CurrentCell(ctl).row) {
+            HGLoadEditor(ctl);
+        }
+    }
+    HBlockFree(buffer);
+    return IsWindow(hwnd) != 0;
 }
 
 int HGFillBlock(HGridCtl* ctl, bool atFront)
@@ -382,6 +421,8 @@ void HGShiftBlock(HGridCtl* ctl, LONG record)
     const LONG current = KeptRecord(ctl, CurrentCell(ctl).row);
     const LONG anchor = KeptRecord(ctl, ctl->nAnchorRow);
     const LONG top = KeptRecord(ctl, ctl->nTopRow);
+    const HWND hwnd = ctl->hWnd;
+    const bool hadEditor = ctl->hEditor != nullptr;
     if (!StoreLeavingCell(ctl, base, current)) {
         return;
     }
@@ -390,4 +431,7 @@ void HGShiftBlock(HGridCtl* ctl, LONG record)
     }
     HGRestoreTop(ctl, top);
     HGClampCell(ctl, anchor, current);
+    if (hadEditor && IsWindow(hwnd)) {
+        GiveBackEditor(ctl);
+    }
 }

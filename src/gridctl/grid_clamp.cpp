@@ -62,6 +62,13 @@ void LowerFixedCols(HGridCtl* ctl)
 
 } // namespace
 
+void HGFillMirror(HGridCtl* ctl)
+{
+    if (ctl->pRowMirror) {
+        HGCopyRow(ctl->pData, CurrentCell(ctl).row, ctl->pRowMirror, false);
+    }
+}
+
 int HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord)
 {
     const HWND hwnd = ctl->hWnd;
@@ -86,5 +93,9 @@ int HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord)
     ctl->nCurRow = static_cast<WORD>(bounds.current.row);
     ctl->nAnchorCol = static_cast<short>(bounds.anchor.col);
     ctl->nAnchorRow = static_cast<short>(bounds.anchor.row);
+    if (bounds.currentChanged && HasFlag(ctl, HGC_VIRTUAL)) {
+        IsUntold(ctl) = true;
+        HGFillMirror(ctl);
+    }
     return bounds.currentChanged || bounds.anchorChanged;
 }

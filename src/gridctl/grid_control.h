@@ -25,11 +25,17 @@ constexpr WORD hiddenFlags = HGC_TELLING | HGC_FETCHING;
 struct GridBlock {
     HGridCtl ctl;
     bool     unstored; // the focus has gone from the editor to the grid, and the editor hasn't been read since
+    bool     untold;   // the block has left the current record behind: the parent doesn't know of the one that is it now
 };
 
 inline bool& IsUnstored(HGridCtl* ctl)
 {
     return reinterpret_cast<GridBlock*>(ctl)->unstored;
+}
+
+inline bool& IsUntold(HGridCtl* ctl)
+{
+    return reinterpret_cast<GridBlock*>(ctl)->untold;
 }
 
 // A cell: -1 names a header, or the whole row or column in a move.
@@ -162,6 +168,8 @@ void    HGPlaceNavigator(HGridCtl* ctl);
 // The block of a grid with a row source
 int  HGFillBlock(HGridCtl* ctl, bool atFront); // change in the row count
 void HGShiftBlock(HGridCtl* ctl, LONG record);
+// Before a refresh: an entry row becomes a record where the source has got one in its place since. False if the window went.
+bool HGMeetEntryRow(HGridCtl* ctl);
 void HGFetchTotal(HGridCtl* ctl);
 int  HGCallSource(HGridCtl* ctl, int operation, LONG record, void* buffer);
 
@@ -174,6 +182,7 @@ int HGAppendRow(HGridCtl* ctl, const void* data); // index + 1
 bool HGAnnounceNewRow(HGridCtl* ctl, int row);    // marks it new and tells the parent; false if the window went
 
 // Moves and selection
+void HGFillMirror(HGridCtl* ctl); // the host's copy of the current row
 int  HGMoveTo(HGridCtl* ctl, int col, int row, bool extend, bool scroll);
 int  HGMoveBy(HGridCtl* ctl, int dCol, int dRow, bool extend);
 int  HGKeyNavigate(HGridCtl* ctl, UINT vk, bool shift, bool ctrl);

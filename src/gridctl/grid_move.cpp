@@ -141,17 +141,11 @@ LONG RecordOrHeader(const HGridCtl* ctl, int row)
     return row < 0 ? row : RecordOfRow(ctl, row);
 }
 
-void FillMirror(HGridCtl* ctl)
-{
-    if (ctl->pRowMirror) {
-        HGCopyRow(ctl->pData, CurrentCell(ctl).row, ctl->pRowMirror, false);
-    }
-}
-
 // The state changes, and the parent hears of it. False if the window went.
 bool ChangeCell(HGridCtl* ctl, const Move& move)
 {
-    const bool rowChanged = RecordOrHeader(ctl, move.to.row) != move.oldRecord;
+    const bool rowChanged = IsUntold(ctl) || RecordOrHeader(ctl, move.to.row) != move.oldRecord;
+    IsUntold(ctl) = false;
     ctl->nCurCol = static_cast<WORD>(move.to.col);
     ctl->nCurRow = static_cast<WORD>(move.to.row);
     if (!move.extend) {
@@ -164,7 +158,7 @@ bool ChangeCell(HGridCtl* ctl, const Move& move)
     if (!rowChanged) {
         return true;
     }
-    FillMirror(ctl);
+    HGFillMirror(ctl);
     return HGNotify(ctl, HGN_ROWCHANGED);
 }
 
@@ -202,7 +196,7 @@ void FollowCell(HGridCtl* ctl, Move* move)
     move->to = CurrentCell(ctl);
     move->range = move->to.col == -1 || move->to.row == -1 || !(move->to == AnchorCell(ctl));
     move->editable = !move->range && HGIsEditable(ctl, move->to.col);
-    FillMirror(ctl);
+    HGFillMirror(ctl);
 }
 
 // Steps 16 to 18. False if the move ends here: the window or all cells went, or the parent has moved on meanwhile.

@@ -56,15 +56,15 @@ bool SetVerticalRange(HGridCtl* ctl)
     return before.nMax != after.nMax || before.nPage != after.nPage;
 }
 
-// Step 9. False if the window went.
+// Step 9. A top behind the last row would show none of them: it goes to the last full page. False if the window went.
 bool LowerTop(HGridCtl* ctl)
 {
-    const std::int64_t highest = std::max<std::int64_t>(static_cast<std::int64_t>(ctl->lTotalRows) - ctl->lRowBase, 0);
-    if (ctl->nTopRow <= highest) {
+    const std::int64_t rows = std::max<std::int64_t>(static_cast<std::int64_t>(ctl->lTotalRows) - ctl->lRowBase, 0);
+    if (ctl->nTopRow < std::max<std::int64_t>(rows, 1)) {
         return true;
     }
     const HWND hwnd = ctl->hWnd;
-    ctl->nTopRow = static_cast<short>(highest);
+    ctl->nTopRow = static_cast<short>(std::max<std::int64_t>(rows - ctl->cPageRows + PartialRow(ctl), 0));
     HGShowEditor(ctl);
     if (!IsWindow(hwnd)) {
         return false;
@@ -155,6 +155,9 @@ void HGRefresh(HGridCtl* ctl, bool erase)
 {
     const HWND hwnd = ctl->hWnd;
     const bool wasCorner = IsCorner(CurrentCell(ctl));
+    if (!HGMeetEntryRow(ctl)) {
+        return;
+    }
     HGRecalc(ctl);
     if (!IsWindow(hwnd)) {
         return;
@@ -165,6 +168,7 @@ void HGRefresh(HGridCtl* ctl, bool erase)
     if (!IsWindow(hwnd)) {
         return;
     }
+    HGFillMirror(ctl);
     RECT client;
     HGClientRect(ctl, &client);
     InvalidateRect(hwnd, &client, erase || wasCorner);

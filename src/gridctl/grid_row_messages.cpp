@@ -29,6 +29,7 @@ bool StoreBeforeShift(HGridCtl* ctl, const MsgArgs& args)
 void LoadAfterShift(HGridCtl* ctl, const MsgArgs& args)
 {
     if (IsWindow(args.hwnd)) {
+        HGFillMirror(ctl);
         HGLoadEditor(ctl);
     }
 }
@@ -201,7 +202,9 @@ LRESULT OnSetTotal(HGridCtl* ctl, const MsgArgs& args)
         ctl->lTotalRows = HGRowCount(ctl->pData);
     }
     ctl->cHeldRows = static_cast<short>(std::clamp<LONG>(ctl->lTotalRows, 0, std::max<LONG>(ctl->cHeldRows, 0)));
-    HGRecalc(ctl);
+    if (count < RecordOfRow(ctl, HGRowCount(ctl->pData)) || HGMeetEntryRow(ctl)) {
+        HGRecalc(ctl);
+    }
     return 1;
 }
 

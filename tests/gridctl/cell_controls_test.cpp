@@ -59,6 +59,51 @@ TEST_F(CellControls, EditStyleLosesItsBorderAndGainsItsFrame)
     EXPECT_EQ(DWORD{ WS_CHILD | HES_FRAME | HES_UPPERCASE }, style & (WS_CHILD | HES_FRAME | HES_UPPERCASE));
 }
 
+struct ChildCase {
+    char  kind;
+    DWORD style; // of the column
+    int   id;
+    DWORD with;
+    DWORD without;
+};
+
+constexpr ChildCase childCases[] = {
+    { 'l', WS_BORDER | HLS_FOCUSBRUSH | HLS_TABS, 201, WS_CHILD | HLS_3DBORDER | HLS_FIELD | HLS_TABS,
+      WS_BORDER | HLS_FOCUSBRUSH },
+    { 'd', WS_BORDER | HCS_FOCUSBRUSH | HCS_TABS, 203, WS_CHILD | HCS_3DBORDER | HCS_DROPDOWN | HCS_TABS,
+      WS_BORDER | HCS_FOCUSBRUSH },
+    { 'c', WS_BORDER | HCS_FOCUSBRUSH, 202, WS_CHILD | HCS_3DBORDER | HCS_DROPDOWN | HCS_EDIT,
+      WS_BORDER | HCS_FOCUSBRUSH },
+    { 'q', WS_BORDER | HES_UPPERCASE, 205, WS_CHILD | HES_FRAME | HES_UPPERCASE, WS_BORDER },
+};
+
+TEST_F(CellControls, StyleOfAChildIsTheColumnsLessItsBorderAndWithItsFrame)
+{
+    for (const ChildCase& each : childCases) {
+        HGField* const field = HGFieldCreate("F", 0, 80, 60, 's', 's', 0, 0, 8, each.kind, each.style, "", 0);
+        MakeGrid(GridOf({ field }), 1);
+        EXPECT_EQ(each.id, GetDlgCtrlID(ChildOf(0))) << each.kind;
+        const DWORD style = static_cast<DWORD>(GetWindowLongA(ChildOf(0), GWL_STYLE));
+        EXPECT_EQ(each.with, style & each.with) << each.kind;
+        EXPECT_EQ(0u, style & each.without) << each.kind;
+        DestroyWindow(grid);
+    }
+}
+
+TEST_F(CellControls, CodeTypeThatIsNoneIsLeftOutOfTheChild)
+{
+    for (const char kind : { 'l', 'c', 'd' }) {
+        HGField* const field = HGFieldCreate("F", 0, 80, 60, 's', 's', 0, 0, 8, kind, HCS_DROPDOWN, "", 0);
+        field->cClass2 = 'x';
+        field->cType2 = 'y';
+        MakeGrid(GridOf({ field }), 1);
+        EXPECT_EQ('s', Send(ChildOf(0), HLM_GETDATACLASS)) << kind;
+        EXPECT_EQ(0, Send(ChildOf(0), HLM_GETCODECLASS)) << kind;
+        EXPECT_EQ(0, Send(ChildOf(0), HLM_GETCODETYPE)) << kind;
+        DestroyWindow(grid);
+    }
+}
+
 TEST_F(CellControls, RightAlignedColumnIsEditedRightAlignedToo)
 {
     MakeGrid(GridOf({ Number(), Text() }), 1);

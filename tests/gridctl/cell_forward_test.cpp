@@ -61,6 +61,66 @@ TEST_F(CellForward, KeysGoByKindAndCtrl)
     }
 }
 
+// A host's procedure over the grid, which answers one message itself.
+struct Answered {
+    UINT    message;
+    LRESULT answer;
+    WPARAM  wParam;
+    LPARAM  lParam;
+    int     count;
+};
+Answered gAnswered;
+WNDPROC  gGridProc;
+
+LRESULT CALLBACK AnsweringProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != gAnswered.message) {
+        return CallWindowProcA(gGridProc, hwnd, message, wParam, lParam);
+    }
+    gAnswered.wParam = wParam;
+    gAnswered.lParam = lParam;
+    ++gAnswered.count;
+    return gAnswered.answer;
+}
+
+void AnswerFor(HWND grid, UINT message, LRESULT answer)
+{
+    gAnswered = { message, answer, 0, 0, 0 };
+    if (GetWindowLongPtrA(grid, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(AnsweringProc)) {
+        gGridProc = reinterpret_cast<WNDPROC>(
+            SetWindowLongPtrA(grid, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AnsweringProc)));
+    }
+}
+
+TEST_F(CellForward, ForwardedKeyKeepsItsParametersAndHasTheGridsAnswer)
+{
+    for (const LRESULT answer : { LRESULT{ 0 }, LRESULT{ 77 } }) {
+        AnswerFor(grid, WM_KEYDOWN, answer);
+        LRESULT result = -1;
+        EXPECT_TRUE(HGCellForward(cellCodeEdit, grid, WM_KEYDOWN, VK_TAB, 0x000F0001, &result));
+        EXPECT_EQ(answer, result);
+        EXPECT_EQ(WPARAM{ VK_TAB }, gAnswered.wParam);
+        EXPECT_EQ(0x000F0001, gAnswered.lParam);
+        EXPECT_EQ(answer, SendMessageA(Child(0), WM_KEYDOWN, VK_TAB, 1)) << "through the control's own procedure";
+        EXPECT_EQ(2, gAnswered.count);
+    }
+}
+
+TEST_F(CellForward, SystemKeyStaysWithTheControlUnlessTheGridAnswers)
+{
+    for (const int kind : kinds) {
+        for (const LRESULT answer : { LRESULT{ 0 }, LRESULT{ 5 } }) {
+            AnswerFor(grid, WM_SYSKEYDOWN, answer);
+            LRESULT result = -1;
+            EXPECT_EQ(answer != 0, HGCellForward(kind, grid, WM_SYSKEYDOWN, VK_DOWN, 0x20000001, &result)) << kind;
+            EXPECT_EQ(answer, result) << kind;
+            EXPECT_EQ(1, gAnswered.count) << kind;
+            EXPECT_EQ(WPARAM{ 0 }, gAnswered.wParam) << kind;
+            EXPECT_EQ(LPARAM{ 0 }, gAnswered.lParam) << kind;
+        }
+    }
+}
+
 TEST_F(CellForward, FocusEventsAreToldAndNotConsumed)
 {
     LRESULT result = 0;

@@ -35,3 +35,16 @@ int HGReadEditor(HGridCtl* ctl)
 {
     return gFakes.onReadEditor ? gFakes.onReadEditor(ctl) : 1;
 }
+
+// The rig has no cell controls, so no cell is edited.
+bool HGIsEditable(HGridCtl*, int)
+{
+    return false;
+}
+
+bool HGIsInEdit(const HGridCtl*)
+{
+    return false;
+}
+
+void HGTakeEditor(HGridCtl*) {}
