@@ -141,7 +141,7 @@ LRESULT OnOwnerItems(HCombCtl* ctl, const MsgArgs& args)
 LRESULT OnFromEdit(HCombCtl* ctl, int code)
 {
     if (code == EN_CHANGE && HCTell(ctl, HCN_EDITCHANGE)) {
-        HCSync(ctl, true, true);
+        HCFollowFace(ctl, true);
     } else if (code == EN_UPDATE) {
         Notify(ctl, HCN_EDITUPDATE);
     }
