@@ -53,9 +53,7 @@ LRESULT OnSetFont(HCombCtl* ctl, const MsgArgs& args)
         return 0;
     }
     ctl->hFont = reinterpret_cast<HFONT>(args.wParam);
-    if (HasDropdown(ctl)) {
-        HCLayout(ctl);
-    }
+    HCLayout(ctl); // the face above a list is a line of the font high, and the edit's text is at the border again
     return reinterpret_cast<LRESULT>(old);
 }
 
