@@ -187,6 +187,7 @@ void RefreshText(HEditCtl* ctl, bool editForm)
     }
     if (!editForm && HasFlag(ctl, CF_NULL)) {
         _fstrnzcpy(ctl->pszText, ctl->pszEmpty, ctl->cbText);
+        SetFlag(ctl, HEF_NEGATIVE, false);
     } else {
         // While a commit is under way its value isn't in the link yet.
         if (ctl->pLinked && !HasFlag(ctl, HEF_COMMITTING)) {
