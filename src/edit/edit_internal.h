@@ -88,6 +88,7 @@ struct EditBlock {
     HEditCtl    ctl;
     EntryScope* entry;       // under way, or null
     LONG        typedScroll; // nScroll of the edit form, while F2 shows the other one
+    bool        ending;      // the window is being destroyed
 };
 
 inline EditBlock* BlockOf(HEditCtl* ctl)
