@@ -2,6 +2,8 @@
 #include "edit_window.h"
 #include "support/pixels.h"
 
+#include <random>
+
 namespace {
 
 constexpr int shown = 10; // digits that the field has room for
@@ -232,6 +234,53 @@ TEST_F(EditReplacedText, ScrollRangeFollowsATextThatALimitCuts)
     EXPECT_EQ("00000", Text());
     EXPECT_EQ(0, Scroll());
     EXPECT_EQ(0, +Ctl()->nScrollMax);
+}
+
+// Whatever was typed and wherever the caret went: what is rebuilt with the same text keeps the caret in view, and a
+// text that fits shows whole in display form.
+TEST_F(EditReplacedText, NoRefreshScrollsTheCaretOutOfView)
+{
+    constexpr DWORD styles[] = { 0, HES_EDITRIGHT, HES_RIGHT, HES_RIGHT | HES_EDITRIGHT, WS_HSCROLL };
+    constexpr char  letters[] = "iW1.m0";
+    std::mt19937    random(5);
+    int             kept = 0;
+    for (int round = 0; round < 20; ++round) {
+        const DWORD style = styles[round % 5];
+        SCOPED_TRACE(style);
+        Make(round % 2 ? "%nd*0.###" : "", style);
+        Focus();
+        for (int step = 0; step < 60; ++step) {
+            const unsigned pick = random() % 12;
+            if (pick < 6) {
+                Send(WM_CHAR, static_cast<WPARAM>(letters[pick]));
+            } else if (pick < 8) {
+                Send(WM_CHAR, VK_BACK);
+            } else {
+                constexpr WPARAM keys[] = { VK_LEFT, VK_HOME, VK_END, VK_RIGHT };
+                Send(WM_KEYDOWN, keys[pick - 8]);
+            }
+            const std::string text = Text();
+            const bool        inside = IsInside(Ctl()->nCaret);
+            const bool        byF2 = random() % 2 != 0;
+            if (byF2) {
+                Send(WM_KEYDOWN, VK_F2);
+                Send(WM_KEYUP, VK_F2);
+            } else {
+                Send(HEM_COMMIT, 1, 1);
+            }
+            if (inside && text == Text()) {
+                ++kept;
+                ASSERT_TRUE(IsInside(Ctl()->nCaret)) << text << " step " << step << " F2 " << byF2;
+            }
+            ASSERT_LE(+Ctl()->nScroll, +Ctl()->nScrollMax) << text;
+        }
+        Blur();
+        if (TextWidth(Ctl(), Text().c_str(), 0, -1) < Ctl()->rcText.right - Ctl()->rcText.left) {
+            EXPECT_EQ(0, Scroll()) << Text();
+        }
+        DestroyWindow(edit);
+    }
+    EXPECT_LT(500, kept);
 }
 
 } // namespace
