@@ -33,6 +33,10 @@ HCombCtl* HCFromWindow(HWND hwnd);
 // Notifies the parent. false: it has destroyed the combo, and the record with it.
 bool HCTell(HCombCtl* ctl, int code);
 
+// HCSync from the face, for what the user does there: an item that was picked in the list before and isn't stored yet has
+// changed all the same. A value that the host gives takes that back.
+void HCFollowFace(HCombCtl* ctl, bool notify);
+
 // Life
 void HCInstall(HCombCtl* ctl);    // joins the parts of a combo that HCCreate has made
 void HCEnd(HCombCtl* ctl);        // closes and destroys the list; the face goes with the window

@@ -127,18 +127,6 @@ void LeaveEdit(HCombCtl* ctl)
     }
 }
 
-// The list follows the edit that gets the focus. An item that was picked there and isn't stored yet has changed all the
-// same.
-void FollowFace(HCombCtl* ctl)
-{
-    const HWND hwnd = ctl->hWnd;
-    const bool changed = ctl->pDrop && HasFlag(ctl->pDrop, CF_CHANGED);
-    HCSync(ctl, true, false);
-    if (changed && IsWindow(hwnd) && ctl->pDrop) {
-        SetFlag(ctl->pDrop, CF_CHANGED, true);
-    }
-}
-
 } // namespace
 
 LRESULT HCOnKeyDown(HCombCtl* ctl, const MsgArgs& args)
@@ -163,7 +151,7 @@ LRESULT HCOnSysKey(HCombCtl* ctl, const MsgArgs& args)
 LRESULT HCOnChildFocus(HCombCtl* ctl, const MsgArgs& args)
 {
     if (HasEdit(ctl)) {
-        FollowFace(ctl);
+        HCFollowFace(ctl, false);
     }
     if (IsWindow(args.hwnd)) {
         ShowFocusInList(ctl);

@@ -111,20 +111,31 @@ int ListToField(HCombCtl* ctl, int current, bool notify)
     return 1;
 }
 
+// Moves the list by one of its messages, which takes its note of a change back unless that is kept.
+void MoveList(HCombCtl* ctl, bool keepsChange, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND hwnd = ctl->hWnd;
+    const bool changed = keepsChange && ctl->pDrop && HasFlag(ctl->pDrop, CF_CHANGED);
+    ToList(ctl, message, wParam, lParam);
+    if (changed && IsWindow(hwnd) && ctl->pDrop) {
+        SetFlag(ctl->pDrop, CF_CHANGED, true);
+    }
+}
+
 // The list's item that begins with what is typed.
-void SelectTyped(HCombCtl* ctl)
+void SelectTyped(HCombCtl* ctl, bool keepsChange)
 {
     Value text;
     ToChild(ctl, WM_GETTEXT, comboValueSize, AsParam(text));
     if (*text.bytes) {
-        ToList(ctl, HLM_SELECTTEXT, 0, AsParam(text));
+        MoveList(ctl, keepsChange, HLM_SELECTTEXT, 0, AsParam(text));
     } else {
-        ToList(ctl, HLM_SETCURRENT, static_cast<WPARAM>(-1), 1);
+        MoveList(ctl, keepsChange, HLM_SETCURRENT, static_cast<WPARAM>(-1), 1);
     }
 }
 
 // The list's item of the typed value. What was typed stays on the screen as it is.
-void SelectValue(HCombCtl* ctl)
+void SelectValue(HCombCtl* ctl, bool keepsChange)
 {
     const HWND hwnd = ctl->hWnd;
     Value      value;
@@ -134,9 +145,9 @@ void SelectValue(HCombCtl* ctl)
         return;
     }
     if (exists) {
-        ToList(ctl, HLM_SELECTDATA, HLSEL_CLEAR, AsParam(value));
+        MoveList(ctl, keepsChange, HLM_SELECTDATA, HLSEL_CLEAR, AsParam(value));
     } else {
-        ToList(ctl, HLM_SETCURRENT, static_cast<WPARAM>(-1), 0);
+        MoveList(ctl, keepsChange, HLM_SETCURRENT, static_cast<WPARAM>(-1), 0);
     }
 }
 
@@ -155,13 +166,14 @@ int FieldToList(HCombCtl* ctl, int current, bool notify)
     return 0;
 }
 
-int EditToList(HCombCtl* ctl, int current, bool notify)
+int EditToList(HCombCtl* ctl, bool notify, bool keepsChange)
 {
     const HWND hwnd = ctl->hWnd;
+    const int  current = CurrentOfList(ctl);
     if (HasTexts(ctl)) {
-        SelectTyped(ctl);
+        SelectTyped(ctl, keepsChange);
     } else {
-        SelectValue(ctl);
+        SelectValue(ctl, keepsChange);
     }
     if (notify && IsWindow(hwnd) && CurrentOfList(ctl) != current) {
         Notify(ctl, HCN_SELCHANGE);
@@ -169,17 +181,33 @@ int EditToList(HCombCtl* ctl, int current, bool notify)
     return 0;
 }
 
+int FaceToList(HCombCtl* ctl, bool notify, bool keepsChange)
+{
+    return HasEdit(ctl) ? EditToList(ctl, notify, keepsChange) : FieldToList(ctl, CurrentOfList(ctl), notify);
+}
+
+bool Mirrors(const HCombCtl* ctl, DWORD option)
+{
+    return ctl->hDrop && (ctl->wOptions & option);
+}
+
 } // namespace
 
 int HCSync(HCombCtl* ctl, bool fromChild, bool notify)
 {
-    const DWORD option = fromChild ? HCO_CHILDTOLIST : HCO_LISTTOCHILD;
-    if (!ctl->hDrop || !(ctl->wOptions & option)) {
+    if (!Mirrors(ctl, fromChild ? HCO_CHILDTOLIST : HCO_LISTTOCHILD)) {
         return 1;
     }
-    const int current = CurrentOfList(ctl);
     if (fromChild) {
-        return HasEdit(ctl) ? EditToList(ctl, current, notify) : FieldToList(ctl, current, notify);
+        return FaceToList(ctl, notify, false);
     }
+    const int current = CurrentOfList(ctl);
     return HasEdit(ctl) ? ListToEdit(ctl, current, notify) : ListToField(ctl, current, notify);
+}
+
+void HCFollowFace(HCombCtl* ctl, bool notify)
+{
+    if (Mirrors(ctl, HCO_CHILDTOLIST)) {
+        FaceToList(ctl, notify, true);
+    }
 }

@@ -53,9 +53,7 @@ LRESULT OnSetFont(HCombCtl* ctl, const MsgArgs& args)
         return 0;
     }
     ctl->hFont = reinterpret_cast<HFONT>(args.wParam);
-    if (HasDropdown(ctl)) {
-        HCLayout(ctl);
-    }
+    HCLayout(ctl); // the face above a list is a line of the font high, and the edit's text is at the border again
     return reinterpret_cast<LRESULT>(old);
 }
 
@@ -141,7 +139,7 @@ LRESULT OnOwnerItems(HCombCtl* ctl, const MsgArgs& args)
 LRESULT OnFromEdit(HCombCtl* ctl, int code)
 {
     if (code == EN_CHANGE && HCTell(ctl, HCN_EDITCHANGE)) {
-        HCSync(ctl, true, true);
+        HCFollowFace(ctl, true);
     } else if (code == EN_UPDATE) {
         Notify(ctl, HCN_EDITUPDATE);
     }

@@ -198,6 +198,16 @@ void SelectOnFocus(HEditCtl* ctl)
     SetSelection(ctl, 0, 0, atStart ? 0 : -1);
 }
 
+// A host that is told of the commit may have moved the focus on: the caret of the thread is another window's then.
+void EndCaret(HWND hwnd)
+{
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    if (GetGUIThreadInfo(GetCurrentThreadId(), &info) && info.hwndCaret == hwnd) {
+        DestroyCaret();
+    }
+}
+
 // The callback has the last word on a value that was left: it may call the focus back.
 void ValidateAfterLeaving(HEditCtl* ctl)
 {
@@ -294,7 +304,7 @@ void OnKillFocus(HEditCtl* ctl, HWND gaining)
         return;
     }
     if (GetFocus() != hwnd) {
-        DestroyCaret();
+        EndCaret(hwnd);
         RefreshText(ctl, false);
     }
     if (Tell(ctl, HEN_KILLFOCUS) != Told::Gone && IsWindow(gaining) && ctl->pfnValidate) {

@@ -86,12 +86,18 @@ struct EntryScope {
 // A window's record, and behind it what hosts don't know of.
 struct EditBlock {
     HEditCtl    ctl;
-    EntryScope* entry; // under way, or null
+    EntryScope* entry;       // under way, or null
+    LONG        typedScroll; // nScroll of the edit form, while F2 shows the other one
+    bool        ending;      // the window is being destroyed
 };
 
+inline EditBlock* BlockOf(HEditCtl* ctl)
+{
+    return reinterpret_cast<EditBlock*>(ctl);
+}
 inline EntryScope*& EntryOf(HEditCtl* ctl)
 {
-    return reinterpret_cast<EditBlock*>(ctl)->entry;
+    return BlockOf(ctl)->entry;
 }
 
 void OvertakeEntry(HEditCtl* ctl);
@@ -221,6 +227,8 @@ void RepaintFrame(HEditCtl* ctl);
 void RebuildCaret(HEditCtl* ctl); // where the window has one
 int  OnPaint(HEditCtl* ctl, const MsgArgs& args);
 int  OnHScroll(HEditCtl* ctl, WPARAM wParam);
+// UpdateScrollRange, and a scroll position as near to that one as the text allows, for who has changed the text.
+void UpdateScroll(HEditCtl* ctl, int scroll);
 // UpdateScrollRange in parts, for who has the field's font in a context of its own.
 bool HasScrollRange(const HEditCtl* ctl);
 int  ScrollRangeFor(const HEditCtl* ctl, HDC hdc);

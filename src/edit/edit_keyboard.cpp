@@ -141,7 +141,17 @@ void OnF2(HEditCtl* ctl, const KeyState&)
     HideCaret(hwnd);
     CommitText(ctl, FieldText(ctl));
     if (IsWindow(hwnd)) {
+        BlockOf(ctl)->typedScroll = ctl->nScroll;
         RefreshText(ctl, false);
+    }
+}
+
+// Where the edit form was scrolled to when the key went down.
+void ShowTypedAgain(HEditCtl* ctl)
+{
+    RefreshText(ctl, IsFocused(ctl));
+    if (!HasFlag(ctl, HEF_DISPLAY)) {
+        UpdateScroll(ctl, static_cast<int>(BlockOf(ctl)->typedScroll));
     }
 }
 
@@ -188,7 +198,7 @@ LRESULT OnKeyDown(HEditCtl* ctl, const MsgArgs& args)
 LRESULT OnKeyUp(HEditCtl* ctl, const MsgArgs& args)
 {
     if (args.wParam == VK_F2 && HasFlag(ctl, HEF_DISPLAY)) {
-        RefreshText(ctl, IsFocused(ctl));
+        ShowTypedAgain(ctl);
         if (!HasStyle(ctl, HES_STATIC)) {
             ShowCaret(ctl->hWnd);
             SetSelection(ctl, 0, ctl->nAnchor, ctl->nCaret);

@@ -82,9 +82,14 @@ LRESULT OnNcCreate(const MsgArgs& args)
     return FinishCreation(ctl, args);
 }
 
+// A host that destroys the window once more while it hears of the last commit finds it on its way already.
 void OnNcDestroy(HEditCtl* ctl)
 {
+    if (BlockOf(ctl)->ending) {
+        return;
+    }
     const HWND hwnd = ctl->hWnd;
+    BlockOf(ctl)->ending = true;
     ctl->pfnValidate = nullptr;
     CommitIfFocused(ctl);
     KillTimer(hwnd, clockTimer);

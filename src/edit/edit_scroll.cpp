@@ -67,6 +67,21 @@ void ShowScrollPos(HEditCtl* ctl)
     RepaintFrame(ctl);
 }
 
+// The range for what doesn't fit, and not for what is scrolled off now: more than that shows a part of the text in a
+// field that has room for more of it, or for all.
+int MostScrolled(HEditCtl* ctl)
+{
+    if (!HasScrollRange(ctl)) {
+        return 0;
+    }
+    const ShownText shown(ctl);
+    const FieldDC   dc(ctl);
+    const int       length = static_cast<int>(std::strlen(shown.text));
+    const int       width = ctl->rcText.right - ctl->rcText.left;
+    const int       fits = FitChars(dc.hdc(), shown.text, length, width, !HasFlag(ctl, HEF_RIGHT));
+    return ScrollRange(length - fits, 0, length);
+}
+
 void MoveText(HEditCtl* ctl, int from, int to)
 {
     const RECT rect = ctl->rcText;
@@ -132,6 +147,20 @@ void UpdateScrollRange(HEditCtl* ctl)
         max = ScrollRangeFor(ctl, dc.hdc());
     }
     SetScrollRangeTo(ctl, max);
+}
+
+// Without a word to the host: a text that is another one has not been scrolled.
+void UpdateScroll(HEditCtl* ctl, int scroll)
+{
+    const int old = ctl->nScroll;
+    ctl->nScroll = scroll ? std::min(scroll, MostScrolled(ctl)) : 0;
+    UpdateScrollRange(ctl);
+    if (ctl->nScroll != old) {
+        ShowScrollPos(ctl);
+        if (!HasFlag(ctl, HEF_DISPLAY)) { // F2 hides the caret
+            PlaceCaret(ctl, ctl->nCaret);
+        }
+    }
 }
 
 int OnHScroll(HEditCtl* ctl, WPARAM wParam)

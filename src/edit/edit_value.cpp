@@ -144,6 +144,14 @@ int RoomWithoutLimit(const HEditCtl* ctl)
     return std::max({ defaultLimit, value, TextLength(ctl) });
 }
 
+// A limit has taken the end of the text.
+void ShowCutText(HEditCtl* ctl)
+{
+    UpdateScroll(ctl, static_cast<int>(ctl->nScroll));
+    PlaceCaret(ctl, ctl->nCaret);
+    InvalidateRect(ctl->hWnd, nullptr, TRUE);
+}
+
 // The callback hears of a value that was set, and its answer isn't looked at. It may take the focus: what was typed before
 // is over then, and the value isn't in the link yet. False if the window went.
 bool ShowToValidator(HEditCtl* ctl)
@@ -181,12 +189,14 @@ void ShowBlankForm(HEditCtl* ctl)
 void RefreshText(HEditCtl* ctl, bool editForm)
 {
     OvertakeEntry(ctl);
+    const bool wasRight = HasFlag(ctl, HEF_RIGHT);
     SetForm(ctl, editForm);
     if (!ctl->pData || !ctl->pszText) {
         return;
     }
     if (!editForm && HasFlag(ctl, CF_NULL)) {
         _fstrnzcpy(ctl->pszText, ctl->pszEmpty, ctl->cbText);
+        SetFlag(ctl, HEF_NEGATIVE, false);
     } else {
         // While a commit is under way its value isn't in the link yet.
         if (ctl->pLinked && !HasFlag(ctl, HEF_COMMITTING)) {
@@ -194,7 +204,8 @@ void RefreshText(HEditCtl* ctl, bool editForm)
         }
         ShowValue(ctl, editForm);
     }
-    UpdateScrollRange(ctl);
+    const bool turned = wasRight != HasFlag(ctl, HEF_RIGHT); // what was hidden at one end isn't at the other
+    UpdateScroll(ctl, turned ? 0 : static_cast<int>(ctl->nScroll));
     InvalidateRect(ctl->hWnd, nullptr, TRUE);
 }
 
@@ -278,11 +289,15 @@ int LimitText(HEditCtl* ctl, int limit)
         return -1;
     }
     const int characters = limit > 0 ? limit : RoomWithoutLimit(ctl);
+    const int length = TextLength(ctl);
     if (characters == INT_MAX || !ctl->pData || !ResizeBuffers(ctl, characters + 1, ctl->pData)) {
         return noMemory;
     }
     SetFlag(ctl, HEF_LIMITED, limit > 0);
     ctl->cchMax = characters;
+    if (TextLength(ctl) < length) {
+        ShowCutText(ctl);
+    }
     return 1;
 }
 

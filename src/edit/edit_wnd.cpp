@@ -25,6 +25,13 @@ LRESULT OnSetFont(HEditCtl* ctl, const MsgArgs& args)
     return OnSize(args);
 }
 
+// Colours and background are others then.
+LRESULT OnEnable(const MsgArgs& args)
+{
+    InvalidateRect(args.hwnd, nullptr, TRUE);
+    return AskDefault(args);
+}
+
 LRESULT OnGetText(HEditCtl* ctl, const MsgArgs& args)
 {
     if (!args.lParam) {
@@ -119,6 +126,7 @@ LRESULT OnWindowMessage(HEditCtl* ctl, const MsgArgs& args)
     case WM_SIZE:        return OnSize(args);
     case WM_SETFONT:     return OnSetFont(ctl, args);
     case WM_SETFOCUS:    return Done(OnSetFocus, ctl);
+    case WM_ENABLE:      return OnEnable(args);
     case WM_KILLFOCUS:   OnKillFocus(ctl, reinterpret_cast<HWND>(args.wParam)); return 1;
     case WM_GETDLGCODE:  return HasStyle(ctl, HES_ALLKEYS) ? wantAllKeys : wantChars;
     case WM_PAINT:       return OnPaint(ctl, args);

@@ -171,4 +171,29 @@ TEST_F(ComboLayout, NewFontKeepsTheTextOffTheBorder)
     EXPECT_EQ(2, text.left);
 }
 
+TEST_F(ComboLayout, FaceAboveAListThatLiesThereIsALineOfTheNewFontHigh)
+{
+    const HFONT font = CreateFontA(-40, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, "Arial");
+    const int   face = HIWORD(GetBaseUnits(font)) + 8;
+    ASSERT_LT(FaceHeight(), face);
+    for (const DWORD style : { DWORD{ HCS_EDIT }, DWORD{ 0 } }) {
+        Make("%120%ss", style | HLS_NOINTEGRAL, 160, 160);
+        Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), 0);
+        EXPECT_EQ((Ints{ 0, 1, 160, face + 1 }), PlaceOf(Face())) << style;
+        EXPECT_EQ((Ints{ 0, face - 1, 160, 160 }), PlaceOf(List())) << style;
+        EXPECT_EQ(160 - face, Send(HCM_GETDROPHEIGHT)) << style;
+    }
+    End();
+    DeleteObject(font);
+}
+
+TEST_F(ComboLayout, NewFontKeepsTheTextOfAFaceAboveItsListOffTheBorder)
+{
+    Make("%120%ss", HCS_EDIT, 160, 120);
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(SYSTEM_FONT)), 0);
+    RECT text = {};
+    SendPtr(HEM_GETRECT, 0, &text);
+    EXPECT_EQ(2, text.left);
+}
+
 } // namespace

@@ -317,6 +317,102 @@ TEST_F(ComboSync, ChangeOfEitherPartCounts)
     EXPECT_EQ(1, Send(WWM_GETCHANGED));
 }
 
+// An item is picked in the list, and afterwards the edit says the same as before: its own value is no other one.
+class ComboChange : public ComboSync {
+protected:
+    void PickAndType(const char* typed)
+    {
+        MakeTexts(edits);
+        Focus();
+        Key(VK_DOWN);
+        Key(VK_DOWN);
+        ASSERT_EQ("pear", Text());
+        if (*typed) {
+            Type(typed);
+            Type("pear");
+        }
+        ASSERT_EQ("pear", Text());
+    }
+    bool ListHasChanged() const { return SendMessageA(List(), WWM_GETCHANGED, 0, 0) != 0; }
+};
+
+TEST_F(ComboChange, PickedItemIsAChangeWhateverIsTypedOverItAndTakenBack)
+{
+    for (const char* const typed : { "", "x", "pearx", "apple", "pear" }) {
+        PickAndType(typed);
+        EXPECT_EQ(1, Send(WWM_GETCHANGED)) << typed;
+        Blur();
+        EXPECT_EQ(1, Send(WWM_GETCHANGED)) << typed;
+    }
+}
+
+TEST_F(ComboChange, PickedNumberIsAChangeWhateverIsTypedOverIt)
+{
+    MakeNumbers(edits);
+    Focus();
+    Key(VK_DOWN);
+    Type("77");
+    Type("10");
+    EXPECT_EQ(10, EditNumber());
+    EXPECT_TRUE(ListHasChanged());
+}
+
+TEST_F(ComboChange, PickedItemIsAChangeAlsoOnceTheFocusHasLeftAndComeBack)
+{
+    PickAndType("");
+    Blur();
+    Focus();
+    EXPECT_TRUE(ListHasChanged());
+}
+
+TEST_F(ComboChange, TypingAloneIsNoChangeOfTheList)
+{
+    MakeTexts(edits);
+    Focus();
+    Type("pear");
+    EXPECT_EQ(1, Current());
+    EXPECT_FALSE(ListHasChanged());
+}
+
+TEST_F(ComboChange, ChangeThatTheParentHasClearedStaysCleared)
+{
+    for (const char* const typed : { "", "x" }) {
+        PickAndType(typed);
+        Send(WWM_SETCHANGED, 0);
+        EXPECT_EQ(0, Send(WWM_GETCHANGED)) << typed;
+        Blur();
+        Focus();
+        EXPECT_EQ(0, Send(WWM_GETCHANGED)) << typed;
+        Type("x");
+        Type("pear");
+        EXPECT_FALSE(ListHasChanged()) << typed;
+    }
+}
+
+TEST_F(ComboChange, ValueOfTheHostTakesTheChangeBack)
+{
+    PickAndType("x");
+    SendPtr(HEM_SETDATA, 0, "plum");
+    EXPECT_EQ(0, Send(WWM_GETCHANGED));
+    Blur();
+    Focus();
+    EXPECT_EQ(0, Send(WWM_GETCHANGED));
+}
+
+TEST_F(ComboChange, ValueOfTheHostTakesTheChangeBackAlsoWhileTypingIsTold)
+{
+    for (const int code : { HCN_EDITUPDATE, HCN_EDITCHANGE, HCN_SELCHANGE }) {
+        PickAndType("");
+        parent.On(code, [this, code] {
+            parent.On(code, [] {});
+            SendPtr(HEM_SETDATA, 0, "plum");
+        });
+        ToFace(WM_CHAR, 'x');
+        EXPECT_FALSE(ListHasChanged()) << code;
+        parent.On(code, [] {});
+    }
+}
+
 // The type letter of texts is also that of numbers of 16 bits and of calendar words.
 class ComboShorts : public ComboSync {
 protected:

@@ -1,5 +1,6 @@
 // Birth and death of edit controls.
 #include "edit_window.h"
+#include "support/block_leaks.h"
 #include "support/guarded_memory.h"
 #include "support/import_hook.h"
 
@@ -197,6 +198,30 @@ TEST_F(EditLifecycle, FocusBrushIsWhiteWhereWindowsAreNot)
         Create("abc", HES_FOCUSBRUSH);
         EXPECT_EQ(GetStockObject(color == RGB(255, 255, 255) ? LTGRAY_BRUSH : WHITE_BRUSH),
                   reinterpret_cast<HGDIOBJ>(Send(HEM_GETFOCUSBRUSH)));
+    }
+}
+
+TEST_F(EditLifecycle, HostMayEndTheWindowOnceMoreInItsLastCommit)
+{
+    for (const bool destroys : { true, false }) {
+        const BlockLeakCheck blocks;
+        int                  told = 0;
+        edit = nullptr;
+        Create("%nl|0;100;|");
+        Focus();
+        Replace("150");
+        parent.On(HEN_ABOVEMAX, [&] {
+            ++told;
+            if (destroys) {
+                DestroyWindow(edit);
+            } else {
+                SendMessageA(edit, WM_NCDESTROY, 0, 0);
+            }
+        });
+        SendMessageA(edit, WM_NCDESTROY, 0, 0);
+        EXPECT_EQ(1, told);
+        EXPECT_EQ(!destroys, IsWindow(edit) != 0);
+        DestroyWindow(edit);
     }
 }
 

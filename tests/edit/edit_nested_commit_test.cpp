@@ -300,4 +300,32 @@ TEST_F(EditNestedCommit, ValueThatIsSetIsNotOverrunByWhatWasTypedBefore)
     EXPECT_EQ("5", Text());
 }
 
+HWND CaretWindow()
+{
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetCurrentThreadId(), &info);
+    return info.hwndCaret;
+}
+
+TEST_F(EditNestedCommit, FieldToWhichTheHostMovesTheFocusOnKeepsItsCaret)
+{
+    for (const int code : { HEN_ABOVEMAX, HEN_KILLFOCUS }) {
+        Make("%nl|0;100;|");
+        const HWND second = Create("second");
+        const HWND third = Create("third");
+        int        left = 1;
+        parent.On(code, [&] {
+            if (left-- > 0) {
+                SetFocus(third);
+            }
+        });
+        TypeText("150");
+        SetFocus(second);
+        EXPECT_EQ(third, GetFocus()) << code;
+        EXPECT_EQ(third, CaretWindow()) << code;
+        parent.On(code, [] {});
+    }
+}
+
 } // namespace

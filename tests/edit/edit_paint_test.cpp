@@ -371,4 +371,17 @@ TEST_F(EditPaint, PaintingSetsTheScrollRange)
     EXPECT_GT(+Ctl()->nScrollMax, 0);
 }
 
+TEST_F(EditPaint, FieldThatIsEnabledOrDisabledIsPaintedAnewAsThatOne)
+{
+    Create("abc");
+    for (const BOOL enabled : { FALSE, TRUE }) {
+        UpdateWindow(edit);
+        ASSERT_FALSE(GetUpdateRect(edit, nullptr, FALSE)) << enabled;
+        asked.clear();
+        EnableWindow(edit, enabled);
+        UpdateWindow(edit);
+        EXPECT_EQ(std::vector<UINT>{ static_cast<UINT>(enabled ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC) }, asked);
+    }
+}
+
 } // namespace

@@ -514,4 +514,69 @@ TEST_F(EditValue, ClearZeroesTheValueAndSelectsAll)
     EXPECT_EQ(MAKELRESULT(0, 1), Send(EM_GETSEL)) << "what was selected was longer";
 }
 
+struct UndoRow {
+    const char* what;
+    void (*undo)(HWND edit);
+};
+
+TEST_F(EditValue, LeavingAfterUndoneTypingKeepsTheValueUnchanged)
+{
+    const UndoRow rows[] = {
+        { "EM_UNDO", [](HWND hwnd) { SendMessageA(hwnd, EM_UNDO, 0, 0); } },
+        { "Ctrl+Z", [](HWND) { TypeKey('Z', withCtrl); } },
+        { "Alt+Backspace", [](HWND) { TypeKey(VK_BACK, withAlt); } },
+    };
+    for (const UndoRow& row : rows) {
+        edit = nullptr;
+        Create("%nl*0", HES_AUTOHSCROLL);
+        const int value = 42;
+        Send(HEM_SETDATA, 0, AsParam(&value));
+        Focus();
+        TypeText("123");
+        ASSERT_EQ("123", Text()) << row.what;
+        row.undo(edit);
+        EXPECT_EQ("42", Text()) << row.what;
+        Blur();
+        EXPECT_EQ(42, Number()) << row.what;
+        EXPECT_EQ(0, Send(WWM_GETCHANGED)) << row.what;
+    }
+}
+
+TEST_F(EditValue, TextThatALimitCutsIsPaintedAnewWithTheCaretAtItsEnd)
+{
+    Create("abcdef", HES_AUTOHSCROLL);
+    Focus();
+    Send(WM_KEYDOWN, VK_END);
+    UpdateWindow(edit);
+    ASSERT_FALSE(GetUpdateRect(edit, nullptr, FALSE));
+    Send(EM_LIMITTEXT, 3);
+    EXPECT_EQ("abc", Text());
+    EXPECT_TRUE(GetUpdateRect(edit, nullptr, FALSE));
+    POINT caret = {};
+    GetCaretPos(&caret);
+    EXPECT_EQ(CaretX(Ctl(), 3) - 1, caret.x);
+}
+
+TEST_F(EditValue, TextWithinItsNewLimitIsNotPaintedAnew)
+{
+    Create("abcdef", HES_AUTOHSCROLL);
+    UpdateWindow(edit);
+    for (const WPARAM limit : { 6, 0, 50 }) {
+        Send(EM_LIMITTEXT, limit);
+        EXPECT_FALSE(GetUpdateRect(edit, nullptr, FALSE)) << limit;
+    }
+}
+
+TEST_F(EditValue, TextOfNoValueIsNotNegative)
+{
+    Create("%nl*0");
+    SendText(HEM_SETFORMAT, 1, "*0;-*0;none");
+    const int value = -5;
+    Send(HEM_SETDATA, 0, AsParam(&value));
+    ASSERT_TRUE(HasFlag(Ctl(), HEF_NEGATIVE));
+    Send(HEM_SETDATA, 0, 0);
+    EXPECT_EQ("none", Text());
+    EXPECT_FALSE(HasFlag(Ctl(), HEF_NEGATIVE));
+}
+
 } // namespace

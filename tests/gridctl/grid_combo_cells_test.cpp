@@ -330,6 +330,25 @@ TEST_F(GridComboCells, PickedItemStaysWhereTheFocusGoesElsewhereAndComesBack)
     }
 }
 
+TEST_F(GridComboCells, PickedItemIsStoredAlsoWhereALetterWasTypedBehindItAndTakenBack)
+{
+    for (const bool code : { false, true }) {
+        MakeColumn({ 'c', code });
+        StandOn(0, 1);
+        TypeKey(VK_F2);
+        TypeKey(VK_DOWN);
+        TypeKey(VK_DOWN);
+        ASSERT_EQ("green", Shown()) << code;
+        TypeKey(VK_END);
+        TypeText("x");
+        TypeKey(VK_BACK);
+        ASSERT_EQ("green", Shown()) << code;
+        TypeKey(VK_TAB);
+        EXPECT_EQ("green", CellText(0, 1)) << code;
+        DestroyWindow(grid);
+    }
+}
+
 TEST_F(GridComboCells, CellProceduresHandStateToTheCombo)
 {
     ForEachKind([&] {
