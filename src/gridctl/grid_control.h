@@ -157,6 +157,7 @@ int     HGClampCell(HGridCtl* ctl, LONG anchorRecord, LONG currentRecord);
 void    HGRestoreTop(HGridCtl* ctl, LONG record);
 void    HGScrollBy(HGridCtl* ctl, int dx, int dy, bool moveEditor);
 int     HGSetTop(HGridCtl* ctl, LONG record); // rows moved
+void HGShowCurrentRow(HGridCtl* ctl); // where the view has been scrolled away from it. May end the window.
 int     HGEnsureVisible(HGridCtl* ctl, int col, int row); // the index that the row has now
 LONG    HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw); // bar 0 across, 1 down; the old value
 bool    HGAskNavigate(HGridCtl* ctl); // false if the parent refuses the step, or the window went

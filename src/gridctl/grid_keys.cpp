@@ -329,6 +329,8 @@ int HGKeyNavigate(HGridCtl* ctl, UINT vk, bool shift, bool ctrl)
     }
     if (key.dCol != 0 || key.dRow != 0) {
         HGMoveBy(ctl, key.dCol, static_cast<int>(key.dRow), key.extend);
+    } else if (ctrl) {
+        HGShowCurrentRow(ctl); // the first or last record is the current one already, and the view may be elsewhere
     }
     return 1;
 }

@@ -217,6 +217,8 @@ LRESULT OnGotoRecord(HGridCtl* ctl, const MsgArgs& args)
     }
     if (distance != 0) {
         HGMoveBy(ctl, 0, distance, false);
+    } else {
+        HGShowCurrentRow(ctl);
     }
     return AskDefault(args);
 }

@@ -140,7 +140,7 @@ LRESULT OnGetRowSize(HGridCtl* ctl, const MsgArgs&)
 LRESULT OnGetRowFlags(HGridCtl* ctl, const MsgArgs& args)
 {
     const void* const node = HGRowNode(ctl->pData, RowOf(args));
-    return node ? HGNodeFlags(node) : AskDefault(args);
+    return node ? HGNodeFlags(node) & ~HGR_PRESET : AskDefault(args);
 }
 
 LRESULT OnSetRowFlags(HGridCtl* ctl, const MsgArgs& args)
@@ -149,10 +149,10 @@ LRESULT OnSetRowFlags(HGridCtl* ctl, const MsgArgs& args)
     if (!node) {
         return AskDefault(args);
     }
-    const WORD mask = HIWORD(args.lParam);
+    const WORD mask = static_cast<WORD>(HIWORD(args.lParam) & ~HGR_PRESET);
     const bool set = LOWORD(args.lParam) != 0;
     HGChangeNodeFlags(node, set ? WORD{ 0 } : mask, set ? mask : WORD{ 0 });
-    return HGNodeFlags(node);
+    return OnGetRowFlags(ctl, args);
 }
 
 LRESULT OnGetRowPtr(HGridCtl* ctl, const MsgArgs& args)

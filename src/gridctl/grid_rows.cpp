@@ -13,8 +13,9 @@ int InsertNode(HGridCtl* ctl, const void* data, int row)
         return -1;
     }
     const int index = HGInsertRowNode(ctl->pData, row, offered.data);
-    // The row that the block drops for it is a record still.
     HGRaiseTotal(ctl);
+    // The block grows by it: a row that it dropped for it would take the current cell along.
+    ctl->cHeldRows = static_cast<short>(std::clamp<int>(HGRowCount(ctl->pData), ctl->cHeldRows, rowLimit));
     return index;
 }
 
@@ -121,6 +122,17 @@ bool DeleteRecord(HGridCtl* ctl, int row)
     return true;
 }
 
+// The parent may have moved the row, or taken it away.
+void EndPreset(HGridCtl* ctl, void* node)
+{
+    for (int row = LastRow(ctl); row >= 0; --row) {
+        if (HGRowNode(ctl->pData, row) == node) {
+            HGChangeNodeFlags(node, HGR_PRESET | HGR_DIRTY, 0);
+            return;
+        }
+    }
+}
+
 } // namespace
 
 bool HGHasRowRoom(const HGridCtl* ctl)
@@ -148,14 +160,24 @@ bool HGOfferRow(HGridCtl* ctl, const OfferedRow& row, int operation, LONG record
     return ctl->pData == grid && grid->pRows->cbItem == size;
 }
 
+// An entry row stays one whatever the parent presets in it: or each would bring the next one, or a record of a row source
+// that nobody has entered.
 bool HGAnnounceNewRow(HGridCtl* ctl, int row)
 {
-    if (void* const node = HGRowNode(ctl->pData, row)) {
-        HGChangeNodeFlags(node, 0, HGR_NEW);
+    const bool  isEntry = HasStyle(ctl, HGS_NEWROW) && row == LastRow(ctl);
+    void* const node = HGRowNode(ctl->pData, row);
+    if (node) {
+        HGChangeNodeFlags(node, 0, isEntry ? HGR_NEW | HGR_PRESET : HGR_NEW);
     }
     ctl->nPropRow = static_cast<WORD>(row);
     ctl->nPropCol = 0xFFFF;
-    return HGNotify(ctl, HGN_NEWROW);
+    if (!HGNotify(ctl, HGN_NEWROW)) {
+        return false;
+    }
+    if (isEntry) {
+        EndPreset(ctl, node);
+    }
+    return true;
 }
 
 int HGInsertRow(HGridCtl* ctl, const void* data, int row, bool markNew)

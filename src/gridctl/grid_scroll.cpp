@@ -165,6 +165,17 @@ void HGScrollBy(HGridCtl* ctl, int dx, int dy, bool moveEditor)
     }
 }
 
+void HGShowCurrentRow(HGridCtl* ctl)
+{
+    const int row = CurrentCell(ctl).row;
+    const int last = ctl->nTopRow + ctl->cPageRows - PartialRow(ctl) - 1;
+    if (row >= 0 && row < ctl->nTopRow) {
+        HGScrollBy(ctl, 0, row - ctl->nTopRow, true);
+    } else if (row > last) {
+        HGScrollBy(ctl, 0, row - last, true);
+    }
+}
+
 int HGEnsureVisible(HGridCtl* ctl, int col, int row)
 {
     const HWND hwnd = ctl->hWnd;

@@ -161,6 +161,10 @@ int FinishWrite(HGridCtl* ctl, int col, int row, const void* written)
     if (!there || (isVirtual && there != written)) {
         return 1;
     }
+    if (HGNodeFlags(there) & HGR_PRESET) {
+        HGInvalidateCell(ctl, col, row);
+        return 1;
+    }
     // Bounded: without a source nobody is there to take the row.
     const bool stays = !isVirtual ? FollowUpEntryRow(ctl, row) : !ctl->pfnRowSource || FollowUpRecord(ctl, row);
     if (!stays) {

@@ -27,6 +27,9 @@ inline BYTE* HGNodeData(void* node)
 {
     return node ? static_cast<BYTE*>(node) + rowHeadSize : nullptr;
 }
+// Beside the bits that hosts know of: the parent is told of this entry row, and what it writes into it presets it.
+constexpr WORD HGR_PRESET = 0x0004;
+
 inline WORD HGNodeFlags(const void* node)
 {
     return LoadAs<WORD>(static_cast<const BYTE*>(node) + sizeof(void*));
