@@ -523,12 +523,7 @@ void WINAPI GetIntlSettings(void);
 IntlSettings* WINAPI WWGetIntlInfo(void);
 /** Sets the date separator. @return 1; 0 for a letter, a digit or a character from 128 up. */
 int WINAPI SetDateSep(char ch);
-/**
- * Sets the time separator. Where a format has a date and a time, mm behind this character is the minute: with another
- * one than ':' formats have to spell it, or values are edited without their minutes.
- *
- * @return As SetDateSep.
- */
+/** Sets the time separator. @return As SetDateSep. */
 int WINAPI SetTimeSep(char ch);
 /** Sets the decimal separator. @return As SetDateSep. */
 int WINAPI SetDecimalSep(char ch);
@@ -536,8 +531,8 @@ int WINAPI SetDecimalSep(char ch);
 int WINAPI SetThousandsSep(char ch);
 /**
  * Sets the default date format, after which dates are edited. A date is typed as a whole into an empty field where the
- * format has one letter for the day and one for the month, which take a second digit, and '/' for the date separator,
- * as in "d/m/yyyy"; with "dd", or with the separator itself, the second digit goes into the next part.
+ * format has one letter for the day and one for the month, which take a second digit, and the date separator, or '/' for
+ * it, between them, as in "d/m/yyyy"; with "dd" the second digit goes into the next part.
  *
  * @param format  15 characters at the most; they are kept in lower case.
  * @return 1; 0 without d, m and y in it.
@@ -1873,7 +1868,7 @@ int WINAPI SetBkgndFocusBrush(HBRUSH brush);
 #define HGN_ABOVETOP 15
 /** A scroll asks for rows beyond the end; the parent may add some. */
 #define HGN_BELOWEND 16
-/** A new-record row has come into being: the proposed row. */
+/** A new-record row has come into being: the proposed row. What is written into an entry row meanwhile presets it. */
 #define HGN_NEWROW 17
 /** The current row has changed, after HGN_MOVED. */
 #define HGN_ROWCHANGED 18

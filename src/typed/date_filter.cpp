@@ -67,18 +67,24 @@ int BehindBracket(const char* picture, int at)
     return closing ? static_cast<int>(closing - picture) + 1 : static_cast<int>(std::strlen(picture));
 }
 
+// Where a default format spells a separator, it stands for itself. A blank is dealt with as one.
+bool IsSeparatorOfPicture(char ch)
+{
+    return ch == '/' || ch == ':' || (ch && ch != ' ' && IsSeparator(ch));
+}
+
 // One place of the text, and what the picture has for it.
 void AlignStep(Entry* entry)
 {
     const char under = TextAt(*entry, entry->walked);
+    const char here = Here(*entry);
     int        next = entry->at + 1;
-    switch (Here(*entry)) {
+    if (IsSeparatorOfPicture(here)) {
+        entry->walked += IsSeparator(under) ? 0 : 1; // the field in front of it had two digits
+    }
+    switch (here) {
     case ' ':
         next -= under != ' ' ? 1 : 0; // the field in front of it isn't over
-        break;
-    case '/':
-    case ':':
-        entry->walked += IsSeparator(under) ? 0 : 1; // the field in front of it had two digits
         break;
     case '[': next = BehindBracket(entry->picture, entry->at); break;
     case '\\': next += entry->picture[next] ? 1 : 0; break;

@@ -106,13 +106,15 @@ void FindDateFields(const char* format, bool wantTime, Fields* fields)
     fields->useDate = fields->hasDay || fields->hasMonth || fields->hasYear;
 }
 
+// In a format with a date, mm is the minute behind a time separator. A ':' is one in every format, as it prints as the
+// separator: a record read back without its minutes would lose them.
 bool HasMinute(const char* format, bool useDate)
 {
     if (!useDate) {
         return Find(format, "mm") != notFound;
     }
-    const char  separator[] = { gIntl.chTimeSep, 0 };
-    const char* behind = gIntl.chTimeSep ? std::strstr(format, separator) : nullptr;
+    const char        separators[] = { ':', gIntl.chTimeSep, 0 };
+    const char* const behind = std::strpbrk(format, separators);
     return behind && Find(behind, "mm") != notFound;
 }
 

@@ -347,6 +347,30 @@ TEST_F(DateFilter, AWholeDateCanBeTyped)
     EXPECT_EQ("01:30 pm", TypeAll("00:00 am", "0130.p", "hh:mm ap", timeOnly));
 }
 
+TEST_F(DateFilter, AWholeDateCanBeTypedWhereTheDefaultFormatSpellsItsSeparators)
+{
+    struct Row {
+        const char* format;
+        char        separator;
+        const char* empty;
+        const char* typed;
+        const char* text;
+    };
+    const Row rows[] = {
+        { "d.m.yyyy", '.', " . .    ", "31122026", "31.12.2026" },
+        { "d.m.yyyy", '.', " . .    ", "31.12.2026", "31.12.2026" },
+        { "d.m.yyyy", '.', " . .    ", "1.2.2026", "1.2.2026" },
+        { "d-m-yyyy", '-', " - -    ", "31-12-2026", "31-12-2026" },
+        { "m-d-yyyy", '-', " - -    ", "12312026", "12-31-2026" },
+        { "yyyy-m-d", '-', "    - - ", "2026-12-31", "2026-12-31" },
+    };
+    for (const Row& row : rows) {
+        ASSERT_EQ(1, SetDefDateFormat(row.format));
+        ASSERT_EQ(1, SetDateSep(row.separator));
+        EXPECT_EQ(row.text, TypeAll(row.empty, row.typed, nullptr, dateOnly)) << row.format;
+    }
+}
+
 TEST_F(DateFilter, BuildsItsPictureInTheScratchBuffer)
 {
     char text[16] = "9.2.2024";
