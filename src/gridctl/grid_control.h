@@ -191,6 +191,7 @@ void HGSelectRow(HGridCtl* ctl, int col, int row, bool shift, bool ctrl);
 void HGMarkRows(HGridCtl* ctl, int rowA, int rowB, bool state);
 bool HGSelRange(HGridCtl* ctl, int* lo, int* hi);
 bool HGIsRowSelected(HGridCtl* ctl, int row);
+bool HGIsSelectionShown(const HGridCtl* ctl); // it is on the screen
 
 // Keys and mouse
 bool    HGIsKeyDown(int vk);
@@ -218,6 +219,7 @@ void HGDropCursorUser();
 bool HGIsEditable(HGridCtl* ctl, int col); // false for a column that doesn't exist
 bool HGHoldsFocus(HWND window, HWND focus); // in the window or in a child of it
 bool HGIsInEdit(const HGridCtl* ctl);       // an edit is under way, and the focus is in the grid
+void HGFollowReadOnly(HGridCtl* ctl, bool show); // the current column may be edited now, or no longer. May end the window
 void HGTakeEditor(HGridCtl* ctl);          // gives the current cell its column's control, loaded but not shown
 bool HGBeginColumnChange(HGridCtl* ctl, bool* shown); // false if the window went; shown is for the end
 void HGEndColumnChange(HGridCtl* ctl, bool shown);

@@ -199,6 +199,28 @@ bool HGIsInEdit(const HGridCtl* ctl)
     return HasFlag(ctl, HGC_INEDIT) && HGHoldsFocus(ctl->hWnd, GetFocus());
 }
 
+// A control that is hidden stays the editor until the next move. What is being typed isn't loaded over: it is stored when
+// the edit ends. A selection of more than one cell has no editor.
+void HGFollowReadOnly(HGridCtl* ctl, bool show)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (!HGIsEditable(ctl, CurrentCell(ctl).col)) {
+        HGHideEditor(ctl);
+        return;
+    }
+    if (HasFlag(ctl, HGC_RANGE)) {
+        return;
+    }
+    const bool pending = HasFlag(ctl, HGC_INEDIT) || IsUnstored(ctl);
+    if (!pending || !IsWindow(ctl->hEditor)) {
+        // Loads too: the control may hold what the column showed when it was last current.
+        HGTakeEditor(ctl);
+    }
+    if (IsWindow(hwnd) && show) {
+        HGShowEditor(ctl);
+    }
+}
+
 void HGTakeEditor(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;

@@ -196,25 +196,6 @@ LRESULT OnGetFieldFlags(HGridCtl*, const FieldRef& ref, LPARAM)
     return ref.field->wFlags;
 }
 
-// The current column becomes editable or stops being so, with its control standing over the cell or not.
-void FollowReadOnly(HGridCtl* ctl, const FieldRef& ref)
-{
-    const HWND hwnd = ctl->hWnd;
-    if (ref.field->wFlags & HFF_READONLY) {
-        HGHideEditor(ctl);
-        return;
-    }
-    // A selection of more than one cell has no editor.
-    if (HasStyle(ctl, HGS_READONLY) || HasFlag(ctl, HGC_RANGE)) {
-        return;
-    }
-    // Loads too: the control may hold what the column showed when it was last current.
-    HGTakeEditor(ctl);
-    if (IsWindow(hwnd)) {
-        HGShowEditor(ctl);
-    }
-}
-
 LRESULT OnSetFieldFlags(HGridCtl* ctl, const FieldRef& ref, LPARAM lParam)
 {
     const WORD mask = HIWORD(lParam);
@@ -223,7 +204,7 @@ LRESULT OnSetFieldFlags(HGridCtl* ctl, const FieldRef& ref, LPARAM lParam)
     ref.field->wFlags = flags;
     if (ref.col == CurrentCell(ctl).col && ((old ^ flags) & HFF_READONLY)) {
         const HWND hwnd = ctl->hWnd;
-        FollowReadOnly(ctl, ref);
+        HGFollowReadOnly(ctl, true);
         if (!IsWindow(hwnd)) {
             return 1;
         }

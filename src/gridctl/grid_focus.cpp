@@ -63,6 +63,8 @@ LRESULT HGOnSetFocus(HGridCtl* ctl, WPARAM wParam, int* pDefault)
     }
     if (!HGIsEditable(ctl, CurrentCell(ctl).col)) {
         HGPutEditorAway(ctl); // the host has made the grid or the column read-only meanwhile
+    } else if (!ctl->hEditor && HasFlag(ctl, HGC_CELLSHOWN) && !HasFlag(ctl, HGC_RANGE)) {
+        HGTakeEditor(ctl); // or has given it free
     }
     if (IsWindow(hwnd) && IsWindow(ctl->hEditor)) {
         HGShowEditor(ctl);

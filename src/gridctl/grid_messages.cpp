@@ -52,18 +52,28 @@ LRESULT OnGetStyle(HGridCtl* ctl, const MsgArgs&)
     return static_cast<LRESULT>(ctl->pData->dwStyle);
 }
 
+// A grid that is locked or given free: the editor of a current cell that is known follows.
+void StoreStyle(HGridCtl* ctl, DWORD style)
+{
+    const DWORD changed = ctl->pData->dwStyle ^ style;
+    ctl->pData->dwStyle = style;
+    if ((changed & HGS_READONLY) && HasFlag(ctl, HGC_CELLSHOWN)) {
+        HGFollowReadOnly(ctl, HGIsSelectionShown(ctl));
+    }
+}
+
 LRESULT OnSetStyle(HGridCtl* ctl, const MsgArgs& args)
 {
-    ctl->pData->dwStyle = static_cast<DWORD>(args.lParam);
     SetWindowLongA(ctl->hWnd, GWL_STYLE, static_cast<LONG>(args.lParam));
+    StoreStyle(ctl, static_cast<DWORD>(args.lParam));
     return 1;
 }
 
 LRESULT OnSetStyleBits(HGridCtl* ctl, const MsgArgs& args)
 {
     const DWORD mask = static_cast<DWORD>(args.lParam);
-    HGridData* const data = ctl->pData;
-    data->dwStyle = args.wParam ? data->dwStyle | mask : data->dwStyle & ~mask;
+    const DWORD style = ctl->pData->dwStyle;
+    StoreStyle(ctl, args.wParam ? style | mask : style & ~mask);
     return 1;
 }
 

@@ -16,7 +16,6 @@ struct Move {
     bool range;     // a row, a column or more than one cell
     bool same;      // the current cell already
     bool focused;   // the selection is on the screen
-    bool editable;
     bool showAgain; // the editor has to be placed anew
 };
 
@@ -53,12 +52,6 @@ void ApplyShape(HGridCtl* ctl, Move* move)
         move->to.col = ctl->nAnchorCol == -1 ? -1 : move->to.col;
         move->to.row = ctl->nAnchorRow == -1 ? -1 : move->to.row;
     }
-}
-
-// Whether the selection is on the screen.
-bool ShowsSelection(const HGridCtl* ctl)
-{
-    return GetFocus() == ctl->hWnd || HasStyle(ctl, HGS_KEEPSEL) || HGIsInEdit(ctl);
 }
 
 Cell ProposedCell(const HGridCtl* ctl)
@@ -109,8 +102,7 @@ void Judge(HGridCtl* ctl, Move* move)
     if (wasRange && !move->extend && !(AnchorCell(ctl) == current)) {
         move->same = false;
     }
-    move->focused = ShowsSelection(ctl);
-    move->editable = !move->range && HGIsEditable(ctl, move->to.col);
+    move->focused = HGIsSelectionShown(ctl);
     move->showAgain = wasRange || !move->same || move->range;
     if (ctl->hEditor && (move->showAgain || !move->focused)) {
         HGHideEditor(ctl);
@@ -195,7 +187,6 @@ void FollowCell(HGridCtl* ctl, Move* move)
 {
     move->to = CurrentCell(ctl);
     move->range = move->to.col == -1 || move->to.row == -1 || !(move->to == AnchorCell(ctl));
-    move->editable = !move->range && HGIsEditable(ctl, move->to.col);
     HGFillMirror(ctl);
 }
 
@@ -208,7 +199,7 @@ bool ShowMove(HGridCtl* ctl, Move* move)
         return false;
     }
     const Selection wanted = { move->to, move->extend || move->same ? old.anchor : move->to };
-    const bool focused = ShowsSelection(ctl);
+    const bool focused = HGIsSelectionShown(ctl);
     const bool refocused = focused != move->focused; // by the parent
     move->focused = focused;
     if (!IsSame(SelectionOf(ctl), wanted) || refocused) {
@@ -226,11 +217,12 @@ bool ShowMove(HGridCtl* ctl, Move* move)
     return true;
 }
 
-// Steps 19 and 20. The parent may have made the column read-only since. A refresh keeps the cell, but what the host has
-// changed before it may have moved the cell, or have put its editor away.
+// Steps 19 and 20. Whether the cell can be edited is asked when the parent has been told: a host that locks by record does
+// so then. A refresh keeps the cell, but what the host has changed before it may have moved the cell, or have put its
+// editor away.
 void GiveEditor(HGridCtl* ctl, const Move& move)
 {
-    if (move.editable && HGIsEditable(ctl, CurrentCell(ctl).col)) {
+    if (!move.range && HGIsEditable(ctl, CurrentCell(ctl).col)) {
         HGTakeEditor(ctl);
     } else {
         HGPutEditorAway(ctl);
@@ -262,6 +254,11 @@ int ColumnAt(HGridCtl* ctl, int dCol)
 
 } // namespace
 
+bool HGIsSelectionShown(const HGridCtl* ctl)
+{
+    return GetFocus() == ctl->hWnd || HasStyle(ctl, HGS_KEEPSEL) || HGIsInEdit(ctl);
+}
+
 int HGMoveTo(HGridCtl* ctl, int col, int row, bool extend, bool scroll)
 {
     const HWND hwnd = ctl->hWnd;
@@ -276,7 +273,7 @@ int HGMoveTo(HGridCtl* ctl, int col, int row, bool extend, bool scroll)
         ctl->wFlags |= CF_CANCEL;
         return 0;
     }
-    Move move = { hwnd, { col, row }, extend, scroll, 0, false, false, false, false, false };
+    Move move = { hwnd, { col, row }, extend, scroll, 0, false, false, false, false };
     ApplyShape(ctl, &move);
     if (!AskParent(ctl, &move)) {
         return 0;
