@@ -182,6 +182,13 @@ void DrawNewSelection(HGridCtl* ctl, const Selection& old)
     HGDrawSelection(ctl, window.hdc, shown ? &anchor : nullptr, shown ? &current : nullptr);
 }
 
+// Without the focus the headers alone show which cell is current.
+void InvalidateHeaders(HGridCtl* ctl, Cell cell)
+{
+    HGInvalidateCell(ctl, cell.col, -1);
+    HGInvalidateCell(ctl, -1, cell.row);
+}
+
 // Rows that came or went while the parent was told have given the cell another number: the move ends there.
 void FollowCell(HGridCtl* ctl, Move* move)
 {
@@ -211,6 +218,9 @@ bool ShowMove(HGridCtl* ctl, Move* move)
         FollowCell(ctl, move);
     } else if (move->focused && !(move->same && move->range)) {
         DrawNewSelection(ctl, old);
+    } else if (!move->focused && !move->same) {
+        InvalidateHeaders(ctl, old.current);
+        InvalidateHeaders(ctl, CurrentCell(ctl));
     }
     SetFlag(ctl, HGC_RANGE, move->range);
     SetFlag(ctl, HGC_CELLSHOWN, true);

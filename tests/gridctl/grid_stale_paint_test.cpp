@@ -1,0 +1,58 @@
+// What stays on the screen when a grid changes without painting all of it: always what a repaint would show.
+#include "gridctl/grid_selection_window.h"
+
+namespace {
+
+class GridStalePaint : public GridSelectionPaint {
+protected:
+    // Count columns of 80, with lines of text to tell them apart.
+    void MakeColumns(int count, DWORD style, WORD fixedCols = 0, int rows = 5)
+    {
+        HGridData* const data = GridOf({}, style, fixedCols);
+        for (int col = 0; col < count; ++col) {
+            HGAddFld(data, Text(16, std::to_string(col).c_str()));
+        }
+        MakePainted(data, rows);
+        for (int col = 0; col < count; ++col) {
+            SetText(col, 0, std::to_string(100 + col).c_str());
+        }
+        ShotOf(grid);
+    }
+    void Widen(int width) { SetWindowPos(grid, nullptr, 0, 0, width, 200, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE); }
+    void ExpectAsRepainted(const char* when)
+    {
+        const Pixels shot = ShotOf(grid);
+        EXPECT_TRUE(SamePixels(Repaint(), shot)) << when;
+    }
+};
+
+struct Way {
+    const char* what;
+    void (*go)(HWND grid);
+};
+
+constexpr Way ways[] = {
+    { "HGM_SETCURSOR", [](HWND g) { SendMessageA(g, HGM_SETCURSOR, 0, static_cast<LPARAM>(PackCell(1, 3))); } },
+    { "HGM_KEYDOWN", [](HWND g) { SendMessageA(g, HGM_KEYDOWN, VK_DOWN, 0); } },
+    { "HGM_GOTORECORD", [](HWND g) { SendMessageA(g, HGM_GOTORECORD, 0, 4); } },
+    { "a row", [](HWND g) { SendMessageA(g, HGM_SETCURSOR, 0, static_cast<LPARAM>(PackCell(-1, 3))); } },
+    { "a column", [](HWND g) { SendMessageA(g, HGM_SETCURSOR, 0, static_cast<LPARAM>(PackCell(1, -1))); } },
+};
+
+TEST_F(GridStalePaint, HeadersShowTheCellThatAMoveWithoutTheFocusMakesCurrent)
+{
+    for (const Way& way : ways) {
+        MakeColumns(3, gridStyle);
+        SetFocus(grid);
+        MoveTo(0, 2);
+        SetFocus(parent.hwnd());
+        const Pixels before = ShotOf(grid);
+        way.go(grid);
+        ASSERT_FALSE(Current() == (Cell{ 0, 2 })) << way.what;
+        EXPECT_FALSE(SamePixels(before, ShotOf(grid))) << way.what;
+        ExpectAsRepainted(way.what);
+        DestroyWindow(grid);
+    }
+}
+
+} // namespace
