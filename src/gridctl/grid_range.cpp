@@ -91,18 +91,31 @@ bool SetVerticalBar(HGridCtl* ctl)
     return IsWindow(hwnd) != 0;
 }
 
-// Step 12, for a content wider than the zone. False if the window went.
-bool SetWidth(HGridCtl* ctl, int widest)
+// Step 12, for a content wider than the zone. A view past the farthest position would show blank space instead of columns.
+// False if the window went.
+bool SetWidth(HGridCtl* ctl, int widest, LONG width)
 {
     const HWND hwnd = ctl->hWnd;
     ctl->nHScrollMax = widest;
     if (!HGNotify(ctl, HGN_HRANGE)) {
         return false;
     }
-    if (ctl->nHScrollPos > ctl->nHScrollMax) {
-        HGScrollBy(ctl, static_cast<int>(ctl->nHScrollMax - ctl->nHScrollPos), 0, true);
+    ctl->nHPage = static_cast<DWORD>(width);
+    const LONG farthest = std::max<LONG>(ctl->nHScrollMax - width + 1, 0);
+    if (ctl->nHScrollPos > farthest) {
+        HGScrollBy(ctl, static_cast<int>(farthest - ctl->nHScrollPos), 0, true);
     }
     return IsWindow(hwnd) != 0;
+}
+
+// All fits. What the screen shows stands at the old position, and a window that got wider paints the new strip alone.
+void LeavePosition(HGridCtl* ctl)
+{
+    if (ctl->nHScrollPos != 0) {
+        InvalidateRect(ctl->hWnd, nullptr, TRUE);
+    }
+    ctl->nHScrollPos = 0;
+    ctl->nHScrollMax = 0;
 }
 
 void SetHorizontalBar(HGridCtl* ctl)
@@ -127,12 +140,11 @@ void MeasureWidths(HGridCtl* ctl)
     const LONG width = std::max<LONG>(zone.right - zone.left, 0);
     const int widest = HGWidestBand(ctl);
     if (widest >= width) {
-        if (!SetWidth(ctl, widest)) {
+        if (!SetWidth(ctl, widest, width)) {
             return;
         }
     } else {
-        ctl->nHScrollPos = 0;
-        ctl->nHScrollMax = 0;
+        LeavePosition(ctl);
     }
     ctl->nHPage = static_cast<DWORD>(width);
     if (HasStyle(ctl, WS_HSCROLL)) {

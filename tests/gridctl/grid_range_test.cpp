@@ -160,7 +160,7 @@ TEST_F(GridRange, ContentThatFitsHasNoRange)
     EXPECT_EQ(0, parent.Count(HGN_HRANGE));
 }
 
-TEST_F(GridRange, ContentThatFitsAgainLosesItsPositionWithoutRepaint)
+TEST_F(GridRange, ContentThatFitsAgainLosesItsPositionAndIsPaintedThere)
 {
     MakeGrid(GridOf({ Text(), Text(), Text(), Text(), Text(), Text() }, plainStyle), 3);
     Send(grid, HGM_SETHPOS, 50);
@@ -171,6 +171,9 @@ TEST_F(GridRange, ContentThatFitsAgainLosesItsPositionWithoutRepaint)
     Send(grid, HGM_RECALC);
     EXPECT_EQ(0, +ctl->nHScrollPos);
     EXPECT_EQ(0, +ctl->nHScrollMax);
+    EXPECT_TRUE(IsInvalid()) << "the screen shows columns of the old position";
+    ValidateRect(grid, nullptr);
+    Send(grid, HGM_RECALC);
     EXPECT_FALSE(IsInvalid());
 }
 

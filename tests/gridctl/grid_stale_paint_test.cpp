@@ -55,4 +55,34 @@ TEST_F(GridStalePaint, HeadersShowTheCellThatAMoveWithoutTheFocusMakesCurrent)
     }
 }
 
+TEST_F(GridStalePaint, WindowThatGetsWideEnoughForAllShowsEachColumnOnce)
+{
+    MakeColumns(6, gridStyle);
+    Send(grid, HGM_SETHPOS, 10000);
+    ShotOf(grid);
+    ASSERT_LT(0, +ctl->nHScrollPos);
+    Widen(600);
+    EXPECT_EQ(0, +ctl->nHScrollPos);
+    ExpectAsRepainted("wide");
+}
+
+// Ten columns of 80 in 360 pixels, scrolled to the end at 441.
+TEST_F(GridStalePaint, ScrolledViewKeepsNoBlankSpaceBesideItsColumns)
+{
+    MakeColumns(10, gridStyle);
+    Send(grid, HGM_SETHPOS, 10000);
+    ASSERT_EQ(441, +ctl->nHScrollPos);
+    Widen(700);
+    EXPECT_EQ(800 - 660 + 1, +ctl->nHScrollPos);
+    ExpectAsRepainted("wide");
+    Widen(400);
+    Send(grid, HGM_SETHPOS, 10000);
+    for (int col = 0; col < 4; ++col) {
+        HGGetField(ctl->pData, col)->wFlags |= HFF_HIDDEN;
+    }
+    Send(grid, HGM_REFRESH, 1);
+    EXPECT_EQ(480 - 360 + 1, +ctl->nHScrollPos);
+    ExpectAsRepainted("hidden columns");
+}
+
 } // namespace
