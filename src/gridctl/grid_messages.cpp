@@ -52,11 +52,19 @@ LRESULT OnGetStyle(HGridCtl* ctl, const MsgArgs&)
     return static_cast<LRESULT>(ctl->pData->dwStyle);
 }
 
-// A grid that is locked or given free: the editor of a current cell that is known follows.
+// A grid that is locked or given free: the editor of a current cell that is known follows. What shows of the selection is
+// painted anew, since only its inversion by the same bits would remove it.
 void StoreStyle(HGridCtl* ctl, DWORD style)
 {
+    constexpr DWORD selectionBits = HGS_READONLY | HGS_KEEPSEL | HGS_ROWSELECT | HGS_NOEXTEND;
     const DWORD changed = ctl->pData->dwStyle ^ style;
+    if (changed & selectionBits) {
+        HGRedrawSelection(ctl);
+    }
     ctl->pData->dwStyle = style;
+    if (changed & selectionBits) {
+        HGRedrawSelection(ctl);
+    }
     if ((changed & HGS_READONLY) && HasFlag(ctl, HGC_CELLSHOWN)) {
         HGFollowReadOnly(ctl, HGIsSelectionShown(ctl));
     }

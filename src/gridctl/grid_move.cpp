@@ -197,10 +197,17 @@ void FollowCell(HGridCtl* ctl, Move* move)
     HGFillMirror(ctl);
 }
 
+// A cell that was current when the style of whole rows came: its row was painted inverted.
+bool IsCellAmongRows(const HGridCtl* ctl, Cell cell)
+{
+    return HasStyle(ctl, HGS_ROWSELECT) && cell.col >= 0 && cell.row >= 0;
+}
+
 // Steps 16 to 18. False if the move ends here: the window or all cells went, or the parent has moved on meanwhile.
 bool ShowMove(HGridCtl* ctl, Move* move)
 {
     const Selection old = SelectionOf(ctl);
+    const bool wasEditable = HGIsEditable(ctl, old.current.col);
     SetFlag(ctl, HGC_TELLING, true);
     if (!move->same && !ChangeCell(ctl, *move)) {
         return false;
@@ -208,9 +215,10 @@ bool ShowMove(HGridCtl* ctl, Move* move)
     const Selection wanted = { move->to, move->extend || move->same ? old.anchor : move->to };
     const bool focused = HGIsSelectionShown(ctl);
     const bool refocused = focused != move->focused; // by the parent
+    const bool restyled = wasEditable != HGIsEditable(ctl, old.current.col) || IsCellAmongRows(ctl, old.current);
     move->focused = focused;
-    if (!IsSame(SelectionOf(ctl), wanted) || refocused) {
-        // Old and new selection were drawn in the wrong order: only painting all of it anew is right.
+    if (!IsSame(SelectionOf(ctl), wanted) || refocused || restyled) {
+        // Old and new selection were drawn in the wrong order, or by other bits: only painting all of it anew is right.
         InvalidateRect(ctl->hWnd, nullptr, IsCorner(old.current) || IsCorner(move->to));
         if (!HasFlag(ctl, HGC_TELLING) || !HasCells(ctl)) {
             return false;

@@ -85,4 +85,64 @@ TEST_F(GridStalePaint, ScrolledViewKeepsNoBlankSpaceBesideItsColumns)
     ExpectAsRepainted("hidden columns");
 }
 
+TEST_F(GridStalePaint, CellShowsTheSameAfterItsGridIsLockedOrGivenFreeAsAfterARepaint)
+{
+    struct Case {
+        DWORD style;
+        DWORD bit;
+    };
+    constexpr Case cases[] = { { gridStyle, HGS_READONLY },
+                               { gridStyle | HGS_KEEPSEL, HGS_READONLY },
+                               { gridStyle | HGS_READONLY, HGS_ROWSELECT },
+                               { gridStyle | HGS_READONLY | HGS_NOEXTEND, HGS_ROWSELECT },
+                               { gridStyle | HGS_READONLY | HGS_ROWSELECT, HGS_NOEXTEND } };
+    for (const Case& c : cases) {
+        for (const bool lockedFirst : { false, true }) {
+            SCOPED_TRACE(testing::Message() << "style " << c.style << ", bit " << c.bit << " " << lockedFirst);
+            MakeColumns(3, lockedFirst ? c.style | c.bit : c.style);
+            SetFocus(grid);
+            MoveTo(1, 1);
+            ShotOf(grid);
+            Send(grid, HGM_SETSTYLEBITS, !lockedFirst, static_cast<LPARAM>(c.bit));
+            ExpectAsRepainted("changed");
+            TypeKey(VK_DOWN);
+            ExpectAsRepainted("moved");
+            DestroyWindow(grid);
+        }
+    }
+}
+
+TEST_F(GridStalePaint, SelectionThatIsKeptOrNotFollowsItsBitWithoutTheFocus)
+{
+    MakeColumns(3, gridStyle | HGS_READONLY);
+    SetFocus(grid);
+    MoveTo(1, 1);
+    SetFocus(parent.hwnd());
+    for (const bool on : { true, false }) {
+        ShotOf(grid);
+        Send(grid, HGM_SETSTYLEBITS, on, HGS_KEEPSEL);
+        ExpectAsRepainted(on ? "kept" : "not kept");
+    }
+}
+
+TEST_F(GridStalePaint, RecordThatIsGivenFreeWhileTheMoveToItIsToldLeavesNoCellInverted)
+{
+    for (const int code : { HGN_MOVED, HGN_ROWCHANGED }) {
+        for (const int first : { 0, 1 }) {
+            SCOPED_TRACE(testing::Message() << "code " << code << ", first " << first);
+            MakeColumns(3, gridStyle);
+            SetFocus(grid);
+            parent.On(code, [&] { Send(grid, HGM_SETSTYLEBITS, Current().row % 2 != first, HGS_READONLY); });
+            MoveTo(1, 1);
+            ShotOf(grid);
+            for (int row = 2; row < 5; ++row) {
+                TypeKey(VK_DOWN);
+                ExpectAsRepainted("moved");
+            }
+            parent.On(code, nullptr);
+            DestroyWindow(grid);
+        }
+    }
+}
+
 } // namespace
