@@ -118,7 +118,14 @@ LRESULT OnReadRow(HGridCtl* ctl, const MsgArgs& args)
 
 LRESULT OnWriteRow(HGridCtl* ctl, const MsgArgs& args)
 {
-    return CopyRow(ctl, RowOf(args), args, true);
+    const int     row = RowOf(args);
+    const LRESULT written = CopyRow(ctl, row, args, true);
+    // The editor shows the cell's new value, unless something else has been typed into it.
+    if (written && row == CurrentCell(ctl).row && ctl->hEditor && !SendMessageA(ctl->hEditor, WWM_GETCHANGED, 0, 0) &&
+        IsWindow(args.hwnd)) {
+        HGLoadEditor(ctl);
+    }
+    return written;
 }
 
 LRESULT OnGetRowMirror(HGridCtl* ctl, const MsgArgs&)

@@ -241,6 +241,15 @@ bool TranslateToCode(const HGField* field, const TempBlock& block)
     return true;
 }
 
+// The editor over a cell that a host has written shows the value, or the old one would be edited and stored over it.
+int ShowWritten(HGridCtl* ctl, int col, int row, int written)
+{
+    if (written && ctl->nCurCol == static_cast<WORD>(col) && ctl->nCurRow == static_cast<WORD>(row)) {
+        HGLoadEditor(ctl);
+    }
+    return written;
+}
+
 } // namespace
 
 LRESULT HGFetchItem(HWND child, LRESULT index, char* out)
@@ -378,11 +387,7 @@ int WINAPI HGSetCellString(HWND hwnd, int col, int row, const void* value)
 int WINAPI HGSetCellData(HWND hwnd, int col, int row, const void* value)
 {
     HGridCtl* const ctl = HGFromWindow(hwnd);
-    const int written = HGWriteCell(ctl, static_cast<short>(col), static_cast<short>(row), value);
-    if (written && ctl->nCurCol == static_cast<WORD>(col) && ctl->nCurRow == static_cast<WORD>(row)) {
-        HGLoadEditor(ctl);
-    }
-    return written;
+    return ShowWritten(ctl, col, row, HGWriteCell(ctl, static_cast<short>(col), static_cast<short>(row), value));
 }
 
 int WINAPI HGGetCellText(HWND hwnd, int col, int row, char* out, int outSize)
@@ -394,7 +399,8 @@ int WINAPI HGGetCellText(HWND hwnd, int col, int row, char* out, int outSize)
 int WINAPI HGSetCellText(HWND hwnd, int col, int row, const char* text)
 {
     HGridCtl* const ctl = HGFromWindow(hwnd);
-    return DataOf(ctl) ? HGParseCell(ctl, static_cast<short>(col), static_cast<short>(row), text) : 0;
+    const int written = DataOf(ctl) ? HGParseCell(ctl, static_cast<short>(col), static_cast<short>(row), text) : 0;
+    return ShowWritten(ctl, col, row, written);
 }
 
 int WINAPI HGCopyCellData(HWND hwnd, int col, int rowFrom, int rowTo)
@@ -415,7 +421,7 @@ int WINAPI HGCopyCellData(HWND hwnd, int col, int rowFrom, int rowTo)
     if (cell) {
         std::memcpy(value.p, cell, value.size);
     }
-    return HGWriteCell(ctl, col, static_cast<short>(rowTo), cell ? value.p : nullptr);
+    return ShowWritten(ctl, col, rowTo, HGWriteCell(ctl, col, static_cast<short>(rowTo), cell ? value.p : nullptr));
 }
 
 int WINAPI IsCellNull(HGridCtl* ctl, int col, int row)

@@ -222,6 +222,57 @@ TEST_F(GridEdit, HostsValueShowsInTheEditorAtOnce)
     EXPECT_EQ("quiet", CellText(0, 1));
 }
 
+TEST_F(GridEdit, TextOrCopyThatAHostWritesIntoTheCurrentCellIsWhatIsEditedThen)
+{
+    MakeGrid(GridOf({ Text() }), 3);
+    SetText(0, 0, "first");
+    SetText(0, 1, "old");
+    SetFocus(grid);
+    MoveTo(0, 1);
+    HGSetCellText(grid, 0, 1, "today");
+    EXPECT_EQ("today", TextOf(Editor()));
+    HGSetCellText(grid, 0, 2, "other");
+    EXPECT_EQ("today", TextOf(Editor()));
+    HGCopyCellData(grid, 0, 0, 1);
+    EXPECT_EQ("first", TextOf(Editor()));
+    TypeKey(VK_F2);
+    TypeKey(VK_END);
+    TypeText("x");
+    TypeKey(VK_DOWN);
+    EXPECT_EQ("firstx", CellText(0, 1));
+}
+
+TEST_F(GridEdit, RowThatAHostWritesShowsInTheEditorUnlessTheUserHasTyped)
+{
+    MakeGrid(GridOf({ Text() }), 3);
+    SetText(0, 1, "old");
+    SetFocus(grid);
+    MoveTo(0, 1);
+    char row[16] = "new";
+    SendPtr(grid, HGM_WRITEROW, 1, row);
+    EXPECT_EQ("new", TextOf(Editor()));
+    TypeText("typed");
+    SendPtr(grid, HGM_WRITEROW, 1, row);
+    EXPECT_EQ("typed", TextOf(Editor()));
+    TypeKey(VK_DOWN);
+    EXPECT_EQ("typed", CellText(0, 1));
+}
+
+TEST_F(GridEdit, ValueThatAHostCorrectsWhenItIsToldOfItShowsInTheEditorThatStays)
+{
+    MakeGrid(GridOf({ Text() }), 3);
+    SetFocus(grid);
+    MoveTo(0, 1);
+    TypeText("abc");
+    parent.On(HGN_CELLCHANGED, [&] {
+        parent.On(HGN_CELLCHANGED, nullptr);
+        SetText(0, 1, "ABC");
+    });
+    Send(grid, WM_COMMAND, MAKEWPARAM(200, 11), reinterpret_cast<LPARAM>(Editor()));
+    EXPECT_EQ("ABC", CellText(0, 1));
+    EXPECT_EQ("ABC", TextOf(Editor()));
+}
+
 TEST_F(GridEdit, EscapeReloadsTheEditorFromTheCell)
 {
     MakeGrid(GridOf({ Text() }), 2);
