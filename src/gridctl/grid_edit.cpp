@@ -184,7 +184,8 @@ bool PlaceEditor(HGridCtl* ctl, const RECT& rect)
 bool HGIsEditable(HGridCtl* ctl, int col)
 {
     const HGField* const field = HGGetField(ctl->pData, col);
-    return field && (field->wFlags & HFF_READONLY) == 0 && !HasStyle(ctl, HGS_READONLY);
+    // What is typed into a hidden column would be seen nowhere.
+    return field && (field->wFlags & (HFF_READONLY | HFF_HIDDEN)) == 0 && !HasStyle(ctl, HGS_READONLY);
 }
 
 // In a combo it is the face that has the focus.

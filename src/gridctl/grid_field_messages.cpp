@@ -202,9 +202,11 @@ LRESULT OnSetFieldFlags(HGridCtl* ctl, const FieldRef& ref, LPARAM lParam)
     const WORD old = ref.field->wFlags;
     const WORD flags = static_cast<WORD>(LOWORD(lParam) ? old | mask : old & ~mask);
     ref.field->wFlags = flags;
-    if (ref.col == CurrentCell(ctl).col && ((old ^ flags) & HFF_READONLY)) {
+    const bool locked = ((old ^ flags) & HFF_READONLY) != 0;
+    const bool hidden = ((old ^ flags) & HFF_HIDDEN) && HasFlag(ctl, HGC_CELLSHOWN);
+    if (ref.col == CurrentCell(ctl).col && (locked || hidden)) {
         const HWND hwnd = ctl->hWnd;
-        HGFollowReadOnly(ctl, true);
+        HGFollowReadOnly(ctl, locked || HGIsSelectionShown(ctl));
         if (!IsWindow(hwnd)) {
             return 1;
         }

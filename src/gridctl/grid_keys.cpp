@@ -262,8 +262,7 @@ bool IsMoveKey(WPARAM vk)
 HWND FocusEditor(HGridCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    const HGField* const field = HGGetField(ctl->pData, CurrentCell(ctl).col);
-    if ((field && (field->wFlags & HFF_READONLY)) || !ctl->hEditor) {
+    if (!ctl->hEditor || !HGIsEditable(ctl, CurrentCell(ctl).col)) {
         return nullptr;
     }
     SetFocus(ctl->hEditor);

@@ -99,8 +99,10 @@ TEST_F(GridEditorPlace, ColumnThatIsHiddenWhileCurrentTakesItsEditorAlong)
 {
     MakeStanding(1, 2);
     SetFlags(grid, 1, HFF_HIDDEN, 1);
-    const RECT hidden = EditorPlace();
-    EXPECT_TRUE(IsRectEmpty(&hidden));
+    EXPECT_FALSE(IsWindowVisible(ChildOf(1))) << "nothing is edited in a column that nobody sees";
+    TypeText("x");
+    EXPECT_EQ(grid, GetFocus());
+    EXPECT_EQ("2", CellText(1, 2));
     SetFlags(grid, 1, HFF_HIDDEN, 0);
     const RECT shown = EditorPlace();
     EXPECT_FALSE(IsRectEmpty(&shown));

@@ -142,4 +142,33 @@ TEST_F(GridLock, OfSingleRecordsHoldsForTheRecordThatIsCurrent)
     }
 }
 
+TEST_F(GridLock, NothingIsTypedIntoAHiddenColumn)
+{
+    MakeGrid(GridOf({ Hidden(Text(16, "ID")), Text() }), 3);
+    SetText(0, 0, "7");
+    SetFocus(grid);
+    ASSERT_EQ((Cell{ 0, 0 }), Current());
+    ExpectNoEditor();
+    for (const WORD key : { WORD{ VK_F2 }, WORD{ 'X' } }) {
+        TypeKey(key);
+        EXPECT_EQ(grid, GetFocus());
+    }
+    TypeKey(VK_DOWN);
+    EXPECT_EQ("7", CellText(0, 0));
+    TypeKey(VK_UP);
+    TypeKey(VK_RIGHT);
+    ExpectTakesText(1, 0);
+}
+
+TEST_F(GridLock, ColumnThatIsHiddenDuringAnEditHasItStored)
+{
+    MakeTexts();
+    TypeInto(1, 2, "typed");
+    Send(grid, HGM_SETFIELDFLAGS, 1, MAKELPARAM(1, HFF_HIDDEN));
+    EXPECT_EQ(grid, GetFocus());
+    TypeText("x");
+    TypeKey(VK_DOWN);
+    EXPECT_EQ("typed", CellText(1, 2));
+}
+
 } // namespace
