@@ -6,6 +6,8 @@
 #include "foundation/gdi_guards.h"
 #include "foundation/screen.h"
 
+#include <cstdlib>
+
 int gSizeZone;
 int gGuideLine;
 
@@ -17,6 +19,11 @@ constexpr int maxSize = 2000;
 constexpr int maxHeader = 0x7FFF;
 
 HWND gTimedScroll; // the grid for whose drag TimedScroll runs
+
+// The grid whose view a press has scrolled, until the mouse leaves the place of the press. Another cell than the one that
+// was pressed is under the mouse since then, without anything being dragged.
+HWND  gScrolledPress;
+POINT gPressPoint;
 
 struct ColumnRange {
     int lo;
@@ -250,6 +257,17 @@ void DragSelection(HGridCtl* ctl, LPARAM lParam)
     }
 }
 
+bool StaysOnPress(const HGridCtl* ctl, LPARAM lParam)
+{
+    if (gScrolledPress != ctl->hWnd) {
+        return false;
+    }
+    const bool stays = std::abs(MouseX(lParam) - gPressPoint.x) <= GetSystemMetrics(SM_CXDRAG) &&
+                       std::abs(MouseY(lParam) - gPressPoint.y) <= GetSystemMetrics(SM_CYDRAG);
+    gScrolledPress = stays ? gScrolledPress : nullptr;
+    return stays;
+}
+
 bool IsButtonDown()
 {
     return GetAsyncKeyState(VK_LBUTTON) < 0 || GetAsyncKeyState(VK_RBUTTON) < 0;
@@ -412,6 +430,22 @@ void RefusePress(HGridCtl* ctl)
     }
 }
 
+void PressCell(HGridCtl* ctl, Cell hit, bool shift, LPARAM lParam)
+{
+    const HWND hwnd = ctl->hWnd;
+    const LONG pos = ctl->nHScrollPos;
+    const LONG top = HGTopRecord(ctl);
+    if (HasStyle(ctl, HGS_ROWSELECT) && !HasStyle(ctl, HGS_NOEXTEND)) {
+        HGSelectRow(ctl, hit.col, hit.row, shift, HGIsKeyDown(VK_CONTROL));
+    } else {
+        HGMoveTo(ctl, hit.col, hit.row, shift, true);
+    }
+    if (IsWindow(hwnd) && (pos != ctl->nHScrollPos || top != HGTopRecord(ctl))) {
+        gScrolledPress = hwnd;
+        gPressPoint = { MouseX(lParam), MouseY(lParam) };
+    }
+}
+
 // A press on a cell or header. The focus comes to the grid, whatever becomes of the move.
 void Press(HGridCtl* ctl, LPARAM lParam, bool shift)
 {
@@ -430,10 +464,8 @@ void Press(HGridCtl* ctl, LPARAM lParam, bool shift)
         RefusePress(ctl);
     } else if (StartsColumnDrag(ctl, hit, shift)) {
         DragColumns(ctl);
-    } else if (HasStyle(ctl, HGS_ROWSELECT) && !HasStyle(ctl, HGS_NOEXTEND)) {
-        HGSelectRow(ctl, hit.col, hit.row, shift, HGIsKeyDown(VK_CONTROL));
     } else {
-        HGMoveTo(ctl, hit.col, hit.row, shift, true);
+        PressCell(ctl, hit, shift, lParam);
     }
 }
 
@@ -446,6 +478,7 @@ void HGMouseDown(HGridCtl* ctl, LPARAM lParam)
     if (GetCapture() != hwnd) {
         ForgetDrag(ctl);
     }
+    gScrolledPress = nullptr;
     SetFlag(ctl, CF_CANCEL, false);
     ctl->wFlags |= HGC_MOUSEDOWN;
     SetCapture(hwnd);
@@ -472,6 +505,8 @@ void HGMouseMove(HGridCtl* ctl, LPARAM lParam)
         ShowDropPoint(ctl, lParam);
     } else if (gSizeZone != 0) {
         ShowSize(ctl, lParam);
+    } else if (StaysOnPress(ctl, lParam)) {
+        return;
     } else if (LeavesWindow(ctl, lParam)) {
         SetFlag(ctl, CF_CANCEL, false); // of a move that the parent turned round before
         ScrollByTime(ctl);

@@ -348,4 +348,29 @@ TEST_F(GridSourceDrag, HostMayEndTheGridWhenTheViewGoesBack)
     EXPECT_FALSE(IsWindow(grid));
 }
 
+// Ten of the twenty pixels of row 9 show below the headers and nine rows.
+TEST_F(GridMouseDrag, PressOnTheRowThatIsCutOffTakesThatRowAlone)
+{
+    for (const DWORD style : { DWORD{ 0 }, DWORD{ HGS_NOEXTEND }, DWORD{ HGS_ROWSELECT } }) {
+        SCOPED_TRACE(style);
+        MakeCells(HGS_ROWHEADERS | HGS_COLHEADERS | style);
+        SetWindowPos(grid, nullptr, 0, 0, 400, 210, SWP_NOMOVE | SWP_NOZORDER);
+        UpdateWindow(grid);
+        Send(grid, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(100, 205));
+        ASSERT_EQ(9, Current().row);
+        ASSERT_EQ(1, ctl->nTopRow);
+        for (const int y : { 205, 206, 203 }) {
+            Send(grid, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(101, y));
+            EXPECT_EQ(9, Current().row) << "at " << y;
+        }
+        // A drag is one from there on, also where it comes back.
+        Send(grid, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(100, 150));
+        EXPECT_EQ(7, Current().row);
+        Send(grid, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(100, 205));
+        EXPECT_EQ(10, Current().row);
+        Send(grid, WM_LBUTTONUP, 0, MAKELPARAM(100, 205));
+        DestroyWindow(grid);
+    }
+}
+
 } // namespace
