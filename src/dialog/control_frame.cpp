@@ -3,6 +3,7 @@
 
 #include "dialog/message_table.h"
 #include "dialog/record_bits.h"
+#include "dialog/window_style.h"
 #include "foundation/memory.h"
 
 namespace {
@@ -55,7 +56,7 @@ LRESULT OnGetStyle(ControlHeader* header, WPARAM, LPARAM)
 LRESULT OnSetStyle(ControlHeader* header, WPARAM, LPARAM lParam)
 {
     header->dwStyle = static_cast<DWORD>(lParam);
-    SetWindowLongA(header->hWnd, GWL_STYLE, static_cast<LONG>(lParam));
+    SetWindowStyle(header->hWnd, static_cast<DWORD>(lParam));
     return 1;
 }
 

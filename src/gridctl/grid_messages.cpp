@@ -1,6 +1,8 @@
 // Own messages of a grid that concern the window, its appearance, its data and its layout.
 #include "gridctl/grid_handlers.h"
 
+#include "dialog/window_style.h"
+
 #include <algorithm>
 
 namespace {
@@ -72,7 +74,8 @@ void StoreStyle(HGridCtl* ctl, DWORD style)
 
 LRESULT OnSetStyle(HGridCtl* ctl, const MsgArgs& args)
 {
-    SetWindowLongA(ctl->hWnd, GWL_STYLE, static_cast<LONG>(args.lParam));
+    // Beside a navigator the stored word alone has the scroll bar.
+    SetWindowStyle(ctl->hWnd, static_cast<DWORD>(args.lParam), ctl->hNavScroll ? WS_VSCROLL : 0);
     StoreStyle(ctl, static_cast<DWORD>(args.lParam));
     return 1;
 }

@@ -141,7 +141,22 @@ TEST_F(HandleMsgTest, SetStyleChangesTheWindowToo)
     const DWORD style = WS_CHILD | WS_VISIBLE | 0x0081;
     EXPECT_EQ(1, Send(hwnd, WWM_SETSTYLE, 0, static_cast<LPARAM>(style)));
     EXPECT_EQ(style, DWORD{ record.dwStyle });
-    EXPECT_EQ(static_cast<LONG>(style), GetWindowLongA(hwnd, GWL_STYLE));
+    EXPECT_EQ(static_cast<LONG>(style), GetWindowLongA(hwnd, GWL_STYLE) | WS_VISIBLE);
+}
+
+TEST_F(HandleMsgTest, SetStyleLeavesAWindowShownOrHiddenAndEnabledOrDisabledAsItIs)
+{
+    constexpr DWORD states[] = { 0, WS_VISIBLE, WS_DISABLED, WS_VISIBLE | WS_DISABLED };
+    const HWND hwnd = CreateWithRecord();
+    for (const DWORD state : states) {
+        ShowWindow(hwnd, state & WS_VISIBLE ? SW_SHOWNA : SW_HIDE);
+        EnableWindow(hwnd, (state & WS_DISABLED) == 0);
+        for (const DWORD asked : states) {
+            Send(hwnd, WWM_SETSTYLE, 0, static_cast<LPARAM>(WS_CHILD | asked | 0x0081));
+            EXPECT_EQ(static_cast<LONG>(WS_CHILD | state | 0x0081), GetWindowLongA(hwnd, GWL_STYLE));
+            EXPECT_EQ(DWORD{ WS_CHILD | asked | 0x0081 }, DWORD{ record.dwStyle });
+        }
+    }
 }
 
 } // namespace

@@ -74,6 +74,21 @@ TEST_F(GridMessages, StyleWordIsTheDefinitionsAndKeepsTheWindowEqual)
     EXPECT_TRUE(Send(grid, WWM_GETSTYLE) & HGS_NOLINES);
 }
 
+TEST_F(GridMessages, StyleWordThatAHostSetsBackNeitherHidesTheWindowNorGivesANavigatorsGridASecondBar)
+{
+    const DWORD style = HGS_ROWHEADERS | HGS_COLHEADERS | HGS_NAVIGATOR;
+    grid = Create("HGrid", "", style);
+    ctl = RecordOf<HGridCtl>(grid);
+    ASSERT_NE(nullptr, ctl->hNavScroll);
+    const DWORD stored = static_cast<DWORD>(Send(grid, WWM_GETSTYLE)) & ~DWORD{ WS_VISIBLE };
+    ASSERT_TRUE(stored & WS_VSCROLL);
+    EnableWindow(grid, FALSE);
+    const LONG window = GetWindowLongA(grid, GWL_STYLE);
+    EXPECT_EQ(1, Send(grid, WWM_SETSTYLE, 0, static_cast<LPARAM>(stored | HGS_STRIPED)));
+    EXPECT_EQ(window | static_cast<LONG>(HGS_STRIPED), GetWindowLongA(grid, GWL_STYLE));
+    EXPECT_EQ(stored | HGS_STRIPED, static_cast<DWORD>(Send(grid, WWM_GETSTYLE)));
+}
+
 TEST_F(GridMessages, BackgroundBrushIsKeptAndPassedToTheCellControls)
 {
     MakeGrid(GridOf({ Text() }), 1);
