@@ -159,6 +159,7 @@ void    HGScrollBy(HGridCtl* ctl, int dx, int dy, bool moveEditor);
 int     HGSetTop(HGridCtl* ctl, LONG record); // rows moved
 void HGShowCurrentRow(HGridCtl* ctl); // where the view has been scrolled away from it. May end the window.
 int     HGEnsureVisible(HGridCtl* ctl, int col, int row); // the index that the row has now
+bool    HGShowCurrent(HGridCtl* ctl); // scrolls back to a current cell that is out of view. False if the window went
 LONG    HGSetScrollPos(HGridCtl* ctl, int bar, LONG pos, bool redraw); // bar 0 across, 1 down; the old value
 bool    HGAskNavigate(HGridCtl* ctl); // false if the parent refuses the step, or the window went
 LRESULT HGOnHScroll(HGridCtl* ctl, WPARAM wParam);

@@ -265,6 +265,10 @@ HWND FocusEditor(HGridCtl* ctl)
     if (!ctl->hEditor || !HGIsEditable(ctl, CurrentCell(ctl).col)) {
         return nullptr;
     }
+    // The view may have been scrolled away from it: nobody would see what is typed.
+    if (!HGShowCurrent(ctl) || !ctl->hEditor) {
+        return nullptr;
+    }
     SetFocus(ctl->hEditor);
     return IsWindow(hwnd) ? ctl->hEditor : nullptr;
 }

@@ -176,6 +176,30 @@ void HGShowCurrentRow(HGridCtl* ctl)
     }
 }
 
+// A cell that can be seen in part stays where it is.
+bool HGShowCurrent(HGridCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    const Cell cell = CurrentCell(ctl);
+    RECT row;
+    if (cell.row >= 0 && !HGRowRect(ctl, &row, cell.row, cell.col, HGBandOf(ctl, cell.col))) {
+        HGShowCurrentRow(ctl);
+    }
+    if (!IsWindow(hwnd)) {
+        return false;
+    }
+    RECT column;
+    RECT zone;
+    HGColumnRect(ctl, &column, CurrentCell(ctl).col, -1);
+    HGScrollRect(ctl, &zone);
+    const bool seen = std::max(column.left, zone.left) < std::min(column.right, zone.right);
+    if (!seen && !ShowColumn(ctl, CurrentCell(ctl).col, -1)) {
+        return false;
+    }
+    HGKeepEditorPlaced(ctl);
+    return IsWindow(hwnd) != 0;
+}
+
 int HGEnsureVisible(HGridCtl* ctl, int col, int row)
 {
     const HWND hwnd = ctl->hWnd;

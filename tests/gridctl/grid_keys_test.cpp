@@ -256,4 +256,40 @@ TEST_F(GridKeys, EndStopNeverLeadsUpFromTheEntryRow)
     }
 }
 
+// Ten columns of 80 and a hundred rows: neither stands in the view when it is scrolled to its end.
+TEST_F(GridKeys, WhatIsTypedIntoACellOutOfViewBringsItBack)
+{
+    struct Away {
+        const char* what;
+        UINT        message;
+        int         pos;
+    };
+    constexpr Away ways[] = { { "across", WM_HSCROLL, 400 }, { "down", WM_VSCROLL, 50 }, { "nowhere", 0, 0 } };
+    for (const Away& way : ways) {
+        for (const bool byF2 : { false, true }) {
+            SCOPED_TRACE(testing::Message() << way.what << ", F2 " << byF2);
+            MakeGrid(GridOf({ Text(), Text(), Text(), Text(), Text(), Text(), Text(), Text(), Text(), Text() }), 100);
+            StandOn(1, 3);
+            if (way.message) {
+                Send(grid, way.message, MAKEWPARAM(SB_THUMBPOSITION, way.pos));
+                ASSERT_EQ(way.pos, way.message == WM_HSCROLL ? +ctl->nHScrollPos : ctl->nTopRow);
+            }
+            const int scrolls = parent.Count(HGN_HSCROLLED) + parent.Count(HGN_VSCROLLED);
+            byF2 ? TypeKey(VK_F2) : TypeText("x");
+            RECT editor;
+            RECT zone;
+            GetClientRect(Editor(), &editor);
+            MapWindowPoints(Editor(), grid, reinterpret_cast<POINT*>(&editor), 2);
+            HGScrollRect(ctl, &zone);
+            EXPECT_EQ(Editor(), GetFocus());
+            EXPECT_LT(70, editor.right - editor.left);
+            EXPECT_LE(zone.left, editor.left);
+            EXPECT_GE(zone.bottom, editor.bottom);
+            EXPECT_EQ(scrolls + (way.message ? 1 : 0), parent.Count(HGN_HSCROLLED) + parent.Count(HGN_VSCROLLED));
+            EXPECT_CELL(1, 3);
+            DestroyWindow(grid);
+        }
+    }
+}
+
 } // namespace
