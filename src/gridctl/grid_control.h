@@ -203,6 +203,7 @@ void    HGMouseDown(HGridCtl* ctl, LPARAM lParam);
 void    HGMouseMove(HGridCtl* ctl, LPARAM lParam);
 void    HGMouseUp(HGridCtl* ctl, LPARAM lParam);
 void    HGMouseDblClk(HGridCtl* ctl, LPARAM lParam);
+void    HGMouseLost(HGridCtl* ctl, HWND taker); // the capture goes to another window, or to none
 extern int gSizeZone;  // what the mouse is over: 0 nothing, see the size zones
 extern int gGuideLine; // where the guide line stands, as x or y
 

@@ -538,6 +538,21 @@ void HGMouseUp(HGridCtl* ctl, LPARAM lParam)
     }
 }
 
+// A drag ends where something else takes the mouse: its button comes up elsewhere. One that goes on by itself, outside the
+// window, finds out by itself.
+void HGMouseLost(HGridCtl* ctl, HWND taker)
+{
+    const bool dragging = HasFlag(ctl, HGC_MOUSEDOWN | HGC_XORLINE) && gTimedScroll != ctl->hWnd;
+    if (!dragging || taker == ctl->hWnd) {
+        return;
+    }
+    if (gSizeZone != 0) {
+        ClipCursor(nullptr);
+        gSizeZone = 0;
+    }
+    ForgetDrag(ctl);
+}
+
 void HGMouseDblClk(HGridCtl* ctl, LPARAM lParam)
 {
     const HWND hwnd = ctl->hWnd;

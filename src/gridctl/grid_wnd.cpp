@@ -120,6 +120,7 @@ LRESULT OnWindowMessage(HGridCtl* ctl, const MsgArgs& args)
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:
     case WM_LBUTTONDBLCLK:    return OnMouse(ctl, args);
+    case WM_CAPTURECHANGED:   HGMouseLost(ctl, reinterpret_cast<HWND>(lParam)); return AskDefault(args);
     case WM_MDIACTIVATE:      return OnMdiActivate(ctl, args);
     default:                  return AskDefault(args);
     }

@@ -197,17 +197,48 @@ TEST_F(GridSizeMoves, SizeDragLeavesTheCurrentCell)
     EXPECT_CELL(0, 0);
 }
 
-TEST_F(GridSizeMoves, PressAfterALostDragRemovesItsGuide)
+// The button comes up elsewhere: nothing would set the mouse free, or remove the guide.
+TEST_F(GridSizeMoves, DragThatLosesTheMouseEndsAndSetsItFree)
+{
+    for (const bool toAnother : { false, true }) {
+        for (const bool unfocused : { false, true }) {
+            SCOPED_TRACE(testing::Message() << "to another " << toAnother << ", unfocused " << unfocused);
+            MakeCells();
+            RECT free;
+            GetClipCursor(&free);
+            SetFocus(grid);
+            StartSizeDrag(3);
+            Drag(222, 50);
+            if (unfocused) {
+                SetFocus(parent.hwnd());
+            }
+            UpdateWindow(grid);
+            toAnother ? SetCapture(parent.hwnd()) != nullptr : ReleaseCapture() != 0;
+            RECT clip;
+            GetClipCursor(&clip);
+            EXPECT_TRUE(EqualRect(&free, &clip));
+            EXPECT_FALSE(ctl->wFlags & (HGC_XORLINE | HGC_MOUSEDOWN));
+            EXPECT_TRUE(IsInvalid());
+            UpdateWindow(grid);
+            Drag(250, 50);
+            EXPECT_FALSE(ctl->wFlags & HGC_XORLINE);
+            Down(130, 90);
+            EXPECT_CELL(1, 3);
+            Up(130, 90);
+            EXPECT_EQ(80, WidthOf(1));
+            DestroyWindow(grid);
+        }
+    }
+}
+
+TEST_F(GridSizeMoves, SelectionNoLongerFollowsAMouseThatAnotherWindowHasTaken)
 {
     MakeCells();
-    StartSizeDrag(3);
-    Drag(222, 50);
-    ReleaseCapture();
-    UpdateWindow(grid);
-    StartSizeDrag(3);
-    EXPECT_FALSE(ctl->wFlags & HGC_XORLINE);
-    EXPECT_TRUE(IsInvalid());
-    Up(222, 50);
+    Down(130, 90);
+    Drag(130, 110);
+    SetCapture(parent.hwnd());
+    Drag(130, 150);
+    EXPECT_CELL(1, 4);
 }
 
 TEST_F(GridSizeMoves, SecondButtonLeavesTheGuideOfADrag)
