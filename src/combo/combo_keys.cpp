@@ -117,13 +117,38 @@ void ShowFocusInList(HCombCtl* ctl)
     }
 }
 
-// The edit shows its text from the start. What it says may be no item, and then the list's item counts.
+// Whether the edit's value is one that the user has typed, and not one that he took back.
+bool HasTypedValue(HCombCtl* ctl)
+{
+    return HasFlag(ctl, HCF_TYPED) && ToChild(ctl, WWM_GETCHANGED) != 0;
+}
+
+// What was typed may be no item, and then the list's item counts. Settled: without one the edit is cleared. A value that
+// the user hasn't typed isn't touched: the host's may be none of the list's, or may have come while the list stood on the
+// one before.
+void TakeListsItem(HCombCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    bool       counts = HCAgree(ctl);
+    if (!counts && IsWindow(hwnd)) {
+        HCFollowFace(ctl, false);
+        counts = IsWindow(hwnd) && (HCAgree(ctl) || (IsWindow(hwnd) && HasTypedValue(ctl)));
+    }
+    if (counts && IsWindow(hwnd)) {
+        HCSync(ctl, false, true);
+    }
+}
+
+// The edit shows its text from the start.
 void LeaveEdit(HCombCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
     ToChild(ctl, EM_SETSEL, 0, 0);
     if (IsWindow(hwnd) && !HasStyle(ctl, HCS_3DBORDER) && ctl->chCodeType != 's') {
-        HCSync(ctl, false, true);
+        TakeListsItem(ctl);
+    }
+    if (IsWindow(hwnd)) {
+        SetFlag(ctl, HCF_TYPED, false);
     }
 }
 
@@ -150,6 +175,7 @@ LRESULT HCOnSysKey(HCombCtl* ctl, const MsgArgs& args)
 
 LRESULT HCOnChildFocus(HCombCtl* ctl, const MsgArgs& args)
 {
+    SetFlag(ctl, HCF_TYPED, false);
     if (HasEdit(ctl)) {
         HCFollowFace(ctl, false);
     }
