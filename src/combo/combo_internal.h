@@ -38,6 +38,7 @@ bool HCTell(HCombCtl* ctl, int code);
 // changed all the same. A value that the host gives takes that back.
 void HCFollowFace(HCombCtl* ctl, bool notify);
 
+bool HCHasRow(HCombCtl* ctl); // whether the list has a current item
 // Whether the list's current item is what the edit has. It asks the edit for its value.
 bool HCAgree(HCombCtl* ctl);
 

@@ -46,11 +46,11 @@ LRESULT OnTab(HCombCtl* ctl, const MsgArgs&)
     return 1;
 }
 
-// The row that the list shows counts, also one that equals what was typed.
+// The row that the list shows counts, also one that equals what was typed. Without a row what was typed stays.
 void AcceptRow(HCombCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    if (HasEdit(ctl)) {
+    if (HasEdit(ctl) && HCHasRow(ctl)) {
         HCSync(ctl, false, true);
         if (!IsWindow(hwnd)) {
             return;

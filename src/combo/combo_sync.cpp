@@ -193,10 +193,15 @@ bool Mirrors(const HCombCtl* ctl, DWORD option)
 
 } // namespace
 
+bool HCHasRow(HCombCtl* ctl)
+{
+    return ctl->hDrop && CurrentOfList(ctl) >= 0;
+}
+
 bool HCAgree(HCombCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    if (!HasEdit(ctl) || CurrentOfList(ctl) < 0) {
+    if (!HasEdit(ctl) || !HCHasRow(ctl)) {
         return false;
     }
     const bool isText = HasTexts(ctl);

@@ -85,7 +85,23 @@ TEST_F(ComboItems, FaceFollowsAChangeOfItems)
     EXPECT_EQ("", Text()) << "no item, no text";
     SendPtr(WM_SETTEXT, 0, "typed");
     HCAddItemEx(combo, "c", nullptr);
-    EXPECT_EQ("", Text()) << "a list without a current item clears the edit";
+    EXPECT_EQ("typed", Text()) << "a list that had no current item and has none takes nothing from the edit";
+}
+
+// Remembering what was typed, suggesting items for it, and reading them.
+TEST_F(ComboItems, TypedTextStaysWhenItemsAreAddedAndRead)
+{
+    const char* const suggestions[] = { "Zug", "Zollikon" };
+    char              first[128];
+    Make("%120%ss", edits | HCS_3DBORDER);
+    Focus();
+    Type("Zurich");
+    HCAddItems(combo, 2, suggestions);
+    EXPECT_EQ("Zurich", Text());
+    HCGetItems(combo, 1, 1, first, HLI_ALL, nullptr);
+    EXPECT_EQ("Zurich", Text());
+    HCAddItemEx(combo, Text().c_str(), nullptr);
+    EXPECT_EQ("Zurich", Text());
 }
 
 TEST_F(ComboItems, FieldShowsTheListsItems)

@@ -219,6 +219,32 @@ TEST_F(ComboLeaving, ClearsWhatWasTypedOverAValueThatIsNoItem)
     ExpectLeft("", "typed");
 }
 
+TEST_F(ComboKeys, ReturnInAListWithoutACurrentRowTakesNothingFromTheEdit)
+{
+    MakeFocused(edits | HCS_3DBORDER, "%120%ss");
+    Type("Zurich");
+    Open();
+    Key(VK_RETURN);
+    EXPECT_FALSE(IsDropped());
+    EXPECT_EQ("Zurich", Text());
+    EXPECT_EQ((Ints{ HCN_SELENDOK, HCN_CLOSEUP }), Told());
+    EXPECT_EQ(0, SendMessageA(List(), WWM_GETCHANGED, 0, 0));
+    Blur();
+    EXPECT_EQ("Zurich", Text());
+}
+
+TEST_F(ComboKeys, ClickIntoAnEmptyListTakesNothingFromTheEdit)
+{
+    Make("%120%ss", edits | HCS_3DBORDER);
+    Focus();
+    Type("Zurich");
+    Open();
+    SendMessageA(List(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageA(List(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_FALSE(IsDropped());
+    EXPECT_EQ("Zurich", Text());
+}
+
 TEST_F(ComboKeys, ListThatLiesOpenShowsTheFocusByItsColours)
 {
     Make("%120%ss", HCS_EDIT | HCS_FOCUSBRUSH, 160, 120);
