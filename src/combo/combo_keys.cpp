@@ -60,6 +60,15 @@ void AcceptRow(HCombCtl* ctl)
     Notify(ctl, HCN_SELENDOK);
 }
 
+// The row under the pointer is the only one that is marked, so Return means it, as the other keys do.
+void TakeHotRow(HCombCtl* ctl)
+{
+    HListCtl* const list = ctl->pDrop;
+    if (list && list->nHot >= 0 && list->nHot < HLCount(list)) {
+        HLDragTo(list, list->nHot);
+    }
+}
+
 LRESULT OnEnterOrEscape(HCombCtl* ctl, const MsgArgs& args)
 {
     const bool isEnter = args.wParam == VK_RETURN;
@@ -70,6 +79,9 @@ LRESULT OnEnterOrEscape(HCombCtl* ctl, const MsgArgs& args)
         return 0;
     }
     if (isEnter) {
+        TakeHotRow(ctl);
+    }
+    if (isEnter && IsWindow(args.hwnd)) {
         AcceptRow(ctl);
     }
     if (IsWindow(args.hwnd)) {
