@@ -6,6 +6,7 @@ namespace {
 
 constexpr int noList = -1;
 
+// A list that has no current item before and after has nothing to say to the edit: what was typed there stays.
 template <typename Work>
 int OnList(HWND hwnd, int without, Work work)
 {
@@ -13,8 +14,9 @@ int OnList(HWND hwnd, int without, Work work)
     if (!ctl || !ctl->hDrop) {
         return without;
     }
-    const int result = work(ctl->hDrop);
-    if (IsWindow(hwnd)) {
+    const bool hadRow = HCHasRow(ctl);
+    const int  result = work(ctl->hDrop);
+    if (IsWindow(hwnd) && (hadRow || !HasEdit(ctl) || HCHasRow(ctl))) {
         HCSync(ctl, false, false);
     }
     return result;

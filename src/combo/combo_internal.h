@@ -5,8 +5,9 @@
 #include "dialog/message_table.h"
 #include "dialog/record_bits.h"
 
-// A bit of wFlags beside the ones that grids know.
+// Bits of wFlags beside the ones that grids know.
 constexpr WORD HCF_ENDING = 0x0010; // the window is being destroyed
+constexpr WORD HCF_TYPED = 0x0020;  // the user has typed into the edit since it got the focus
 
 inline LRESULT ToChild(const HCombCtl* ctl, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
 {
@@ -36,6 +37,10 @@ bool HCTell(HCombCtl* ctl, int code);
 // HCSync from the face, for what the user does there: an item that was picked in the list before and isn't stored yet has
 // changed all the same. A value that the host gives takes that back.
 void HCFollowFace(HCombCtl* ctl, bool notify);
+
+bool HCHasRow(HCombCtl* ctl); // whether the list has a current item
+// Whether the list's current item is what the edit has. It asks the edit for its value.
+bool HCAgree(HCombCtl* ctl);
 
 // Life
 void HCInstall(HCombCtl* ctl);    // joins the parts of a combo that HCCreate has made

@@ -46,11 +46,11 @@ LRESULT OnTab(HCombCtl* ctl, const MsgArgs&)
     return 1;
 }
 
-// The row that the list shows counts, also one that equals what was typed.
+// The row that the list shows counts, also one that equals what was typed. Without a row what was typed stays.
 void AcceptRow(HCombCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    if (HasEdit(ctl)) {
+    if (HasEdit(ctl) && HCHasRow(ctl)) {
         HCSync(ctl, false, true);
         if (!IsWindow(hwnd)) {
             return;
@@ -58,6 +58,15 @@ void AcceptRow(HCombCtl* ctl)
         ToList(ctl, WWM_SETCHANGED, 1);
     }
     Notify(ctl, HCN_SELENDOK);
+}
+
+// The row under the pointer is the only one that is marked, so Return means it, as the other keys do.
+void TakeHotRow(HCombCtl* ctl)
+{
+    HListCtl* const list = ctl->pDrop;
+    if (list && list->nHot >= 0 && list->nHot < HLCount(list)) {
+        HLDragTo(list, list->nHot);
+    }
 }
 
 LRESULT OnEnterOrEscape(HCombCtl* ctl, const MsgArgs& args)
@@ -70,6 +79,9 @@ LRESULT OnEnterOrEscape(HCombCtl* ctl, const MsgArgs& args)
         return 0;
     }
     if (isEnter) {
+        TakeHotRow(ctl);
+    }
+    if (isEnter && IsWindow(args.hwnd)) {
         AcceptRow(ctl);
     }
     if (IsWindow(args.hwnd)) {
@@ -117,13 +129,38 @@ void ShowFocusInList(HCombCtl* ctl)
     }
 }
 
-// The edit shows its text from the start. What it says may be no item, and then the list's item counts.
+// Whether the edit's value is one that the user has typed, and not one that he took back.
+bool HasTypedValue(HCombCtl* ctl)
+{
+    return HasFlag(ctl, HCF_TYPED) && ToChild(ctl, WWM_GETCHANGED) != 0;
+}
+
+// What was typed may be no item, and then the list's item counts. Settled: without one the edit is cleared. A value that
+// the user hasn't typed isn't touched: the host's may be none of the list's, or may have come while the list stood on the
+// one before.
+void TakeListsItem(HCombCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    bool       counts = HCAgree(ctl);
+    if (!counts && IsWindow(hwnd)) {
+        HCFollowFace(ctl, false);
+        counts = IsWindow(hwnd) && (HCAgree(ctl) || (IsWindow(hwnd) && HasTypedValue(ctl)));
+    }
+    if (counts && IsWindow(hwnd)) {
+        HCSync(ctl, false, true);
+    }
+}
+
+// The edit shows its text from the start.
 void LeaveEdit(HCombCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
     ToChild(ctl, EM_SETSEL, 0, 0);
     if (IsWindow(hwnd) && !HasStyle(ctl, HCS_3DBORDER) && ctl->chCodeType != 's') {
-        HCSync(ctl, false, true);
+        TakeListsItem(ctl);
+    }
+    if (IsWindow(hwnd)) {
+        SetFlag(ctl, HCF_TYPED, false);
     }
 }
 
@@ -150,6 +187,7 @@ LRESULT HCOnSysKey(HCombCtl* ctl, const MsgArgs& args)
 
 LRESULT HCOnChildFocus(HCombCtl* ctl, const MsgArgs& args)
 {
+    SetFlag(ctl, HCF_TYPED, false);
     if (HasEdit(ctl)) {
         HCFollowFace(ctl, false);
     }

@@ -52,11 +52,27 @@ LRESULT OnListSelect(HCombCtl* ctl, const MsgArgs& args)
     return Mirror(ctl, args, false, ToList(ctl, args.message, HLSEL_SET, args.lParam));
 }
 
-LRESULT OnListItems(HCombCtl* ctl, const MsgArgs& args)
+LRESULT OnListLook(HCombCtl* ctl, const MsgArgs& args)
 {
     const LRESULT result = AskList(ctl, args);
     if (IsWindow(args.hwnd) && !HasEdit(ctl)) {
         InvalidateRect(ctl->hChild, nullptr, TRUE);
+    }
+    return result;
+}
+
+// A field has the list's items, but an index of its own: what comes or goes in front of its item moves that, too. It is
+// no change, and takes none back.
+LRESULT OnListItems(HCombCtl* ctl, const MsgArgs& args)
+{
+    const LRESULT result = OnListLook(ctl, args);
+    if (!IsWindow(args.hwnd) || HasEdit(ctl) || !ctl->pChild) {
+        return result;
+    }
+    const bool changed = HasFlag(ctl->pChild, CF_CHANGED);
+    HCSync(ctl, false, false);
+    if (IsWindow(args.hwnd) && ctl->pChild) {
+        SetFlag(ctl->pChild, CF_CHANGED, changed);
     }
     return result;
 }
@@ -204,7 +220,7 @@ constexpr MessageEntry<ComboHandler> entries[] = {
     { HLM_SETCODELINK,   OnListValue },
     { HLM_SELECTCODE,    OnListSelect },
     { HLM_SETCURRENT,    OnListValue },
-    { HLM_SETTABS,       OnListItems },
+    { HLM_SETTABS,       OnListLook },
     { HCM_SYSKEY,        HCOnSysKey },
     { HCM_GETDROPHEIGHT, OnGetDropHeight },
     { HCM_SETDROP,       OnSetDrop },

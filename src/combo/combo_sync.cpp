@@ -193,6 +193,24 @@ bool Mirrors(const HCombCtl* ctl, DWORD option)
 
 } // namespace
 
+bool HCHasRow(HCombCtl* ctl)
+{
+    return ctl->hDrop && CurrentOfList(ctl) >= 0;
+}
+
+bool HCAgree(HCombCtl* ctl)
+{
+    const HWND hwnd = ctl->hWnd;
+    if (!HasEdit(ctl) || !HCHasRow(ctl)) {
+        return false;
+    }
+    const bool isText = HasTexts(ctl);
+    const Value item = CurrentValue(ctl, isText);
+    Value       shown;
+    const bool  isNull = ToChild(ctl, HEM_GETDATA, comboValueSize, AsParam(shown)) <= 0;
+    return IsWindow(hwnd) && !Differs(item, shown, isText, isNull);
+}
+
 int HCSync(HCombCtl* ctl, bool fromChild, bool notify)
 {
     if (!Mirrors(ctl, fromChild ? HCO_CHILDTOLIST : HCO_LISTTOCHILD)) {

@@ -138,6 +138,9 @@ LRESULT OnOwnerItems(HCombCtl* ctl, const MsgArgs& args)
 
 LRESULT OnFromEdit(HCombCtl* ctl, int code)
 {
+    if (code == EN_CHANGE) {
+        SetFlag(ctl, HCF_TYPED, true);
+    }
     if (code == EN_CHANGE && HCTell(ctl, HCN_EDITCHANGE)) {
         HCFollowFace(ctl, true);
     } else if (code == EN_UPDATE) {

@@ -93,7 +93,7 @@ LRESULT OnMouseActivate(HWND hwnd)
     return 0;
 }
 
-// The current row is taken, whether it is a new one or not.
+// The current row is taken, whether it is a new one or not. A list without one takes nothing from the edit.
 void AcceptRow(HWND drop)
 {
     const HWND hwnd = drop == hOpenDrop ? hOpenCombo : nullptr;
@@ -104,7 +104,9 @@ void AcceptRow(HWND drop)
     Notify(ctl, HCN_SELENDOK);
     if (IsWindow(hwnd) && HasEdit(ctl)) {
         ToChild(ctl, EM_SETSEL, 0, 0);
-        HCSync(ctl, false, true);
+        if (IsWindow(hwnd) && HCHasRow(ctl)) {
+            HCSync(ctl, false, true);
+        }
     }
     if (IsWindow(hwnd)) {
         HCCloseDrop(ctl);

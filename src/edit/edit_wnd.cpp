@@ -12,9 +12,11 @@ constexpr LRESULT wantChars = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
 // The library selects all by this pair.
 constexpr LPARAM selectAllEnd = 0xFFFE;
 
-LRESULT OnSize(const MsgArgs& args)
+// A new font comes this way, too: the caret has another height then, and another place.
+LRESULT OnSize(HEditCtl* ctl, const MsgArgs& args)
 {
     SendMessageA(args.hwnd, HEM_SETRECT, 0, 0);
+    RebuildCaret(ctl);
     return AskDefault(args);
 }
 
@@ -22,7 +24,11 @@ LRESULT OnSize(const MsgArgs& args)
 LRESULT OnSetFont(HEditCtl* ctl, const MsgArgs& args)
 {
     ctl->cyChar = HIWORD(GetBaseUnits(reinterpret_cast<HFONT>(args.wParam)));
-    return OnSize(args);
+    SendMessageA(args.hwnd, HEM_SETRECT, 0, 0);
+    if (LOWORD(args.lParam)) {
+        InvalidateRect(args.hwnd, nullptr, TRUE);
+    }
+    return AskDefault(args);
 }
 
 // Colours and background are others then.
@@ -123,7 +129,7 @@ LRESULT OnEditMessage(HEditCtl* ctl, const MsgArgs& args)
 LRESULT OnWindowMessage(HEditCtl* ctl, const MsgArgs& args)
 {
     switch (args.message) {
-    case WM_SIZE:        return OnSize(args);
+    case WM_SIZE:        return OnSize(ctl, args);
     case WM_SETFONT:     return OnSetFont(ctl, args);
     case WM_SETFOCUS:    return Done(OnSetFocus, ctl);
     case WM_ENABLE:      return OnEnable(args);

@@ -81,4 +81,5 @@ LRESULT     HLOnChar(HListCtl* ctl, const MsgArgs& args);
 LRESULT     HLOnButtonDown(HListCtl* ctl, const MsgArgs& args);
 LRESULT     HLOnMouseMove(HListCtl* ctl, const MsgArgs& args);
 LRESULT     HLOnButtonUp(HListCtl* ctl, const MsgArgs& args);
+void        HLEndPress(HListCtl* ctl); // what was dragged so far counts. The host hears of it.
 LRESULT     HLOnPaint(HListCtl* ctl, const MsgArgs& args);

@@ -71,8 +71,19 @@ int ScrollMaximum(const HListCtl* ctl)
     return std::max(maximum, 0);
 }
 
+// The highest position that scrolling reaches.
+int HighestPosition(const HListCtl* ctl)
+{
+    const int last = std::max(LastItem(ctl), -1);
+    const int rows = std::max<int>(ctl->cRows, 1);
+    const int highest = HasColumns(ctl) ? Partial(ctl) + 1 + last / rows - ctl->cCols
+                                        : Partial(ctl) - ctl->cRows + HLCount(ctl);
+    return std::max(highest, 0);
+}
+
 // The first visible item doesn't lie behind the last one, and the scroll position goes with it whether items went, rows
-// became more or fewer, or others came in front of the item that a field shows: or nothing would be painted.
+// became more or fewer, or others came in front of the item that a field shows: or nothing would be painted. A list
+// without columns doesn't stand further on than it scrolls either, or it would show blank rows below its last items.
 void LimitTop(HListCtl* ctl)
 {
     const int last = std::max(LastItem(ctl), 0);
@@ -82,20 +93,11 @@ void LimitTop(HListCtl* ctl)
         return;
     }
     const int current = IsField(ctl) ? HLCurIndex(ctl) : -1;
-    if (current >= 0 || ctl->nTop > last) {
-        ctl->nTop = std::min(current >= 0 ? current : last, last);
+    const int highest = IsField(ctl) ? last : std::min(last, HighestPosition(ctl));
+    if (current >= 0 || ctl->nTop > highest) {
+        ctl->nTop = std::min(current >= 0 ? current : highest, highest);
         ctl->nScrollPos = ctl->nTop;
     }
-}
-
-// The highest position that scrolling reaches.
-int HighestPosition(const HListCtl* ctl)
-{
-    const int last = std::max(LastItem(ctl), -1);
-    const int rows = std::max<int>(ctl->cRows, 1);
-    const int highest = HasColumns(ctl) ? Partial(ctl) + 1 + last / rows - ctl->cCols
-                                        : Partial(ctl) - ctl->cRows + HLCount(ctl);
-    return std::max(highest, 0);
 }
 
 // false: a bar that came or went has changed the window's size, and the parent, which was asked for the new layout, has

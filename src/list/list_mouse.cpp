@@ -73,23 +73,28 @@ LRESULT HLOnMouseMove(HListCtl* ctl, const MsgArgs& args)
     return 0;
 }
 
-LRESULT HLOnButtonUp(HListCtl* ctl, const MsgArgs& args)
+void HLEndPress(HListCtl* ctl)
 {
-    if (!HasFlag(ctl, HLF_TRACKING)) {
-        return 0;
-    }
+    const HWND hwnd = ctl->hWnd;
     const int current = HLCurIndex(ctl);
     if (HasStyle(ctl, HLS_EXTSEL)) {
         HLSelectRange(ctl, ctl->nAnchor, current, HasFlag(ctl, HLF_DRAGSET) ? HLSEL_SET : HLSEL_CLEAR);
     }
     SetFlag(ctl, HLF_TRACKING | HLF_MOUSEDOWN, false);
-    if (GetCapture() == args.hwnd) {
+    if (GetCapture() == hwnd) {
         ReleaseCapture();
     }
-    if (IsWindow(args.hwnd) && current != gCurrentAtPress) {
+    if (IsWindow(hwnd) && current != gCurrentAtPress) {
         HLUpdateLinks(ctl);
         SetFlag(ctl, CF_CHANGED, true);
         Notify(ctl, HLN_SELCHANGE);
+    }
+}
+
+LRESULT HLOnButtonUp(HListCtl* ctl, const MsgArgs&)
+{
+    if (HasFlag(ctl, HLF_TRACKING)) {
+        HLEndPress(ctl);
     }
     return 0;
 }

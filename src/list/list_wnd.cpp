@@ -231,7 +231,20 @@ LRESULT OnIsNull(HListCtl* ctl, const MsgArgs& args)
 LRESULT OnCancelMode(HListCtl* ctl, const MsgArgs& args)
 {
     ctl->wFlags |= CF_CANCEL;
-    return AskDefault(args);
+    if (HasFlag(ctl, HLF_TRACKING)) {
+        HLEndPress(ctl);
+    }
+    return IsWindow(args.hwnd) ? AskDefault(args) : 0;
+}
+
+// Who loses the mouse doesn't hear that the button goes up: the moves that come later are no dragging.
+LRESULT OnCaptureChanged(HListCtl* ctl, const MsgArgs& args)
+{
+    const bool loses = reinterpret_cast<HWND>(args.lParam) != args.hwnd;
+    if (loses && HasFlag(ctl, HLF_TRACKING)) {
+        HLEndPress(ctl);
+    }
+    return IsWindow(args.hwnd) ? AskDefault(args) : 0;
 }
 
 LRESULT OnWindowMessage(HListCtl* ctl, const MsgArgs& args)
@@ -267,6 +280,7 @@ LRESULT OnInput(HListCtl* ctl, const MsgArgs& args)
     case WM_MOUSEMOVE:     return HLOnMouseMove(ctl, args);
     case WM_LBUTTONUP:     return HLOnButtonUp(ctl, args);
     case WM_LBUTTONDBLCLK: return OnDoubleClick(ctl);
+    case WM_CAPTURECHANGED: return OnCaptureChanged(ctl, args);
     case WM_VSCROLL:       return OnVScroll(ctl, args);
     case WM_HSCROLL:       return OnHScroll(ctl, args);
     case WM_SETCURSOR:     return OnSetCursor();

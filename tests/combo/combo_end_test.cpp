@@ -110,8 +110,9 @@ TEST_F(ComboEnd, InNotificationsOfTheFocus)
           } },
         { "leave with a beginning", HCN_SELCHANGE, edits,
           [this] {
-              SendMessageA(face, HEM_SETDATA, 0, AsParam("pe"));
-              SendMessageA(list, HLM_SETCURRENT, 1, 0);
+              parent.On(HCN_SELCHANGE, nullptr); // typing moves the list already
+              Type("pe");
+              DestroyIn(HCN_SELCHANGE);
               Blur();
           } },
         { "enter", HCN_SETFOCUS, edits,

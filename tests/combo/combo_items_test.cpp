@@ -85,7 +85,23 @@ TEST_F(ComboItems, FaceFollowsAChangeOfItems)
     EXPECT_EQ("", Text()) << "no item, no text";
     SendPtr(WM_SETTEXT, 0, "typed");
     HCAddItemEx(combo, "c", nullptr);
-    EXPECT_EQ("", Text()) << "a list without a current item clears the edit";
+    EXPECT_EQ("typed", Text()) << "a list that had no current item and has none takes nothing from the edit";
+}
+
+// Remembering what was typed, suggesting items for it, and reading them.
+TEST_F(ComboItems, TypedTextStaysWhenItemsAreAddedAndRead)
+{
+    const char* const suggestions[] = { "Zug", "Zollikon" };
+    char              first[128];
+    Make("%120%ss", edits | HCS_3DBORDER);
+    Focus();
+    Type("Zurich");
+    HCAddItems(combo, 2, suggestions);
+    EXPECT_EQ("Zurich", Text());
+    HCGetItems(combo, 1, 1, first, HLI_ALL, nullptr);
+    EXPECT_EQ("Zurich", Text());
+    HCAddItemEx(combo, Text().c_str(), nullptr);
+    EXPECT_EQ("Zurich", Text());
 }
 
 TEST_F(ComboItems, FieldShowsTheListsItems)
@@ -94,6 +110,77 @@ TEST_F(ComboItems, FieldShowsTheListsItems)
     Add({ "a", "b" });
     EXPECT_EQ(2, ToFace(HLM_GETCOUNT));
     EXPECT_EQ(Ctl()->pDrop->items.pValues, RecordOf<HListCtl>(Face())->items.pValues);
+}
+
+// The field's item by its index, by what it paints first, and by its text.
+class ComboFieldItems : public ComboItems {
+protected:
+    void ExpectShown(int index, const std::string& text, const char* when) const
+    {
+        EXPECT_EQ(index, Current()) << when;
+        EXPECT_EQ(index, FieldCurrent()) << when;
+        EXPECT_EQ(index, RecordOf<HListCtl>(Face())->nTop) << when;
+        EXPECT_EQ(text, Text()) << when;
+    }
+};
+
+TEST_F(ComboFieldItems, FieldKeepsItsItemWhenOthersComeAndGoInFrontOfIt)
+{
+    Make("%120%ss", fields);
+    Add({ "b", "c", "d" });
+    Send(CB_SETCURSEL, 1);
+    SendPtr(CB_INSERTSTRING, 0, "a");
+    ExpectShown(2, "c", "inserted in front");
+    SendPtr(CB_INSERTSTRING, 3, "cc");
+    ExpectShown(2, "c", "inserted behind");
+    Send(CB_DELETESTRING, 0);
+    ExpectShown(1, "c", "deleted in front");
+    Send(CB_DELETESTRING, 3);
+    ExpectShown(1, "c", "deleted behind");
+    EXPECT_EQ(Ints(), Told()) << "a host that changes the items isn't told of it";
+}
+
+TEST_F(ComboFieldItems, FieldKeepsItsItemWhenOthersSortInFrontOfIt)
+{
+    Make("%120%ss", fields | HLS_SORTDATA);
+    Add({ "m", "n" });
+    SendPtr(CB_SELECTSTRING, static_cast<WPARAM>(-1), "m");
+    Add({ "c", "b", "a" });
+    ExpectShown(3, "m", "sorted");
+}
+
+TEST_F(ComboFieldItems, FieldShowsTheListsItemAfterItsOwnHasGone)
+{
+    Make("%120%ss", fields);
+    Add({ "a", "b", "c", "d" });
+    Send(CB_SETCURSEL, 3);
+    Send(CB_DELETESTRING, 3);
+    EXPECT_EQ(Current(), FieldCurrent());
+    Send(CB_DELETESTRING, 2);
+    EXPECT_EQ(Current(), FieldCurrent());
+    EXPECT_EQ(Current() < 0 ? "" : ItemText(Current()), Text());
+}
+
+TEST_F(ComboFieldItems, RefilledFieldShowsTheListsItem)
+{
+    Make("%120%ss", fields);
+    Add({ "a", "b", "c", "d" });
+    Send(CB_SETCURSEL, 3);
+    Send(CB_RESETCONTENT);
+    Add({ "p", "q", "r", "s", "t" });
+    EXPECT_EQ(Current(), FieldCurrent());
+    EXPECT_EQ(Current() < 0 ? "" : ItemText(Current()), Text());
+}
+
+TEST_F(ComboFieldItems, ChangeByTheUserStaysOneWhenItemsComeInFront)
+{
+    Make("%120%ss", fields);
+    Add({ "b", "c", "d" });
+    Focus();
+    Key(VK_DOWN);
+    ASSERT_EQ(1, Send(WWM_GETCHANGED));
+    SendPtr(CB_INSERTSTRING, 0, "a");
+    EXPECT_EQ(1, Send(WWM_GETCHANGED));
 }
 
 TEST_F(ComboItems, AreSharedByTwoCombos)

@@ -2,6 +2,8 @@
 #include "combo_window.h"
 #include "support/held_keys.h"
 
+#include <cstring>
+
 namespace {
 
 constexpr DWORD edits = HCS_DROPDOWN | HCS_EDIT;
@@ -100,6 +102,147 @@ TEST_F(ComboKeys, LeavingPutsTheItemInThePlaceOfItsBeginning)
     Blur();
     EXPECT_EQ("pear", Text());
     EXPECT_EQ((Ints{ HCN_SELCHANGE, HCN_KILLFOCUS }), Told());
+}
+
+// Values that the user hasn't typed.
+class ComboLeaving : public ComboKeys {
+protected:
+    void ExpectLeft(const char* text, const char* when)
+    {
+        Told();
+        Blur();
+        EXPECT_EQ(text, Text()) << when;
+        EXPECT_EQ((Ints{ HCN_KILLFOCUS }), Told()) << when;
+    }
+};
+
+TEST_F(ComboLeaving, KeepsAValueThatIsNoItem)
+{
+    for (const char* const value : { "purple", "p", "pea", "apples", "" }) {
+        char linked[32] = "";
+        MakeFocused(edits, "%120%ss");
+        Blur();
+        SendPtr(HEM_LINKDATA, 1, strcpy(linked, value));
+        Focus();
+        ExpectLeft(value, value);
+        EXPECT_STREQ(value, linked);
+        EXPECT_EQ(0, Send(WWM_GETCHANGED)) << value;
+    }
+}
+
+TEST_F(ComboLeaving, KeepsANumberThatIsNoItem)
+{
+    Make("#120%ni", edits);
+    AddNumbers({ 10, 20, 30 });
+    const int number = 15;
+    SendPtr(HEM_SETDATA, 0, &number);
+    Focus();
+    Blur();
+    EXPECT_EQ(15, EditNumber());
+}
+
+TEST_F(ComboLeaving, KeepsAValueWhoseReplacementWasTakenBack)
+{
+    for (const char* const value : { "pear", "pe", "purple" }) {
+        for (const UINT undo : { EM_UNDO, WM_UNDO }) {
+            MakeFocused(edits, "%120%ss");
+            Blur();
+            SendPtr(HEM_SETDATA, 0, value);
+            Focus();
+            Type("x");
+            ASSERT_EQ("x", Text());
+            ToFace(undo);
+            ExpectLeft(value, value);
+        }
+    }
+}
+
+TEST_F(ComboLeaving, ListFollowsAValueWhoseReplacementWasTakenBack)
+{
+    MakeFocused(edits, "%120%ss");
+    SendPtr(HEM_SETDATA, 0, "pear");
+    Type("x");
+    ASSERT_EQ(-1, Current());
+    ToFace(EM_UNDO);
+    Blur();
+    EXPECT_EQ(1, Current());
+}
+
+TEST_F(ComboLeaving, KeepsATextThatTheHostSetsWhileItHasTheFocus)
+{
+    for (const char* const typed : { "", "x" }) {
+        for (const char* const value : { "plum", "pl", "blue" }) {
+            MakeFocused(edits, "%120%ss");
+            SendPtr(HEM_SETDATA, 0, "apple");
+            if (*typed) {
+                Type(typed);
+            }
+            SendPtr(WM_SETTEXT, 0, value);
+            ExpectLeft(value, value);
+        }
+    }
+}
+
+TEST_F(ComboLeaving, KeepsALinkedValueThatIsReadAnewWhileItHasTheFocus)
+{
+    for (const char* const value : { "plum", "blue" }) {
+        char linked[32] = "apple";
+        MakeFocused(edits, "%120%ss");
+        SendPtr(HEM_LINKDATA, 1, linked);
+        Blur();
+        Focus();
+        ASSERT_EQ(0, Current());
+        strcpy(linked, value);
+        ToFace(HEM_COMMIT);
+        ExpectLeft(value, value);
+        EXPECT_STREQ(value, linked);
+    }
+}
+
+TEST_F(ComboLeaving, KeepsTheSecondOfTwoItemsWithTheSameText)
+{
+    Make("%120%ss%ni", edits);
+    const int codes[] = { 1, 2 };
+    HCAddItemEx(combo, "pear", &codes[0]);
+    HCAddItemEx(combo, "pear", &codes[1]);
+    Focus();
+    Send(CB_SETCURSEL, 1);
+    ExpectLeft("pear", "not typed");
+    EXPECT_EQ(1, Current());
+}
+
+TEST_F(ComboLeaving, ClearsWhatWasTypedOverAValueThatIsNoItem)
+{
+    MakeFocused(edits, "%120%ss");
+    SendPtr(HEM_SETDATA, 0, "purple");
+    Type("violet");
+    ExpectLeft("", "typed");
+}
+
+TEST_F(ComboKeys, ReturnInAListWithoutACurrentRowTakesNothingFromTheEdit)
+{
+    MakeFocused(edits | HCS_3DBORDER, "%120%ss");
+    Type("Zurich");
+    Open();
+    Key(VK_RETURN);
+    EXPECT_FALSE(IsDropped());
+    EXPECT_EQ("Zurich", Text());
+    EXPECT_EQ((Ints{ HCN_SELENDOK, HCN_CLOSEUP }), Told());
+    EXPECT_EQ(0, SendMessageA(List(), WWM_GETCHANGED, 0, 0));
+    Blur();
+    EXPECT_EQ("Zurich", Text());
+}
+
+TEST_F(ComboKeys, ClickIntoAnEmptyListTakesNothingFromTheEdit)
+{
+    Make("%120%ss", edits | HCS_3DBORDER);
+    Focus();
+    Type("Zurich");
+    Open();
+    SendMessageA(List(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageA(List(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_FALSE(IsDropped());
+    EXPECT_EQ("Zurich", Text());
 }
 
 TEST_F(ComboKeys, ListThatLiesOpenShowsTheFocusByItsColours)

@@ -192,4 +192,34 @@ TEST_F(DropInput, AtTheBottomOfTheScreenTheListOpensAboveItsCombo)
     EXPECT_EQ("two", Text());
 }
 
+TEST_F(DropInput, ReturnTakesTheRowUnderThePointer)
+{
+    for (const DWORD style : { static_cast<DWORD>(HCS_EDIT), static_cast<DWORD>(0) }) {
+        MakeCombo(style);
+        Send(combo, CB_SETCURSEL, 1);
+        Open();
+        MoveMouse(drop, 10, MiddleOf(3));
+        PumpPending();
+        ASSERT_EQ(3, +Ctl()->pDrop->nHot) << style;
+        ASSERT_EQ(1, Row()) << style;
+        Told();
+        SendMessageA(face, WM_KEYDOWN, VK_RETURN, 0);
+        EXPECT_EQ("four", Text()) << style;
+        EXPECT_EQ(3, Row()) << style;
+        EXPECT_EQ((Ints{ HCN_SELCHANGE, HCN_SELENDOK, HCN_CLOSEUP }), Told()) << style;
+        DestroyWindow(combo);
+    }
+}
+
+TEST_F(DropInput, ReturnUnderThePointerMayEndTheCombo)
+{
+    MakeCombo(HCS_EDIT);
+    Open();
+    MoveMouse(drop, 10, MiddleOf(3));
+    PumpPending();
+    parent.On(HCN_SELCHANGE, [this] { DestroyWindow(combo); });
+    SendMessageA(face, WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_FALSE(IsWindow(combo));
+}
+
 } // namespace

@@ -242,4 +242,37 @@ TEST_F(EditSelection, MovedCaretErasesItsCharacter)
     EXPECT_EQ(CaretX(Ctl(), 4), Update().right);
 }
 
+TEST_F(EditSelection, NewFontRepaintsTheFieldIfAsked)
+{
+    Create("abcdef");
+    const HFONT big = CreateFontA(-40, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, ANSI_CHARSET, OUT_DEFAULT_PRECIS,
+                                  CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, "Tahoma");
+    for (const BOOL redraw : { FALSE, TRUE }) {
+        PumpPending();
+        Settle();
+        Send(WM_SETFONT, reinterpret_cast<WPARAM>(big), redraw);
+        const RECT update = Update();
+        EXPECT_EQ(redraw == FALSE, IsRectEmpty(&update) != FALSE) << redraw;
+    }
+    Send(WM_SETFONT, 0);
+    DeleteObject(big);
+}
+
+TEST_F(EditSelection, NewFontMakesTheCaretAsHighAsItsCharacters)
+{
+    Create("abcdef", HES_KEEPSEL, 200, 60);
+    Focus();
+    SetSelection(Ctl(), 0, 3, 3);
+    const LONG  before = CaretRect().bottom - CaretRect().top;
+    const HFONT big = CreateFontA(-40, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, ANSI_CHARSET, OUT_DEFAULT_PRECIS,
+                                  CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, "Tahoma");
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(big), TRUE);
+    EXPECT_EQ(+Ctl()->cyChar, CaretRect().bottom - CaretRect().top);
+    EXPECT_LT(before, CaretRect().bottom - CaretRect().top);
+    EXPECT_EQ(CaretX(Ctl(), 3), Caret().x);
+    EXPECT_EQ(+Ctl()->rcText.top, Caret().y);
+    Send(WM_SETFONT, 0);
+    DeleteObject(big);
+}
+
 } // namespace

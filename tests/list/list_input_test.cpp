@@ -211,6 +211,65 @@ TEST_F(ListInput, NotificationOfAMouseRangeWaitsForTheButton)
     EXPECT_EQ((Ints{ HLN_SELCHANGE }), Told());
 }
 
+struct LostMouse {
+    const char* what;
+    void (*lose)(HWND list);
+};
+
+constexpr LostMouse lostMice[] = {
+    { "cancelled", [](HWND list) { SendMessageA(list, WM_CANCELMODE, 0, 0); } },
+    { "disabled", [](HWND list) { EnableWindow(list, FALSE); } },
+    { "another window takes it", [](HWND list) { SetCapture(GetParent(list)); } },
+    { "released", [](HWND) { ReleaseCapture(); } },
+};
+
+TEST_F(ListInput, ListThatLosesTheMouseEndsItsDrag)
+{
+    for (const LostMouse& line : lostMice) {
+        MakeWith(0, 5, 10);
+        PressButton(list, 5, MiddleOf(1));
+        MoveMouse(list, 5, MiddleOf(2));
+        ASSERT_EQ((Ints{}), Told()) << line.what;
+        line.lose(list);
+        const Ints told = Told(); // a window that is disabled may lose the focus, too
+        EXPECT_EQ(1, std::count(told.begin(), told.end(), HLN_SELCHANGE)) << line.what;
+        EXPECT_FALSE(Ctl()->wFlags & (HLF_TRACKING | HLF_MOUSEDOWN)) << line.what;
+        Send(WM_MOUSEMOVE, 0, MAKELPARAM(5, MiddleOf(4)));
+        EXPECT_EQ(2, Current()) << line.what;
+        ReleaseCapture();
+        ReleaseButton(parent.hwnd(), 500, 400);
+        EXPECT_EQ((Ints{}), Told()) << line.what;
+    }
+}
+
+TEST_F(ListInput, ListThatLosesTheMouseSelectsTheRangeSoFar)
+{
+    for (const LostMouse& line : lostMice) {
+        MakeWith(HLS_EXTSEL, 5, 10);
+        PressButton(list, 5, MiddleOf(1));
+        MoveMouse(list, 5, MiddleOf(3));
+        line.lose(list);
+        EXPECT_EQ((Ints{ 1, 2, 3 }), Selected()) << line.what;
+        ReleaseCapture();
+        ReleaseButton(parent.hwnd(), 500, 400);
+    }
+}
+
+TEST_F(ListInput, ListThatLosesTheMouseMayBeDestroyedInItsNotification)
+{
+    for (const LostMouse& line : lostMice) {
+        MakeWith(0, 5, 10);
+        PressButton(list, 5, MiddleOf(1));
+        MoveMouse(list, 5, MiddleOf(3));
+        parent.On(HLN_SELCHANGE, [this] { DestroyWindow(list); });
+        line.lose(list);
+        EXPECT_FALSE(IsWindow(list)) << line.what;
+        parent.On(HLN_SELCHANGE, nullptr);
+        ReleaseCapture();
+        ReleaseButton(parent.hwnd(), 500, 400);
+    }
+}
+
 TEST_F(ListInput, LinkIsWrittenWhenTheButtonGoesUp)
 {
     Make("%ni");

@@ -251,8 +251,8 @@ TEST_F(ListLayout, ReloadOfAScrolledListShowsItsItems)
         int                   top;
     };
     const Row rows[] = {
-        { "fewer at once", [this] { HLEmptyList(list); Fill(17); }, 16 },
-        { "a few deleted", [this] { for (int i = 0; i < 3; ++i) { HLDeleteItem(list, 0); } }, 16 },
+        { "fewer at once", [this] { HLEmptyList(list); Fill(17); }, 14 },
+        { "a few deleted", [this] { for (int i = 0; i < 3; ++i) { HLDeleteItem(list, 0); } }, 14 }, // all three rows have one
         { "another type", [this] { SendPtr(WM_SETTEXT, 0, "%ss"); Fill(30); }, 0 },
     };
     for (const Row& row : rows) {
@@ -265,6 +265,34 @@ TEST_F(ListLayout, ReloadOfAScrolledListShowsItsItems)
         EXPECT_EQ(row.top, Top()) << row.what;
         EXPECT_EQ(0, ItemRect(row.top).top) << row.what;
     }
+}
+
+TEST_F(ListLayout, ScrolledListThatGetsShorterFillsItsRowsAndKeepsTheOthersInReach)
+{
+    for (const int count : { 1, 9, 10, 11, 12 }) {
+        Make();
+        ShowRows(10);
+        Fill(20);
+        Send(HLM_SCROLL, 10);
+        ASSERT_EQ(10, Top());
+        HLEmptyList(list);
+        Fill(count);
+        EXPECT_EQ(std::max(count - 10, 0), Top()) << count;
+        EXPECT_EQ(Top(), +Ctl()->nScrollPos) << count;
+        Send(WM_VSCROLL, SB_LINEDOWN);
+        EXPECT_EQ(std::max(count - 10, 0), Top()) << count;
+    }
+}
+
+TEST_F(ListLayout, ScrolledListThatGetsTallerFillsItsRows)
+{
+    Make();
+    ShowRows(3);
+    Fill(20);
+    Send(HLM_SCROLL, 17);
+    ShowRows(12);
+    EXPECT_EQ(8, Top());
+    EXPECT_EQ(11 * RowHeight(), ItemRect(19).top);
 }
 
 TEST_F(ListLayout, ColumnsOfAScrolledListGoOnFromItsFirstOneWithMoreRowsOrFewer)
