@@ -60,6 +60,17 @@ void SelectionZone(HGridCtl* ctl, RECT* zone, Cell anchor, Cell cur)
     HGZoneRect(ctl, zone, HGIsFixedCol(ctl, std::min(anchor.col, cur.col)));
 }
 
+// From a fixed column into the scrolling zone a range takes all fixed columns behind it, also where its other end has been
+// scrolled under them.
+void ReachZone(HGridCtl* ctl, RECT* rect, int colA, int colB)
+{
+    if (HGIsFixedCol(ctl, colA) != HGIsFixedCol(ctl, colB)) {
+        RECT zone;
+        HGScrollRect(ctl, &zone);
+        rect->right = std::max(rect->right, zone.left);
+    }
+}
+
 int CellsRect(HGridCtl* ctl, RECT* rect, Cell anchor, Cell cur)
 {
     HGCellRect(ctl, rect, anchor.col, anchor.row, false);
@@ -71,6 +82,7 @@ int CellsRect(HGridCtl* ctl, RECT* rect, Cell anchor, Cell cur)
     HGCellRect(ctl, &other, cur.col, cur.row, false);
     HGDataRect(ctl, &data);
     HGUnionRect(rect, rect, &other);
+    ReachZone(ctl, rect, anchor.col, cur.col);
     HGBoundRect(rect, rect, &data);
     return 1;
 }
@@ -80,6 +92,7 @@ void ColumnsRect(HGridCtl* ctl, RECT* rect, Cell anchor, Cell cur, HDC hdc)
     HGColExtent(ctl, rect, anchor.col);
     if (cur.col != anchor.col) {
         UniteWithColumn(ctl, rect, cur.col);
+        ReachZone(ctl, rect, anchor.col, cur.col);
     }
     const int band = BandOf(ctl, anchor.col);
     if (hdc && ctl->cBands > 1 && band == BandOf(ctl, cur.col)) {

@@ -145,4 +145,24 @@ TEST_F(GridStalePaint, RecordThatIsGivenFreeWhileTheMoveToItIsToldLeavesNoCellIn
     }
 }
 
+// The range reaches from column 0 to column 2, which is scrolled halfway under the two fixed ones.
+TEST_F(GridStalePaint, RangeFromAFixedColumnIsRemovedWholeWhereItsOtherEndIsScrolledUnderThem)
+{
+    for (const bool columns : { false, true }) {
+        for (const WORD fixedCols : { WORD{ 1 }, WORD{ 2 }, WORD{ 3 } }) {
+            SCOPED_TRACE(testing::Message() << "whole columns " << columns << ", fixed " << fixedCols);
+            MakeColumns(9, gridStyle | HGS_READONLY, fixedCols);
+            SetFocus(grid);
+            MoveTo(0, columns ? -1 : 1);
+            Send(grid, HGM_SETCURSOR, 1, static_cast<LPARAM>(PackCell(fixedCols, columns ? -1 : 2)));
+            Send(grid, HGM_SETHPOS, 120);
+            ASSERT_EQ(120, +ctl->nHScrollPos);
+            ExpectAsRepainted("scrolled");
+            MoveTo(0, 3);
+            ExpectAsRepainted("removed");
+            DestroyWindow(grid);
+        }
+    }
+}
+
 } // namespace
