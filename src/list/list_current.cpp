@@ -245,6 +245,14 @@ void HLSetCurrent(HListCtl* ctl, int index, bool notify, bool keepAnchor)
     }
 }
 
+void HLShowCurrent(HListCtl* ctl)
+{
+    const int current = HLCurIndex(ctl);
+    if (current >= 0) {
+        BringIntoView(ctl, current, ctl->nTop, PageEnd(ctl));
+    }
+}
+
 void HLClick(HListCtl* ctl, int index, bool shift, bool ctrl)
 {
     const HWND hwnd = ctl->hWnd;
