@@ -42,6 +42,12 @@ LRESULT OnChildValue(HCombCtl* ctl, const MsgArgs& args)
     return Mirror(ctl, args, true, AskChild(ctl, args));
 }
 
+// A buffer whose value the face takes over moves the list, too.
+LRESULT OnSetDataLink(HCombCtl* ctl, const MsgArgs& args)
+{
+    return args.wParam ? OnChildValue(ctl, args) : AskChild(ctl, args);
+}
+
 LRESULT OnListValue(HCombCtl* ctl, const MsgArgs& args)
 {
     return Mirror(ctl, args, false, AskList(ctl, args));
@@ -194,6 +200,7 @@ LRESULT OnSetOptions(HCombCtl* ctl, const MsgArgs& args)
 constexpr MessageEntry<ComboHandler> entries[] = {
     { HEM_SETDATA,       OnChildValue },
     { HEM_SETREADONLY,   AskChild },
+    { HLM_SETDATALINK,   OnSetDataLink },
     { HLM_SETBKBRUSH,    OnBothParts },
     { HLM_SETFORMAT,     OnSetFormat },
     { HLM_SETFOCUSBRUSH, OnSetFocusBrush },

@@ -151,8 +151,12 @@ LRESULT HCOnCancelMode(HCombCtl* ctl, const MsgArgs& args)
     return 0;
 }
 
+// A closed list isn't scrolled behind the user's back.
 LRESULT HCOnMouseWheel(HCombCtl* ctl, const MsgArgs& args)
 {
+    if (HasDropdown(ctl) && !HasFlag(ctl, HCF_DROPPED)) {
+        return 0;
+    }
     const bool up = GET_WHEEL_DELTA_WPARAM(args.wParam) > 0;
     ToList(ctl, WM_VSCROLL, up ? SB_PAGEUP : SB_PAGEDOWN);
     return 0;

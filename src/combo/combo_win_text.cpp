@@ -23,6 +23,7 @@ void SetTypeOfLists(HCombCtl* ctl, const char* text)
     if (!HasEdit(ctl)) {
         ToChild(ctl, WM_SETTEXT, 0, typeText);
         HCShareField(ctl);
+        InvalidateRect(ctl->hChild, nullptr, TRUE); // the item that it shows is gone
     }
     HCKeepParts(ctl);
 }

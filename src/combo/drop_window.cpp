@@ -58,6 +58,7 @@ void ShowDrop(HCombCtl* ctl)
     if (ctl->pDrop->wFlags & HLF_SHAREDLIST) {
         HLRecalc(ctl->pDrop);
     }
+    HLShowCurrent(ctl->pDrop); // it may have been scrolled away when it was open last
     ShowWindow(drop, SW_SHOW);
     BringWindowToTop(drop);
 }

@@ -96,6 +96,7 @@ int  HLScroll(HListCtl* ctl, int delta);
 
 // Input
 void HLSetCurrent(HListCtl* ctl, int index, bool notify, bool keepAnchor);
+void HLShowCurrent(HListCtl* ctl); // scrolls it into view
 void HLClick(HListCtl* ctl, int index, bool shift, bool ctrl);
 void HLDragTo(HListCtl* ctl, int target);
 int  HLFindText(HListCtl* ctl, const char* text, int start);

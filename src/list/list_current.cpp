@@ -8,11 +8,12 @@ namespace {
 
 constexpr int fieldPage = 5; // items by which Page Up and Page Down step a field
 
-// The item under the mouse is no longer marked.
+// The item under the mouse is no longer marked, and the current one, which had lost its mark to it, is again.
 void EndHotTrack(HListCtl* ctl)
 {
     if (ctl->nHot != -1) {
         HLInvalidateItem(ctl, ctl->nHot, true);
+        HLInvalidateItem(ctl, HLCurIndex(ctl), true);
         HLInvalidateSelected(ctl);
         ctl->nHot = -1;
     }
@@ -242,6 +243,14 @@ void HLSetCurrent(HListCtl* ctl, int index, bool notify, bool keepAnchor)
     }
     if (now != old && !HasFlag(ctl, HLF_TRACKING)) {
         TellMoved(ctl, notify);
+    }
+}
+
+void HLShowCurrent(HListCtl* ctl)
+{
+    const int current = HLCurIndex(ctl);
+    if (current >= 0) {
+        BringIntoView(ctl, current, ctl->nTop, PageEnd(ctl));
     }
 }
 

@@ -185,6 +185,9 @@ void HLRecalc(HListCtl* ctl)
     CountRowsAndColumns(ctl);
     const int maximum = ScrollMaximum(ctl);
     LimitTop(ctl);
+    if (ctl->nHot >= HLCount(ctl)) {
+        ctl->nHot = -1; // it went, and the mouse may stand still
+    }
     InvalidateRect(hwnd, nullptr, TRUE);
     if (ctl->nScrollPos > maximum) {
         HLScroll(ctl, 0);

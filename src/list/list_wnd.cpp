@@ -215,6 +215,13 @@ LRESULT OnHScroll(HListCtl* ctl, const MsgArgs& args)
     return 0;
 }
 
+// A list that is disabled has other colours.
+LRESULT OnEnable(const MsgArgs& args)
+{
+    InvalidateRect(args.hwnd, nullptr, TRUE);
+    return AskDefault(args);
+}
+
 LRESULT OnDoubleClick(HListCtl* ctl)
 {
     Notify(ctl, HLN_DBLCLK);
@@ -261,6 +268,7 @@ LRESULT OnWindowMessage(HListCtl* ctl, const MsgArgs& args)
     case WM_WINDOWPOSCHANGING: return OnPosChanging(ctl, args);
     case WM_NCCALCSIZE:        return OnNcCalcSize(ctl, args);
     case WM_NCPAINT:           return OnNcPaint(ctl, args);
+    case WM_ENABLE:            return OnEnable(args);
     case WM_PAINT:             return HLOnPaint(ctl, args);
     case WM_ERASEBKGND:        return OnErase(ctl, args);
     case WM_SETFOCUS:          return OnSetFocus(ctl, args);

@@ -183,6 +183,17 @@ TEST_F(ComboFieldItems, ChangeByTheUserStaysOneWhenItemsComeInFront)
     EXPECT_EQ(1, Send(WWM_GETCHANGED));
 }
 
+TEST_F(ComboFieldItems, FieldOfAnotherTypeIsPaintedAnew)
+{
+    Make("%120%ss", fields);
+    Add({ "a", "b" });
+    Send(CB_SETCURSEL, 1);
+    PumpPending();
+    ValidateRect(Face(), nullptr);
+    SendPtr(WM_SETTEXT, 0, "%ss");
+    EXPECT_TRUE(GetUpdateRect(Face(), nullptr, FALSE));
+}
+
 TEST_F(ComboItems, AreSharedByTwoCombos)
 {
     for (const DWORD style : { edits, fields, static_cast<DWORD>(0), static_cast<DWORD>(HCS_EDIT) }) {

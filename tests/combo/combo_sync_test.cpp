@@ -425,6 +425,21 @@ protected:
     }
 };
 
+TEST_F(ComboSync, ListFollowsTheValueOfALinkThatTheFaceTakesOver)
+{
+    for (const DWORD style : { edits, static_cast<DWORD>(HCS_DROPDOWN) }) {
+        char linked[32] = "pear";
+        Make("%120%ss", style);
+        Add({ "apple", "pear", "plum" });
+        SendPtr(HLM_SETDATALINK, 1, linked);
+        EXPECT_EQ("pear", Text()) << style;
+        EXPECT_EQ(1, Current()) << style;
+        HCAddItemEx(combo, "quince", nullptr);
+        EXPECT_EQ("pear", Text()) << style;
+        EXPECT_STREQ("pear", linked) << style;
+    }
+}
+
 TEST_F(ComboShorts, NumbersThatEndInAZeroByteDiffer)
 {
     MakeShorts({ 256, 512, 1, 2 });

@@ -283,6 +283,37 @@ TEST_F(DropLists, WheelScrollsByThePageInTheEnd)
     EXPECT_EQ(0, Send(drop, HLM_GETTOP));
 }
 
+TEST_F(DropLists, WheelOverAClosedOneScrollsNothing)
+{
+    MakeCombo(HCS_EDIT);
+    for (int i = 0; i < 40; ++i) {
+        HCAddItemEx(combo, "more", nullptr);
+    }
+    Send(face, WM_MOUSEWHEEL, static_cast<WPARAM>(MAKELONG(0, -120)), 0);
+    EXPECT_EQ(0, Send(drop, HLM_GETTOP));
+}
+
+TEST_F(DropLists, OpenWithTheirCurrentItemInView)
+{
+    for (const int current : { 0, 20, 44 }) {
+        MakeCombo(HCS_EDIT);
+        for (int i = 0; i < 40; ++i) {
+            HCAddItemEx(combo, "more", nullptr);
+        }
+        Send(combo, CB_SETCURSEL, static_cast<WPARAM>(current));
+        for (const int top : { 0, 44 }) {
+            Send(drop, HLM_SETTOP, static_cast<WPARAM>(top));
+            Open();
+            RECT item = {};
+            const RECT client = RecordOf<HListCtl>(drop)->rcClient;
+            EXPECT_TRUE(HLItemRect(RecordOf<HListCtl>(drop), current, &item)) << current << ", top " << top;
+            EXPECT_LE(item.bottom, client.bottom) << current << ", top " << top;
+            Close();
+        }
+        DestroyWindow(combo);
+    }
+}
+
 TEST_F(DropLists, HaveTheFocusBrushAsTheirBackgroundOnTheDesktopAlone)
 {
     MakeCombo(HCS_FOCUSBRUSH);

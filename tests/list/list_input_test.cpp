@@ -419,6 +419,34 @@ TEST_F(ListInput, HotItemFollowsTheMouse)
     EXPECT_EQ(-1, +Ctl()->nHot);
 }
 
+TEST_F(ListInput, CurrentItemIsMarkedAgainWhenItIsSetOnceMore)
+{
+    MakeWith(HLS_HOTTRACK, 5, 10);
+    Blur();
+    Send(HLM_SETCURRENT, 2);
+    Send(WM_MOUSEMOVE, 0, MAKELPARAM(5, MiddleOf(4)));
+    PumpPending();
+    ASSERT_EQ(4, +Ctl()->nHot);
+    const Invalidated work = InvalidatedBy([this] { Send(HLM_SETCURRENT, 2); });
+    const RECT        item = ItemRect(2);
+    EXPECT_LE(work.area.top, item.top);
+    EXPECT_GE(work.area.bottom, item.bottom);
+}
+
+TEST_F(ListInput, HotItemGoesWithTheItems)
+{
+    MakeWith(HLS_HOTTRACK, 5, 10);
+    Send(WM_MOUSEMOVE, 0, MAKELPARAM(5, MiddleOf(4)));
+    PumpPending();
+    ASSERT_EQ(4, +Ctl()->nHot);
+    HLEmptyList(list);
+    Fill(3);
+    EXPECT_EQ(-1, +Ctl()->nHot);
+    seen.Clear();
+    Key(VK_HOME);
+    EXPECT_EQ(0, Current());
+}
+
 TEST_F(ListInput, MouseMarksNothingWithoutHotTracking)
 {
     MakeWith(0, 5, 10);

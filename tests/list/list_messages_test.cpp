@@ -293,6 +293,18 @@ TEST_F(ListMessages, SystemMessagesAreAnswered)
     EXPECT_EQ(0, Send(WM_KILLFOCUS));
 }
 
+TEST_F(ListMessages, DisabledListIsPaintedAnew)
+{
+    Make();
+    Fill(3);
+    for (const BOOL enabled : { FALSE, TRUE }) {
+        PumpPending();
+        ValidateRect(list, nullptr);
+        EnableWindow(list, enabled);
+        EXPECT_TRUE(GetUpdateRect(list, nullptr, FALSE)) << enabled;
+    }
+}
+
 TEST_F(ListMessages, UnlistedNumberDoesNothing)
 {
     Make("%ni");
