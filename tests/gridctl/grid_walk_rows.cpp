@@ -131,7 +131,8 @@ std::vector<WalkRow> WalkRows::Loaded(const HGridCtl* ctl) const
     const size_t         size = static_cast<size_t>(ctl->pData->pRows->cbItem);
     for (int row = 0; row < HGRowCount(ctl->pData); ++row) {
         void* const node = HGRowNode(ctl->pData, row);
-        rows.push_back({ std::string(reinterpret_cast<const char*>(HGNodeData(node)), size), HGNodeFlags(node) });
+        const WORD  flags = static_cast<WORD>(HGNodeFlags(node) & ~HGR_PRESET);
+        rows.push_back({ std::string(reinterpret_cast<const char*>(HGNodeData(node)), size), flags });
     }
     return rows;
 }
