@@ -218,15 +218,6 @@ void ValidateAfterLeaving(HEditCtl* ctl)
     }
 }
 
-// What a text field without the focus shows when nothing else has been put into it.
-const char* ShownValue(const HEditCtl* ctl)
-{
-    if (!HasFlag(ctl, CF_NULL)) {
-        return static_cast<const char*>(ctl->pData);
-    }
-    return ctl->pszEmpty ? ctl->pszEmpty : "";
-}
-
 } // namespace
 
 // What the host is told of here may make it ask for the value, or take the focus: that is no second commit.
@@ -276,25 +267,10 @@ bool CommitIfFocused(HEditCtl* ctl)
     return IsWindow(hwnd);
 }
 
-// A text that was put into a field without the focus, and not by typing, has no focus to lose. Other types show another
-// form then, which isn't read.
-bool CommitForReading(HEditCtl* ctl)
-{
-    const HWND hwnd = ctl->hWnd;
-    if (IsFocused(ctl)) {
-        return CommitIfFocused(ctl);
-    }
-    const bool waits = ctl->cClass == 's' && ctl->pData && HasFlag(ctl, HEF_DIRTY) && !EntryOf(ctl);
-    if (waits && std::strcmp(FieldText(ctl), ShownValue(ctl)) != 0) {
-        CommitText(ctl, FieldText(ctl));
-    }
-    return IsWindow(hwnd);
-}
-
 void OnSetFocus(HEditCtl* ctl)
 {
     const HWND hwnd = ctl->hWnd;
-    if (!CommitForReading(ctl)) {
+    if (!CommitIfFocused(ctl)) {
         return; // a focus that comes back before the field has heard of its leaving finds what was typed
     }
     SetFlag(ctl, HEF_FOCUS, true);

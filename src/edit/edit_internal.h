@@ -252,5 +252,4 @@ constexpr UINT_PTR clockTimer = 1;
 using EditHandler = LRESULT (*)(HEditCtl* ctl, const MsgArgs& args);
 EditHandler FindEditHandler(UINT message);
 bool        CommitIfFocused(HEditCtl* ctl);    // false: the window went
-bool        CommitForReading(HEditCtl* ctl);   // before the value is read; false: the window went
 bool        CommitBeforeAsking(HEditCtl* ctl); // before the question whether the value changed; false: the window went

@@ -28,7 +28,7 @@ int SizeArg(const MsgArgs& args)
 
 LRESULT OnGetData(HEditCtl* ctl, const MsgArgs& args)
 {
-    if (!CommitForReading(ctl) || HasFlag(ctl, CF_NULL) || !args.lParam || !ctl->pData) {
+    if (!CommitIfFocused(ctl) || HasFlag(ctl, CF_NULL) || !args.lParam || !ctl->pData) {
         return 0;
     }
     if (IsStringType(ctl)) {
@@ -376,5 +376,5 @@ EditHandler FindEditHandler(UINT message)
 bool CommitBeforeAsking(HEditCtl* ctl)
 {
     const bool pending = HasFlag(ctl, HEF_DIRTY) && !HasFlag(ctl, CF_CHANGED);
-    return pending ? CommitForReading(ctl) : true;
+    return pending ? CommitIfFocused(ctl) : true;
 }
