@@ -113,8 +113,13 @@ void DemoProcess::FindWindows()
     grid_ = FindWindowExA(frame_, nullptr, "HGrid", nullptr);
     phases_ = FindWindowExA(frame_, nullptr, "HList", nullptr);
     status_ = FindWindowExA(frame_, nullptr, STATUSCLASSNAMEA, nullptr);
-    SetForegroundWindow(frame_);
-    ready_ = WaitFor([this] { return GetForegroundWindow() == frame_ && Focus() == grid_; });
+    // The end of the program before gives the foreground to some window, and may come later than this one's start.
+    ready_ = WaitFor([this] {
+        if (GetForegroundWindow() != frame_) {
+            SetForegroundWindow(frame_);
+        }
+        return GetForegroundWindow() == frame_ && Focus() == grid_;
+    });
 }
 
 bool DemoProcess::WaitFor(const std::function<bool()>& condition)

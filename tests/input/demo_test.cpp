@@ -408,10 +408,10 @@ TEST_F(DemoPhases, ShiftAndArrowsSelectARange)
     ExpectCount("4 records in 2 phases");
     Type("{Shift+Up}");
     ExpectCount("2 records in 1 phase");
-    Type("{Down}");
-    ExpectCount("2 records in 1 phase");
+    Type("{Down}"); // the count stays the same
+    EXPECT_SOON(demo->AskPhases(HLM_ISSELECTED, 1) == 1);
     EXPECT_EQ(0, demo->AskPhases(HLM_ISSELECTED, 0));
-    EXPECT_EQ(1, demo->AskPhases(HLM_ISSELECTED, 1));
+    ExpectCount("2 records in 1 phase");
 }
 
 TEST_F(DemoPhases, ButtonsSelectAllAndNoneAndLeaveTheFocus)
